@@ -1,0 +1,9 @@
+# Options that every target of ours is compiled with. The same inputs give the same bits on every target: no fused
+# multiply-add, no fast math.
+add_library(tarnwise_options INTERFACE)
+target_compile_options(tarnwise_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Werror -ffp-contract=off)
+if(TARNWISE_SANITIZE)
+  target_compile_options(tarnwise_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarnwise_options INTERFACE -fsanitize=address,undefined)
+endif()

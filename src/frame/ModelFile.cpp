@@ -1,0 +1,256 @@
+#include "frame/ModelFile.h"
+
+#include "runtime/AnsiText.h"
+#include "view/Platform.h"
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+
+namespace Tarnwise {
+
+namespace {
+
+// A tag that no Variant has: what is left of the item is not read.
+struct BadTag {};
+
+// Reads from where it stands. What does not fit any more is left as it was, and the stream stands at its end.
+class Stream {
+ public:
+  explicit Stream(const std::vector<char>& bytes) : at_(bytes.data()), end_(bytes.data() + bytes.size()) {}
+
+  template <class T>
+  bool Read(T& value) {
+    return ReadBlock(&value, sizeof value);
+  }
+
+  bool ReadBlock(void* to, std::size_t size) {
+    if (static_cast<std::size_t>(end_ - at_) < size) {
+      at_ = end_;
+      return false;
+    }
+    std::memcpy(to, at_, size);
+    at_ += size;
+    return true;
+  }
+
+  template <class T>
+  void ReadAll(std::vector<T>& items) {
+    for (T& item : items) Read(item);
+  }
+
+  bool Read(String& text) {
+    std::uint16_t length = 0;
+    if (!Read(length)) return false;
+    if (end_ - at_ < length) {
+      at_ = end_;
+      return false;
+    }
+    if (length != 0) text = FromAnsi({at_, length});
+    at_ += length;
+    return true;
+  }
+
+  void Read(Variant& value);
+
+ private:
+  template <class T>
+  void ReadAs(Variant& value) {
+    T payload{};
+    if (Read(payload)) value = payload;
+  }
+
+  const char* at_;
+  const char* end_;
+};
+
+void Stream::Read(Variant& value) {
+  std::uint16_t tag = 0;
+  if (!Read(tag)) return;
+  switch (tag) {
+    case 0: value = Variant(); return;
+    case 1: value = Null(); return;
+    case 2: ReadAs<Integer>(value); return;
+    case 3: ReadAs<Long>(value); return;
+    case 4: ReadAs<Single>(value); return;
+    case 5: ReadAs<Double>(value); return;
+    case 6: ReadAs<Currency>(value); return;
+    case 7: ReadAs<Date>(value); return;
+    case 8: {
+      String text;
+      if (Read(text)) value = text;
+      return;
+    }
+    case 11: {
+      std::int16_t flag = 0;
+      if (Read(flag)) value = flag != 0;
+      return;
+    }
+    case 17: ReadAs<std::uint8_t>(value); return;
+    default: throw BadTag();
+  }
+}
+
+void ClearHeader(ModelHeader& item) {
+  item = {};
+  item.Unused.Allocate(6);
+}
+
+void ClearAlternatives(AlternativeList& item) {
+  item.Unused1.Allocate(kMaxAlternatives);
+  item.Unused2.Allocate(kMaxAlternatives);
+}
+
+void ClearAttributes(AttributeList& item) {
+  item.AttName.Allocate(kMaxAtts);
+  item.AttDescription.Allocate(kMaxAtts);
+  item.AttOrientation.Allocate(kMaxAtts);
+  item.Unused.Allocate(kMaxAtts);
+}
+
+void ClearValueData(AttValueData& item) {
+  for (auto* numbers : {&item.ScoreMin, &item.ScoreMax, &item.Unused1, &item.WorstScore, &item.BestScore,
+                        &item.ValueFuncA, &item.ValueFuncB, &item.Unused3, &item.Unused4}) {
+    numbers->Allocate(kMaxAtts);
+  }
+  item.Unused2.assign(64, 0);
+  item.ValuePointCount.Allocate(kMaxAtts);
+  item.ValueFuncType.Allocate(kMaxAtts);
+  item.ValuePointX.Allocate(kMaxAtts, kMaxCurvePoints);
+  item.ValuePointY.Allocate(kMaxAtts, kMaxCurvePoints);
+}
+
+void ClearSaved(SavedJudgments& item) {
+  item = {};
+  item.SavedWeights.Allocate(kMaxAtts);
+  item.SavedWeightsH.Allocate(kMaxAtts);
+  item.SavedWeightsL.Allocate(kMaxAtts);
+}
+
+void ReadHeader(Stream& in, ModelHeader& item) {
+  for (String& text : item.Unused.Items()) in.Read(text);
+  in.Read(item.UnusedNumber);
+  in.Read(item.NumAtts);
+  in.Read(item.UnusedLast);
+}
+
+void ReadAlternatives(Stream& in, AlternativeList& item) {
+  for (String& text : item.Unused1.Items()) in.Read(text);
+  for (String& text : item.Unused2.Items()) in.Read(text);
+}
+
+void ReadAttributes(Stream& in, AttributeList& item) {
+  for (String& text : item.AttName.Items()) in.Read(text);
+  for (String& text : item.AttDescription.Items()) in.Read(text);
+  for (String& text : item.AttOrientation.Items()) in.Read(text);
+  in.ReadAll(item.Unused.Items());
+}
+
+void ReadValueData(Stream& in, AttValueData& item) {
+  in.ReadAll(item.ScoreMin.Items());
+  in.ReadAll(item.ScoreMax.Items());
+  in.ReadAll(item.Unused1.Items());
+  in.ReadAll(item.WorstScore.Items());
+  in.ReadAll(item.BestScore.Items());
+  in.ReadAll(item.Unused2);
+  in.ReadAll(item.ValuePointCount.Items());
+  for (Variant& x : item.ValuePointX.Items()) in.Read(x);
+  for (Variant& y : item.ValuePointY.Items()) in.Read(y);
+  in.ReadAll(item.ValueFuncType.Items());
+  in.ReadAll(item.ValueFuncA.Items());
+  in.ReadAll(item.ValueFuncB.Items());
+  in.ReadAll(item.Unused3.Items());
+  in.ReadAll(item.Unused4.Items());
+}
+
+void ReadSaved(Stream& in, SavedJudgments& item) {
+  in.Read(item.RJType);
+  in.Read(item.SavedBRefAttID);
+  in.Read(item.SavedCRefAttID);
+  in.Read(item.SavedRefAttWR);
+  in.ReadAll(item.SavedWeights.Items());
+  in.ReadAll(item.SavedWeightsH.Items());
+  in.ReadAll(item.SavedWeightsL.Items());
+  in.Read(item.Unused);
+}
+
+// One item is one read: a bad tag abandons the rest of it, and the next one starts where the stream stands.
+template <class Read>
+void Leniently(Read read) {
+  try {
+    read();
+  } catch (const BadTag&) {
+    return;
+  }
+}
+
+std::filesystem::path PathOf(const String& text) {
+  return std::filesystem::path(std::u8string(text.begin(), text.end()));
+}
+
+// All bytes of the file, which comes to be when it is missing; nothing when it can't be opened.
+std::optional<std::vector<char>> Contents(const String& text) {
+  std::error_code error;
+  const std::filesystem::path path = PathOf(text);
+  if (std::filesystem::is_directory(path, error)) return std::nullopt;
+  if (!std::filesystem::exists(path, error)) {
+    const std::ofstream made(path, std::ios::binary | std::ios::app);
+    if (!made) return std::nullopt;
+  }
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  std::vector<char> bytes;
+  const auto size = std::filesystem::file_size(path, error);
+  if (!error) bytes.resize(static_cast<std::size_t>(size));
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  return bytes;
+}
+
+}  // namespace
+
+void ClearModel(WizardData& data) {
+  ClearHeader(data.ModelHeader);
+  data.ModelSettings.Unused.assign(30, 0);
+  ClearAlternatives(data.AlternativeList);
+  ClearAttributes(data.AttributeList);
+  data.RawScores.RawScores.Allocate(kMaxAlternatives, kMaxAtts);
+  data.Scores.Scores.Allocate(kMaxAlternatives, kMaxAtts);
+  ClearValueData(data.AttValueData);
+  ClearSaved(data.SavedJudgments);
+}
+
+void ReadModel(WizardData& data, const std::vector<char>& bytes) {
+  ClearModel(data);
+  Stream in(bytes);
+  Leniently([&] { ReadHeader(in, data.ModelHeader); });
+  in.ReadAll(data.ModelSettings.Unused);
+  Leniently([&] { ReadAlternatives(in, data.AlternativeList); });
+  Leniently([&] { ReadAttributes(in, data.AttributeList); });
+  Leniently([&] {
+    for (Variant& score : data.RawScores.RawScores.Items()) in.Read(score);
+  });
+  auto& scores = data.Scores.Scores.Items();
+  in.ReadBlock(scores.data(), scores.size() * sizeof(Double));
+  Leniently([&] { ReadValueData(in, data.AttValueData); });
+  Leniently([&] { ReadSaved(in, data.SavedJudgments); });
+}
+
+void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFileName) {
+  const auto bytes = Contents(PathAndFileName);
+  if (!bytes) {
+    platform.Beep();
+    platform.MessageBox("There are problems in accessing the relevant data.", kInformation, kKesta);
+    platform.SetPointer(0);
+    return;
+  }
+  platform.SetPointer(11);
+  ReadModel(data, *bytes);
+  data.OrderChanged = false;
+  data.BRefAttID = 0;
+  data.CRefAttID = 0;
+  platform.SetPointer(0);
+}
+
+}  // namespace Tarnwise

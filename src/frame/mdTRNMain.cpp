@@ -1,0 +1,19 @@
+#include "frame/mdTRNMain.h"
+
+#include "frame/ModelFile.h"
+#include "runtime/Text.h"
+
+namespace Tarnwise {
+
+WizardData::WizardData() { ClearModel(*this); }
+
+Double WizardData::Orientation(int i) const { return Val(AttributeList.AttOrientation[i]); }
+
+WizardData& mdTRNMain() {
+  thread_local WizardData data;
+  return data;
+}
+
+String HelpPath(const WizardData& data) { return data.KestaDir + "\\KESTA.HLP"; }
+
+}  // namespace Tarnwise

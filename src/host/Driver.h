@@ -1,0 +1,45 @@
+// How a script's user acts under one toolkit: the control tree itself, or real mouse and key events to real widgets.
+// The player has tested beforehand that a person could do it.
+#pragma once
+
+#include "view/Form.h"
+
+#include <functional>
+#include <memory>
+
+namespace Tarnwise {
+
+class Platform;
+
+struct KeyStroke {
+  int Code = 0;       // virtual key
+  int Character = 0;  // what it types as a code point, 0: nothing. Ctrl+V is 22, Ctrl+A is 1
+  int Shift = 0;      // 1 Shift, 2 Ctrl
+};
+
+class Driver {
+ public:
+  virtual ~Driver() = default;
+
+  virtual std::shared_ptr<Platform> Screen() = 0;
+  // What a modal call does until its form is hidden: the script's next line; false at its end.
+  virtual void SetPump(std::function<bool()> pump) = 0;
+
+  virtual void Click(Control& control) = 0;
+  virtual void Select(Control& list, int index) = 0;  // in the control's own numbers
+  virtual void PressTool(Toolbar& toolbar, const String& key) = 0;
+  virtual void Focus(Control& control) = 0;  // in a text box the caret stands at the end
+  virtual void Key(Form& form, const KeyStroke& key) = 0;
+  virtual void Grab(Control& source) = 0;
+  virtual void Over(Control& target, Single x, Single y) = 0;  // in the target's scale
+  virtual void Drop() = 0;
+  virtual void Scroll(VScrollBar& bar, int value) = 0;
+  virtual void Tick(Timer& timer) = 0;
+  virtual void Close(Form& form) = 0;
+  virtual bool Shot(Form& form, const String& path) = 0;  // false: this toolkit takes no pictures
+};
+
+std::unique_ptr<Driver> MakeHeadlessDriver();
+std::unique_ptr<Driver> MakeQtDriver();  // needs a QApplication
+
+}  // namespace Tarnwise

@@ -1,0 +1,86 @@
+#include "runtime/AnsiText.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace Tarnwise {
+
+namespace {
+
+// Code points of the bytes 0x80 to 0x9F; all other bytes stand for themselves.
+constexpr std::array<char16_t, 32> kHigh = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void AppendUtf8(String& text, char32_t c) {
+  const auto put = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
+  if (c < 0x80) {
+    put(c);
+  } else if (c < 0x800) {
+    put(0xC0U | (c >> 6U));
+    put(0x80U | (c & 0x3FU));
+  } else {
+    put(0xE0U | (c >> 12U));
+    put(0x80U | ((c >> 6U) & 0x3FU));
+    put(0x80U | (c & 0x3FU));
+  }
+}
+
+// The next character of a UTF-8 text from position i on, moving i behind it; nothing where the text is malformed.
+std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i) {
+  const auto at = [&text](std::size_t k) -> std::uint32_t { return static_cast<unsigned char>(text[k]); };
+  const std::uint32_t lead = at(i);
+  std::size_t more = 0;
+  std::uint32_t c = lead;
+  if (lead >= 0xF0 && lead < 0xF8) {
+    more = 3;
+    c = lead & 0x07U;
+  } else if (lead >= 0xE0 && lead < 0xF0) {
+    more = 2;
+    c = lead & 0x0FU;
+  } else if (lead >= 0xC2 && lead < 0xE0) {
+    more = 1;
+    c = lead & 0x1FU;
+  } else if (lead >= 0x80) {
+    return std::nullopt;
+  }
+  if (text.size() - i <= more) return std::nullopt;
+  for (std::size_t k = 1; k <= more; ++k) {
+    if ((at(i + k) & 0xC0U) != 0x80U) return std::nullopt;
+    c = (c << 6U) | (at(i + k) & 0x3FU);
+  }
+  i += more + 1;
+  return c;
+}
+
+}  // namespace
+
+String FromAnsi(std::string_view bytes) {
+  String text;
+  text.reserve(bytes.size());
+  for (const char raw : bytes) {
+    const auto byte = static_cast<unsigned char>(raw);
+    AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kHigh[byte - 0x80U] : byte);
+  }
+  return text;
+}
+
+std::optional<std::string> ToAnsi(std::string_view text) {
+  std::string bytes;
+  for (std::size_t i = 0; i < text.size();) {
+    const auto c = NextCharacter(text, i);
+    if (!c) return std::nullopt;
+    if (*c < 0x80 || (*c >= 0xA0 && *c <= 0xFF)) {
+      bytes += static_cast<char>(static_cast<unsigned char>(*c));
+      continue;
+    }
+    const auto* const found = std::find(kHigh.begin(), kHigh.end(), *c);
+    if (found == kHigh.end()) return std::nullopt;
+    bytes += static_cast<char>(0x80 + (found - kHigh.begin()));
+  }
+  return bytes;
+}
+
+}  // namespace Tarnwise

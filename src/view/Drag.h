@@ -1,0 +1,44 @@
+// Automatic drag: a source is carried over the form, the control under the pointer is told, and gets the drop. Toolkits
+// feed it with pointer positions, and the keyboard gives the very same notifications.
+#pragma once
+
+#include "view/Controls.h"
+
+namespace Tarnwise {
+
+class DragSession {
+ public:
+  bool Active() const { return source_ != nullptr; }
+  Control* Source() const { return source_; }
+  Control* Target() const { return target_; }
+
+  void Begin(Control& source);
+
+  // The pointer stands at (x, y) of a control that takes drags, in that control's scale; or over nothing that does.
+  void Over(Control& target, Single x, Single y);
+  void OverNothing();
+  // The pointer stands at (x, y) of the source's form, in twips.
+  void OverPoint(Single x, Single y);
+
+  void Drop();    // on the present target; without one nothing happens
+  void Cancel();  // the target gets its leave
+
+  // Keyboard: arrows walk the targets, or move the pointer by units of the target's scale. Returns false when the key
+  // is none of the drag's.
+  bool Key(int code, bool shift);
+
+  void Forget(const Control& control);
+
+ private:
+  void Notify(DragState state);
+  void Step(Single dx, Single dy);
+  void Walk(int by);
+  void WalkAcross();
+
+  Control* source_ = nullptr;
+  Control* target_ = nullptr;
+  Single x_ = 0.0F;
+  Single y_ = 0.0F;
+};
+
+}  // namespace Tarnwise

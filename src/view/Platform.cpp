@@ -1,0 +1,160 @@
+#include "view/Platform.h"
+
+#include "view/Dispatch.h"
+#include "view/Reach.h"
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+template <class T>
+void Remove(std::vector<T>& from, T what) {
+  from.erase(std::remove(from.begin(), from.end(), what), from.end());
+}
+
+constexpr int kCritical = 16;
+
+}  // namespace
+
+String HandlerName(const Form& form, const String& control, const char* event) {
+  return form.Name + "." + control + "_" + event;
+}
+
+Platform::Platform(std::shared_ptr<Toolkit> toolkit) : toolkit_(std::move(toolkit)) {}
+
+Platform::~Platform() = default;
+
+void Platform::Created(Form& form) { forms_.push_back(&form); }
+
+void Platform::Show(Form& form) {
+  if (form.Visible || form.Released) return;
+  form.Visible = true;
+  Remove(shownOrder_, &form);
+  shownOrder_.push_back(&form);
+  if (form.ActiveControl == nullptr) form.ActiveControl = NextInTabOrder(form, false);
+  form.Activate();
+  if (Trace.Shown) Trace.Shown(form, false);
+  SyncAll();
+  toolkit_->Show(form, IsModal(form));
+}
+
+void Platform::ShowModal(Form& form) {
+  if (form.Released) return;
+  const bool hidden = !form.Visible;
+  form.Visible = true;
+  Remove(shownOrder_, &form);
+  shownOrder_.push_back(&form);
+  modal_.push_back(&form);
+  if (form.ActiveControl == nullptr) form.ActiveControl = NextInTabOrder(form, false);
+  form.Activate();
+  if (hidden && Trace.Shown) Trace.Shown(form, true);
+  SyncAll();
+  toolkit_->Show(form, true);
+  toolkit_->RunModal(form);
+  const auto call = std::find(modal_.rbegin(), modal_.rend(), &form);
+  if (call != modal_.rend()) modal_.erase(std::next(call).base());
+}
+
+void Platform::Hide(Form& form) {
+  if (!form.Visible) return;
+  form.Visible = false;
+  Remove(shownOrder_, &form);
+  if (Drag.Active() && &Drag.Source()->Owner == &form) Drag.Forget(*Drag.Source());
+  if (Trace.Hidden) Trace.Hidden(form);
+  toolkit_->Hide(form);
+}
+
+void Platform::Release(Form& form) {
+  if (form.Released) return;
+  Hide(form);
+  form.Released = true;
+  form.Disconnect();
+  Remove(forms_, &form);
+  if (Trace.Released) Trace.Released(form);
+  toolkit_->Release(form);
+}
+
+void Platform::Centre(Form& form) {
+  form.Left = (toolkit_->ScreenWidth() - form.Width) / 2.0F;
+  form.Top = (toolkit_->ScreenHeight() - form.Height) / 2.0F;
+}
+
+bool Platform::IsModal(const Form& form) const { return std::find(modal_.begin(), modal_.end(), &form) != modal_.end(); }
+
+Form* Platform::ActiveForm() const {
+  for (auto form = modal_.rbegin(); form != modal_.rend(); ++form) {
+    if ((*form)->Visible) return *form;
+  }
+  return shownOrder_.empty() ? nullptr : shownOrder_.back();
+}
+
+void Platform::MessageBox(const String& text, int style, const String& title) {
+  ++messagesShown_;
+  if (Trace.MessageBox) Trace.MessageBox(text, style, title);
+  SyncAll();
+  toolkit_->MessageBox(ActiveForm(), text, style, title);
+}
+
+void Platform::Beep() {
+  if (Trace.Beep) Trace.Beep();
+  toolkit_->Beep();
+}
+
+void Platform::SetPointer(int pointer) {
+  pointer_ = pointer;
+  if (Trace.Pointer) Trace.Pointer(pointer);
+  toolkit_->SetPointer(pointer);
+}
+
+void Platform::Help(Form& form, const String& path, int command, int context) {
+  if (Trace.Help) Trace.Help(path, command, context);
+  toolkit_->Help(form, path, command, context);
+}
+
+void Platform::SetFocus(Control& control) {
+  Form& form = control.Owner;
+  if (form.Released || !IsUsable(control) || form.ActiveControl == &control) return;
+  Control* const former = form.ActiveControl;
+  form.ActiveControl = &control;
+  if (Trace.Focus) Trace.Focus(control);
+  // What had the focus only on the way to a message raises no check of its own.
+  if (former != nullptr && LosingFocus == 0) RaiseEvent(*former, "LostFocus", former->LostFocus);
+  if (form.ActiveControl == &control) {
+    toolkit_->Focus(control);
+    RaiseEvent(control, "GotFocus", control.GotFocus);
+  }
+}
+
+void Platform::AnnounceChange(Control& control) { toolkit_->AnnounceChange(control); }
+
+void Platform::ReportError(const RuntimeError& error, const String& in) {
+  if (pointer_ != 0) SetPointer(0);
+  if (Trace.Failed && Trace.Failed(error, in)) {
+    ++messagesShown_;
+    return;
+  }
+  MessageBox("Run-time error '" + std::to_string(error.Number()) + "':\n\n" + error.Description(), kCritical, "KESTA");
+}
+
+void Platform::ReportForeignError(const String& what, const String& in) {
+  if (pointer_ != 0) SetPointer(0);
+  MessageBox("The application that opened this window reported a fault in " + in + ":\n\n" + what, kCritical, "KESTA");
+}
+
+void Platform::SyncAll() {
+  for (Form* form : std::vector<Form*>(forms_)) {
+    if (form->ChangedControls.empty()) continue;
+    toolkit_->Sync(*form);
+    for (Control* control : form->ChangedControls) control->Changed = false;
+    form->ChangedControls.clear();
+  }
+}
+
+void Platform::Forget(Control& control) {
+  Drag.Forget(control);
+  toolkit_->ControlUnloaded(control);
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,46 @@
+// Where controls stand and what a person can get at: geometry on the form, covering, hit testing, tab order.
+#pragma once
+
+#include "view/Form.h"
+
+#include <vector>
+
+namespace Tarnwise {
+
+struct Rect {
+  Single X = 0.0F;
+  Single Y = 0.0F;
+  Single W = 0.0F;
+  Single H = 0.0F;
+  bool Contains(Single x, Single y) const { return x >= X && y >= Y && x <= X + W && y <= Y + H; }
+  bool Contains(const Rect& r) const { return r.X >= X && r.Y >= Y && r.X + r.W <= X + W && r.Y + r.H <= Y + H; }
+};
+
+// Twips in a unit of the container that the control stands in, or of the control's own scale.
+Single UnitOf(const Control& container);
+
+// The control on its form, in twips.
+Rect PlaceOnForm(const Control& control);
+// The part of it that its viewports let through; no width or height when there is none.
+Rect VisiblePlace(const Control& control);
+
+bool IsOnScreen(const Control& control);  // it and all it stands in are visible
+bool IsUsable(const Control& control);    // and enabled
+bool IsCovered(const Control& control);   // a panel stands in front of it or of what it stands in
+bool TakesFocus(const Control& control);  // by its kind
+
+// Why a person can't act on the control now: "hidden", "disabled", "covered", "blocked by a modal form"; empty: can.
+String Refusal(const Control& control);
+
+// The topmost visible control at a point of the form (twips) that handles drag notifications; null when there is none.
+Control* DragTargetAt(const Form& form, Single x, Single y);
+// The control itself or the nearest container of it that handles drag notifications.
+Control* DragTargetFor(Control& control);
+
+// Children of a container, back to front.
+std::vector<Control*> ChildrenOf(const Form& form, const Control* container);
+
+// The next control that Tab goes to (or the previous one), null when there is none.
+Control* NextInTabOrder(const Form& form, bool back);
+
+}  // namespace Tarnwise

@@ -1,0 +1,35 @@
+#include "view/headless/HeadlessToolkit.h"
+
+#include "runtime/Text.h"
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr Single kTwipsPerCharacter = 90.0F;
+
+}  // namespace
+
+void HeadlessToolkit::Show(Form& /*form*/, bool /*modal*/) {}
+void HeadlessToolkit::Hide(Form& /*form*/) {}
+void HeadlessToolkit::Release(Form& /*form*/) {}
+void HeadlessToolkit::ControlUnloaded(Control& /*control*/) {}
+void HeadlessToolkit::Sync(Form& /*form*/) {}
+
+void HeadlessToolkit::RunModal(Form& form) {
+  while (form.Visible && !form.Released && Pump && Pump()) {
+  }
+}
+
+void HeadlessToolkit::MessageBox(Form* /*over*/, const String& /*text*/, int /*style*/, const String& /*title*/) {}
+void HeadlessToolkit::Beep() {}
+void HeadlessToolkit::SetPointer(int /*pointer*/) {}
+void HeadlessToolkit::Help(Form& /*form*/, const String& /*path*/, int /*command*/, int /*context*/) {}
+void HeadlessToolkit::Focus(Control& /*control*/) {}
+void HeadlessToolkit::AnnounceChange(Control& /*control*/) {}
+
+Single HeadlessToolkit::TextWidth(const String& text) { return kTwipsPerCharacter * static_cast<Single>(Length(text)); }
+Single HeadlessToolkit::ScreenWidth() { return 28800.0F; }
+Single HeadlessToolkit::ScreenHeight() { return 16200.0F; }
+
+}  // namespace Tarnwise

@@ -1,0 +1,34 @@
+// The toolkit without a screen: scripts and tests drive the control tree itself.
+#pragma once
+
+#include "view/Platform.h"
+
+namespace Tarnwise {
+
+class HeadlessToolkit : public Toolkit {
+ public:
+  // Does the next thing that a user would do while a modal form is up; false when nothing comes any more.
+  std::function<bool()> Pump;
+
+  void Show(Form& form, bool modal) override;
+  void Hide(Form& form) override;
+  void Release(Form& form) override;
+  void ControlUnloaded(Control& control) override;
+  void Sync(Form& form) override;
+  void RunModal(Form& form) override;
+  void MessageBox(Form* over, const String& text, int style, const String& title) override;
+  void Beep() override;
+  void SetPointer(int pointer) override;
+  void Help(Form& form, const String& path, int command, int context) override;
+  void Focus(Control& control) override;
+  void AnnounceChange(Control& control) override;
+  Single TextWidth(const String& text) override;
+  Single ScreenWidth() override;
+  Single ScreenHeight() override;
+};
+
+// A key typed at the control with the focus of a form: events, then what the key itself does.
+// `code` is the virtual key, `character` what it types (0: nothing), `shift` 1 Shift, 2 Ctrl.
+void TypeKey(Form& form, int code, int character, int shift);
+
+}  // namespace Tarnwise

@@ -9,10 +9,10 @@ namespace Tarnwise {
 namespace {
 
 // Code points of the bytes 0x80 to 0x9F; all other bytes stand for themselves.
-constexpr std::array<char16_t, 32> kHigh = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> kHigh = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                            0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                            0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                            0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 void AppendUtf8(String& text, char32_t c) {
   const auto put = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
@@ -51,6 +51,8 @@ std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i) {
     if ((at(i + k) & 0xC0U) != 0x80U) return std::nullopt;
     c = (c << 6U) | (at(i + k) & 0x3FU);
   }
+  constexpr std::array<std::uint32_t, 4> kLeast = {0, 0x80, 0x800, 0x10000};
+  if (c < kLeast[more]) return std::nullopt;  // written longer than it need be
   i += more + 1;
   return c;
 }

@@ -16,7 +16,7 @@ Double RoundToFourDecimals(Double x) {
   constexpr Double limit = 9223372036854775808.0;  // 2^63, the first product that a Currency does not hold
   const Double scaled = RoundHalfEven(x * 10000.0);
   if (!(scaled >= -limit && scaled < limit)) throw RuntimeError(6);
-  return scaled / 10000.0;
+  return scaled / 10000.0 + 0.0;  // the sum makes a zero positive
 }
 
 Double Divide(Double numerator, Double denominator) {

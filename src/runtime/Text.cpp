@@ -17,9 +17,8 @@ struct Decimal {
 
 Decimal DecimalOf(Double x, int significant) {
   char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(x), std::chars_format::scientific,
-                                 significant - 1)
-                       .ptr;
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, std::fabs(x), std::chars_format::scientific, significant - 1).ptr;
   Decimal d;
   d.Negative = std::signbit(x);
   const char* p = buffer;
@@ -37,6 +36,7 @@ void StripTrailingZeros(std::string& digits) {
 }
 
 String NumberTextOf(Double x, int significant) {
+  if (!std::isfinite(x)) throw RuntimeError(6);
   if (x == 0.0) return "0";
   Decimal d = DecimalOf(x, significant);
   StripTrailingZeros(d.Digits);
@@ -86,19 +86,32 @@ std::size_t NumberLength(const std::string& s) {
   return i;
 }
 
+// Whether a number that no Double holds is too large (else it is too small). The text has no blanks.
+bool IsHuge(const std::string& number) {
+  const std::size_t e = number.find('e');
+  const std::string mantissa = number.substr(0, e);
+  const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto leading = static_cast<long>(mantissa.find_first_of("123456789"));
+  if (e == std::string::npos) return leading < point;
+  const char* first = number.c_str() + e + 1;
+  const bool negative = *first == '-';
+  if (*first == '+' || *first == '-') ++first;
+  long size = 0;
+  const auto result = std::from_chars(first, number.c_str() + number.size(), size);
+  if (result.ec != std::errc()) return !negative;
+  return (point - leading) + (negative ? -size : size) > 0;
+}
+
 Double Parse(std::string number) {
-  std::replace_if(number.begin(), number.end(), [](char c) { return c == 'd' || c == 'D'; }, 'e');
+  std::replace_if(
+      number.begin(), number.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
   const char* first = number.c_str();
   if (*first == '+') ++first;
   Double x = 0.0;
   const auto result = std::from_chars(first, number.c_str() + number.size(), x);
-  if (result.ec == std::errc::result_out_of_range) {
-    // Too small reads as zero; too large has nowhere to go.
-    const auto e = number.find_first_of("eE");
-    if (e == std::string::npos ? number.find_first_of("123456789") > number.find('.') : number[e + 1] == '-') return 0.0;
-    throw RuntimeError(6);
-  }
-  return x;
+  if (result.ec == std::errc() && std::isfinite(x)) return x;
+  if (IsHuge(number)) throw RuntimeError(6);
+  return 0.0;
 }
 
 }  // namespace

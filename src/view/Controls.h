@@ -104,6 +104,7 @@ struct Label : Control {
   Property<Colour> BackColor{*this, kButtonFace};
   Property<Align> Alignment{*this, Align::Left};
   Property<bool> Bold{*this, false};
+  Property<int> Points{*this, 9};  // size of the type
   Property<bool> WordWrap{*this, false};
   Property<bool> Announces{*this, false};  // a screen reader is told of a new caption or colour
 };

@@ -76,11 +76,6 @@ void Platform::Release(Form& form) {
   toolkit_->Release(form);
 }
 
-void Platform::Centre(Form& form) {
-  form.Left = (toolkit_->ScreenWidth() - form.Width) / 2.0F;
-  form.Top = (toolkit_->ScreenHeight() - form.Height) / 2.0F;
-}
-
 bool Platform::IsModal(const Form& form) const { return std::find(modal_.begin(), modal_.end(), &form) != modal_.end(); }
 
 Form* Platform::ActiveForm() const {

@@ -60,7 +60,6 @@ class Platform {
   void ShowModal(Form& form);
   void Hide(Form& form);
   void Release(Form& form);
-  void Centre(Form& form);
 
   const std::vector<Form*>& Forms() const { return forms_; }  // in the order in which they were created
   bool IsModal(const Form& form) const;                        // its modal call is running

@@ -1,0 +1,58 @@
+#include "direct/Consistency.h"
+
+#include "runtime/Text.h"
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+// The first judged attribute of the target's orientation on the ranks from `rank` on, -1 when there is none.
+int NearestJudged(const WizardData& data, int target, int rank, int end, int step) {
+  const Double orientation = data.Orientation(target);
+  for (; rank != end; rank += step) {
+    for (int k = 0; k < data.NumAtts(); ++k) {
+      if (data.AttO[k] == rank && data.WeightDone[k] && data.Orientation(k) == orientation) return k;
+    }
+  }
+  return -1;
+}
+
+}  // namespace
+
+Limits LimitsOf(const WizardData& data, int target) {
+  Limits limits;
+  const int own = data.AttO[target];
+  const int last = std::max<int>(own, data.IsBenefit(target) ? data.BAttCount : data.CAttCount);
+  const int better = NearestJudged(data, target, own - 1, std::min(0, own - 1), -1);
+  if (better >= 0) {
+    const Double found = ToDouble(data.WeightsL[better]);
+    if (found != 0.0) limits.Upper = found;
+  }
+  const int worse = NearestJudged(data, target, own + 1, last + 1, 1);
+  if (worse >= 0) limits.Lower = ToDouble(data.WeightsH[worse]);
+  return limits;
+}
+
+bool IsWithin(const Limits& limits, Double a, Double b) {
+  return std::min(a, b) >= limits.Lower && std::max(a, b) <= limits.Upper;
+}
+
+Verdict JudgePair(const WizardData& data, int target, const HandlePoints& at) {
+  if (!IsOnChart(at)) return {kInvalid, {}, {}};
+  const Double r0 = PointToRatio(at.X0, at.Y0);
+  const Double r1 = PointToRatio(at.X1, at.Y1);
+  Verdict verdict{kNoneDecided, Format(std::min(r0, r1), "0.00"), Format(std::max(r0, r1), "0.00")};
+  if (data.IncnsistCtrl == 1) verdict.State = IsWithin(LimitsOf(data, target), r0, r1) ? kConsistent : kInconsistent;
+  return verdict;
+}
+
+Verdict JudgeReferencePair(const HandlePoints& at) {
+  if (!IsOnChart(at)) return {kInvalid, {}, {}};
+  const Double r0 = PointToRatio(at.X0, at.Y0);
+  const Double r1 = PointToRatio(at.X1, at.Y1);
+  return {kConsistent, Format(r1, "0.00"), Format(r0, "0.00")};
+}
+
+}  // namespace Tarnwise

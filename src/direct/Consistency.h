@@ -1,0 +1,35 @@
+// The verdict on a judgment: is it one at all, and does it respect the judged intervals of its neighbours in rank?
+#pragma once
+
+#include "direct/ReferenceChart.h"
+#include "frame/Groups.h"
+
+namespace Tarnwise {
+
+enum JudgmentState : Integer { kNoneDecided = 0, kInvalid = 1, kConsistent = 2, kInconsistent = 3 };
+
+// The whole interval of an attribute must lie between these, ends allowed. Only the nearest judged rank on each side
+// counts.
+struct Limits {
+  Double Lower = 0.0;    // upper bound of the nearest judged less important attribute
+  Double Upper = 100.0;  // lower bound of the nearest judged more important one
+};
+
+Limits LimitsOf(const WizardData& data, int target);
+
+bool IsWithin(const Limits& limits, Double a, Double b);  // whichever of the two is the smaller
+
+// What the two handles on the chart say. Texts are empty when the boxes are to keep theirs.
+struct Verdict {
+  JudgmentState State = kNoneDecided;
+  String Lower;
+  String Upper;
+};
+
+// An ordinary pair. With the consistency control off a region on the chart gets no state.
+Verdict JudgePair(const WizardData& data, int target, const HandlePoints& at);
+
+// The two references: their handles coincide, and no neighbour counts.
+Verdict JudgeReferencePair(const HandlePoints& at);
+
+}  // namespace Tarnwise

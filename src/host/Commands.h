@@ -1,0 +1,23 @@
+// The commands of the program. Each returns the exit status.
+#pragma once
+
+#include <tarnwise/Scalars.h>
+
+namespace Tarnwise {
+
+struct PlayOptions {
+  String Script;  // "-": standard input
+  String Toolkit = "headless";
+  String Shots = ".";
+};
+
+int PlaySession(const PlayOptions& options, int& argc, char** argv);
+
+struct RunOptions {
+  String Model;
+  bool Save = false;
+};
+
+int RunWizard(const RunOptions& options, int& argc, char** argv);
+
+}  // namespace Tarnwise

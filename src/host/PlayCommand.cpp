@@ -1,0 +1,50 @@
+#include "host/Commands.h"
+#include "host/Player.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <sstream>
+
+#ifdef TARNWISE_QT
+#include <QApplication>
+#endif
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kUnreadable = 2;
+
+int Play(Driver& driver, const PlayOptions& options) {
+  std::error_code error;
+  if (options.Shots != ".") std::filesystem::create_directories(options.Shots, error);
+  if (options.Script == "-") {
+    return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr).Play();
+  }
+  std::ifstream script(options.Script);
+  if (!script || std::filesystem::is_directory(options.Script, error)) {
+    std::cerr << "The script " << options.Script << " can't be read.\n";
+    return kUnreadable;
+  }
+  const std::filesystem::path folder = std::filesystem::path(options.Script).parent_path();
+  return Player(driver, script, folder.empty() ? "." : folder.string(), options.Shots, std::cout, std::cerr).Play();
+}
+
+}  // namespace
+
+int PlaySession(const PlayOptions& options, int& argc, char** argv) {
+  if (options.Toolkit == "headless") return Play(*MakeHeadlessDriver(), options);
+#ifdef TARNWISE_QT
+  if (options.Toolkit == "qt") {
+    const QApplication application(argc, argv);
+    return Play(*MakeQtDriver(), options);
+  }
+#endif
+  (void)argc;
+  (void)argv;
+  std::cerr << "This program has no toolkit \"" << options.Toolkit << "\".\n";
+  return kUnreadable;
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,58 @@
+// What a script asks.
+#include "frame/mdTRNMain.h"
+#include "host/ControlJson.h"
+#include "host/DataJson.h"
+#include "host/Player.h"
+#include "host/ScriptLine.h"
+#include "view/Platform.h"
+
+#include <filesystem>
+
+namespace Tarnwise {
+
+void Player::Get(const String& text) {
+  const PropertyName name = SplitProperty(text);
+  std::optional<Json> value;
+  if (name.Property == "Count") {
+    if (const auto count = CountOfArray(*screen_, name.Of)) value = Json(*count);
+  } else {
+    value = PropertyJson(NamedControl(*screen_, name.Of), name.Property);
+  }
+  if (!value) throw Refused(text + ": does not exist");
+  Print({{"get", text}, {"value", *value}});
+}
+
+void Player::Data(const String& name) {
+  const auto value = DataJson(mdTRNMain(), name);
+  if (!value) throw Refused(name + ": does not exist");
+  Print({{"data", name}, {"value", *value}});
+}
+
+void Player::Forms() {
+  Json list = Json::array();
+  for (const Form* form : screen_->Forms()) {
+    list.push_back({{"name", form->Name}, {"visible", form->Visible()}, {"modal", screen_->IsModal(*form)}});
+  }
+  Print({{"forms", list}});
+}
+
+void Player::Dump(const std::vector<String>& words) {
+  const Form* const form = words.size() > 1 ? NamedForm(*screen_, words[1]) : screen_->ActiveForm();
+  if (form == nullptr) throw Refused((words.size() > 1 ? words[1] : "the active form") + ": does not exist");
+  Json controls = Json::array();
+  for (const Control* control : form->Controls()) controls.push_back(ControlJson(*control));
+  Print({{"dump", form->Name}, {"form", ControlJson(*form)}, {"controls", controls}});
+}
+
+void Player::Shot(const String& file) {
+  Form* const form = screen_->ActiveForm();
+  if (form == nullptr) throw Refused("no form is open");
+  const std::filesystem::path path = std::filesystem::path(shots_) / file;
+  if (driver_.Shot(*form, path.string())) {
+    Print({{"shot", file}});
+  } else {
+    Print({{"shot", nullptr}});
+  }
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,16 @@
+// The results page of both judgment steps: a grid for each group on its tab.
+#pragma once
+
+#include "view/forms/WizardForm.h"
+
+namespace Tarnwise {
+
+struct ResultsControls {
+  ResultsControls(Form& form, Control& stage);
+
+  TabStrip tsWeightRatios;
+  Grid gridBRJ;
+  Grid gridCRJ;
+};
+
+}  // namespace Tarnwise

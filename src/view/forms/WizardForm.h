@@ -1,0 +1,41 @@
+// What all steps of the wizard share: the window's size, a heading, and the row of buttons at its foot.
+#pragma once
+
+#include "view/Form.h"
+
+namespace Tarnwise {
+
+constexpr Single kFormWidth = 13200.0F;
+constexpr Single kFormHeight = 8550.0F;
+constexpr Single kMargin = 300.0F;
+constexpr Single kGap = 120.0F;
+constexpr Single kHeadingHeight = 960.0F;  // of the band that the heading stands in
+constexpr Single kFootTop = 7785.0F;       // where the row of buttons begins
+constexpr Single kContentHeight = kFootTop - kHeadingHeight;
+constexpr Single kButtonWidth = 1335.0F;
+constexpr Single kButtonHeight = 420.0F;
+constexpr Single kAttButtonHeight = 375.0F;  // of every attribute button
+constexpr Single kScrollBarWidth = 255.0F;
+
+constexpr Colour kBenefitColour = 0xC0C0FF;  // light red
+constexpr Colour kCostColour = 0xFFC0C0;     // light blue
+
+// Moves a control to its place, in the scale of its container.
+void Place(Control& control, Single left, Single top, Single width, Single height);
+
+struct WizardForm : Form {
+  WizardForm(std::shared_ptr<Platform> platform, const String& name, const String& helpName);
+
+  // The words over the step: what is asked, and how it is done.
+  void SetHeading(const String& title, const String& hint);
+
+  Label lblHeading{*this, this, "lblHeading"};
+  Label lblHint{*this, this, "lblHint"};
+  CommandButton cmdBack{*this, this, "cmdBack"};
+  CommandButton cmdNext{*this, this, "cmdNext"};
+  CommandButton cmdFinish{*this, this, "cmdFinish"};
+  CommandButton cmdCancel{*this, this, "cmdCancel"};
+  CommandButton cmdHelp;
+};
+
+}  // namespace Tarnwise

@@ -3,6 +3,7 @@
 #include "runtime/AnsiText.h"
 #include "view/Platform.h"
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -11,6 +12,10 @@
 namespace Tarnwise {
 
 namespace {
+
+// No model is longer: 2469 texts, or Variants that hold one, of 65535 bytes, and the blocks. A longer file is not read
+// on.
+constexpr std::uintmax_t kLargestModel = 2469ULL * (2 + 2 + 65535) + 20000;
 
 // A tag that no Variant has: what is left of the item is not read.
 struct BadTag {};
@@ -35,9 +40,12 @@ class Stream {
     return true;
   }
 
+  // Numbers one after the other, as many as are whole.
   template <class T>
   void ReadAll(std::vector<T>& items) {
-    for (T& item : items) Read(item);
+    const std::size_t whole = std::min(items.size(), static_cast<std::size_t>(end_ - at_) / sizeof(T));
+    if (whole != 0) ReadBlock(items.data(), whole * sizeof(T));
+    if (whole < items.size()) at_ = end_;
   }
 
   bool Read(String& text) {
@@ -47,18 +55,42 @@ class Stream {
       at_ = end_;
       return false;
     }
-    if (length != 0) text = FromAnsi({at_, length});
+    const std::string_view ansi(at_, length);
+    if (IsAscii(ansi)) {
+      text = ansi;
+    } else {
+      text = FromAnsi(ansi);
+    }
     at_ += length;
     return true;
   }
 
   void Read(Variant& value);
 
+  void ReadAll(std::vector<Variant>& items) {
+    for (Variant& item : items) {
+      if (!ReadDouble(item)) Read(item);
+    }
+  }
+
  private:
+  // The short way for what nearly all Variants are; false when this is none, and then nothing has been read.
+  bool ReadDouble(Variant& value) {
+    std::uint16_t tag = 0;
+    Double payload = 0.0;
+    if (static_cast<std::size_t>(end_ - at_) < sizeof tag + sizeof payload) return false;
+    std::memcpy(&tag, at_, sizeof tag);
+    if (tag != 5) return false;
+    std::memcpy(&payload, at_ + sizeof tag, sizeof payload);
+    value.emplace<Double>(payload);
+    at_ += sizeof tag + sizeof payload;
+    return true;
+  }
+
   template <class T>
   void ReadAs(Variant& value) {
     T payload{};
-    if (Read(payload)) value = payload;
+    if (Read(payload)) value.emplace<T>(payload);
   }
 
   const char* at_;
@@ -92,6 +124,14 @@ void Stream::Read(Variant& value) {
   }
 }
 
+// What was read last time is mostly of the right size already.
+void ClearVariants(Matrix<Variant>& values, int rows, int cols) {
+  if (values.Rows() != rows || values.Cols() != cols) values.Allocate(rows, cols);
+  for (Variant& value : values.Items()) {
+    if (value.index() != 0) value.emplace<std::monostate>();
+  }
+}
+
 void ClearHeader(ModelHeader& item) {
   item = {};
   item.Unused.Allocate(6);
@@ -117,8 +157,8 @@ void ClearValueData(AttValueData& item) {
   item.Unused2.assign(64, 0);
   item.ValuePointCount.Allocate(kMaxAtts);
   item.ValueFuncType.Allocate(kMaxAtts);
-  item.ValuePointX.Allocate(kMaxAtts, kMaxCurvePoints);
-  item.ValuePointY.Allocate(kMaxAtts, kMaxCurvePoints);
+  ClearVariants(item.ValuePointX, kMaxAtts, kMaxCurvePoints);
+  ClearVariants(item.ValuePointY, kMaxAtts, kMaxCurvePoints);
 }
 
 void ClearSaved(SavedJudgments& item) {
@@ -155,8 +195,8 @@ void ReadValueData(Stream& in, AttValueData& item) {
   in.ReadAll(item.BestScore.Items());
   in.ReadAll(item.Unused2);
   in.ReadAll(item.ValuePointCount.Items());
-  for (Variant& x : item.ValuePointX.Items()) in.Read(x);
-  for (Variant& y : item.ValuePointY.Items()) in.Read(y);
+  in.ReadAll(item.ValuePointX.Items());
+  in.ReadAll(item.ValuePointY.Items());
   in.ReadAll(item.ValueFuncType.Items());
   in.ReadAll(item.ValueFuncA.Items());
   in.ReadAll(item.ValueFuncB.Items());
@@ -193,16 +233,18 @@ std::filesystem::path PathOf(const String& text) {
 std::optional<std::vector<char>> Contents(const String& text) {
   std::error_code error;
   const std::filesystem::path path = PathOf(text);
-  if (std::filesystem::is_directory(path, error)) return std::nullopt;
-  if (!std::filesystem::exists(path, error)) {
+  std::vector<char> bytes;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    if (std::filesystem::exists(path, error)) return std::nullopt;
     const std::ofstream made(path, std::ios::binary | std::ios::app);
     if (!made) return std::nullopt;
+    return bytes;
   }
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  std::vector<char> bytes;
+  // On some systems a folder can be opened, but it has no size.
   const auto size = std::filesystem::file_size(path, error);
-  if (!error) bytes.resize(static_cast<std::size_t>(size));
+  if (error) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(size, kLargestModel)));
   file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(file.gcount()));
   return bytes;
@@ -215,7 +257,7 @@ void ClearModel(WizardData& data) {
   data.ModelSettings.Unused.assign(30, 0);
   ClearAlternatives(data.AlternativeList);
   ClearAttributes(data.AttributeList);
-  data.RawScores.RawScores.Allocate(kMaxAlternatives, kMaxAtts);
+  ClearVariants(data.RawScores.RawScores, kMaxAlternatives, kMaxAtts);
   data.Scores.Scores.Allocate(kMaxAlternatives, kMaxAtts);
   ClearValueData(data.AttValueData);
   ClearSaved(data.SavedJudgments);
@@ -228,9 +270,7 @@ void ReadModel(WizardData& data, const std::vector<char>& bytes) {
   in.ReadAll(data.ModelSettings.Unused);
   Leniently([&] { ReadAlternatives(in, data.AlternativeList); });
   Leniently([&] { ReadAttributes(in, data.AttributeList); });
-  Leniently([&] {
-    for (Variant& score : data.RawScores.RawScores.Items()) in.Read(score);
-  });
+  Leniently([&] { in.ReadAll(data.RawScores.RawScores.Items()); });
   auto& scores = data.Scores.Scores.Items();
   in.ReadBlock(scores.data(), scores.size() * sizeof(Double));
   Leniently([&] { ReadValueData(in, data.AttValueData); });

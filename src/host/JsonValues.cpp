@@ -1,5 +1,6 @@
 #include "host/JsonValues.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -66,6 +67,8 @@ Currency CurrencyOf(const Json& value, const String& place) {
   };
   if (!value.is_string()) throw refuse();
   String digits = value.get<String>();
+  const std::size_t first = digits.starts_with('-') ? 1 : 0;
+  if (first >= digits.size() || digits[first] < '0' || digits[first] > '9') throw refuse();
   const std::size_t point = digits.find('.');
   const std::size_t decimals = point == String::npos ? 0 : digits.size() - point - 1;
   if (decimals > 4 || (point != String::npos && decimals == 0)) throw refuse();
@@ -73,7 +76,7 @@ Currency CurrencyOf(const Json& value, const String& place) {
   digits.append(4 - decimals, '0');
   Currency amount;
   const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), amount.Scaled);
-  if (read.ec != std::errc() || read.ptr != digits.data() + digits.size() || digits.size() < 5) throw refuse();
+  if (read.ec != std::errc() || read.ptr != digits.data() + digits.size()) throw refuse();
   return amount;
 }
 

@@ -144,14 +144,14 @@ void Player::Carry(const std::vector<String>& words, const String& line) {
   }
 }
 
-void Player::HostCall(const char* method, const std::function<void()>& call) {
+void Player::HostCall(const String& in, const std::function<void()>& call) {
   try {
     call();
   } catch (const RuntimeError& error) {
     if (screen_->Pointer() != 0) screen_->SetPointer(0);
     Print({{"runtime_error", error.Number()},
            {"description", error.Description()},
-           {"in", error.In.empty() ? String("TRN_DEA.") + method : error.In}});
+           {"in", error.In.empty() ? in : error.In}});
   }
 }
 
@@ -163,9 +163,9 @@ void Player::Host(const std::vector<String>& words, const String& line) {
   } else if (what == "points") {
     HostPoints(words, line);
   } else if (what == "show" && words.size() == 2) {
-    HostCall("ShowTarnwise", [this] { dea_->ShowTarnwise(); });
+    HostCall("TRN_DEA.ShowTarnwise", [this] { dea_->ShowTarnwise(); });
   } else if (what == "unload" && words.size() == 2) {
-    HostCall("UnloadTarnwise", [this] { dea_->UnloadTarnwise(); });
+    HostCall("TRN_DEA.UnloadTarnwise", [this] { dea_->UnloadTarnwise(); });
   } else if (what == "answer" && words.size() == 3 && (words[2] == "on" || words[2] == "off")) {
     answers_ = words[2] == "on";
   } else if (what == "new" && words.size() == 2) {
@@ -182,7 +182,7 @@ void Player::HostLoad(const std::vector<String>& words) {
   const std::u8string text = path.u8string();
   const String kesta = words.size() > 3 ? words[3] : folder_;
   const int index = words.size() > 4 ? WholeNumber(words[4]) : 1;
-  HostCall("GetCurFileData", [&] {
+  HostCall("TRN_DEA.GetCurFileData", [&] {
     dea_->GetCurFileData(kesta, ToInteger(Variant(static_cast<Long>(index))), String(text.begin(), text.end()));
   });
 }
@@ -192,7 +192,7 @@ void Player::HostPoints(const std::vector<String>& words, const String& line) {
   Json points;
   if (words[2] == "zero") {
     const VariantArray zeros = ZerosFor(mdTRNMain());
-    HostCall("TranferABCoordinates", [&] {
+    HostCall("TRN_DEA.TranferABCoordinates", [&] {
       dea_->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros);
     });
     return;
@@ -205,7 +205,7 @@ void Player::HostPoints(const std::vector<String>& words, const String& line) {
   } catch (const Json::exception& fault) {
     throw ScriptFault(String("the points are no JSON object of arrays: ") + fault.what());
   }
-  HostCall("TranferABCoordinates",
+  HostCall("TRN_DEA.TranferABCoordinates",
            [&] { dea_->TranferABCoordinates(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]); });
 }
 
@@ -268,6 +268,9 @@ bool Player::Ask(const std::vector<String>& words) {
   } else if (what == "dump") {
     Expect(words, 0, 1);
     Dump(words);
+  } else if (what == "call") {
+    Expect(words, 3, 3);
+    Call(words);
   } else if (what == "shot") {
     Expect(words, 1, 1);
     Shot(words[1]);

@@ -29,7 +29,7 @@ class Player {
   void NewObject();
   void Watch();
   void Print(const Json& object);
-  void HostCall(const char* method, const std::function<void()>& call);
+  void HostCall(const String& in, const std::function<void()>& call);  // a fault is printed as one of `in`
 
   void Host(const std::vector<String>& words, const String& line);
   void HostLoad(const std::vector<String>& words);
@@ -56,6 +56,7 @@ class Player {
   void Data(const String& name);
   void Forms();
   void Dump(const std::vector<String>& words);
+  void Call(const std::vector<String>& words);
   void Shot(const String& file);
 
   Control& Usable(const String& name);  // named, and a person can act on it now

@@ -4,6 +4,7 @@
 #include "host/DataJson.h"
 #include "host/Player.h"
 #include "host/ScriptLine.h"
+#include "numerics/mdGraphs.h"
 #include "view/Platform.h"
 
 #include <filesystem>
@@ -42,6 +43,25 @@ void Player::Dump(const std::vector<String>& words) {
   Json controls = Json::array();
   for (const Control* control : form->Controls()) controls.push_back(ControlJson(*control));
   Print({{"dump", form->Name}, {"form", ControlJson(*form)}, {"controls", controls}});
+}
+
+void Player::Call(const std::vector<String>& words) {
+  const WizardData& data = mdTRNMain();
+  const int att = WholeNumber(words[2]);
+  const Single x = ScaleNumber(words[3]);
+  HostCall(words[1], [&] {
+    Json value;
+    if (words[1] == "GetAttValue") {
+      value = ToJson(GetAttValue(data, att, x));
+    } else if (words[1] == "GetAttScore") {
+      value = ToJson(GetAttScore(data, att, x));
+    } else if (words[1] == "GetAttValueFunc") {
+      value = ToJson(GetAttValueFunc(data, att, x));
+    } else {
+      throw ScriptFault("\"" + words[1] + "\" can't be called");
+    }
+    Print({{"call", words[1]}, {"value", value}});
+  });
 }
 
 void Player::Shot(const String& file) {

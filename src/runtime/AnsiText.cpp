@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 
 namespace Tarnwise {
 
@@ -59,7 +60,21 @@ std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i) {
 
 }  // namespace
 
+bool IsAscii(std::string_view bytes) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+  std::uint64_t all = 0;
+  std::uint64_t eight = 0;
+  std::size_t i = 0;
+  for (; i + sizeof eight <= bytes.size(); i += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + i, sizeof eight);
+    all |= eight;
+  }
+  for (; i < bytes.size(); ++i) all |= static_cast<unsigned char>(bytes[i]);
+  return (all & kHighBits) == 0;
+}
+
 String FromAnsi(std::string_view bytes) {
+  if (IsAscii(bytes)) return String(bytes);
   String text;
   text.reserve(bytes.size());
   for (const char raw : bytes) {

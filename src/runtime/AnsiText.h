@@ -8,6 +8,9 @@
 
 namespace Tarnwise {
 
+// Such bytes are the same in both.
+bool IsAscii(std::string_view bytes);
+
 // Every byte has a character: the five that the code page leaves undefined are the control characters of that value.
 String FromAnsi(std::string_view bytes);
 

@@ -1,0 +1,79 @@
+#include "host/ModelCommands.h"
+
+#include "frame/ModelFile.h"
+#include "host/ModelJson.h"
+#include "host/ModelWriter.h"
+
+#include <ostream>
+
+namespace Tarnwise {
+
+namespace {
+
+WizardData DescribedModel(const String& path) {
+  const std::vector<char> bytes = FileBytes(path);
+  try {
+    return ModelFromJson(ParseDescription(String(bytes.begin(), bytes.end())));
+  } catch (const ModelFault& fault) {
+    throw ModelFault(path + ": " + fault.what());
+  }
+}
+
+std::vector<char> BytesToWrite(const WizardData& data, const String& from) {
+  try {
+    return ModelBytes(data);
+  } catch (const ModelFault& fault) {
+    throw ModelFault(from + ": " + fault.what());
+  }
+}
+
+void RefuseSameFile(const String& jsonPath, const String& kstPath) {
+  std::error_code error;
+  if (std::filesystem::equivalent(PathFromText(jsonPath), PathFromText(kstPath), error)) {
+    throw ModelFault("the model would overwrite its description " + jsonPath);
+  }
+}
+
+String Counted(int count, const char* what) { return std::to_string(count) + " " + what + (count == 1 ? "" : "s"); }
+
+int CountNamed(const Array<String>& names) {
+  int count = 0;
+  for (const String& name : names.Items()) count += name.empty() ? 0 : 1;
+  return count;
+}
+
+}  // namespace
+
+int BuildModel(const String& jsonPath, const String& kstPath, std::ostream& out, std::ostream& err) {
+  try {
+    const WizardData data = DescribedModel(jsonPath);
+    const std::vector<char> bytes = BytesToWrite(data, jsonPath);
+    for (const String& warning : ModelWarnings(data)) err << jsonPath << ": warning: " << warning << "\n";
+    RefuseSameFile(jsonPath, kstPath);
+    WriteFileAtomically(kstPath, bytes);
+    out << kstPath << ": " << Counted(data.NumAtts(), "attribute") << ", "
+        << Counted(CountNamed(data.AlternativeList.Unused1), "alternative") << "\n";
+    return 0;
+  } catch (const ModelFault& fault) {
+    err << fault.what() << "\n";
+    return 1;
+  }
+}
+
+int ShowModel(const String& kstPath, std::ostream& out, std::ostream& err) {
+  try {
+    const std::vector<char> bytes = FileBytes(kstPath);
+    WizardData data;
+    ReadModel(data, bytes);
+    if (const auto difference = Difference(bytes, data)) {
+      err << kstPath << ": warning: " << *difference << "; building this description would not give that file again\n";
+    }
+    out << DescriptionText(ModelToJson(data));
+    return 0;
+  } catch (const ModelFault& fault) {
+    err << fault.what() << "\n";
+    return 1;
+  }
+}
+
+}  // namespace Tarnwise

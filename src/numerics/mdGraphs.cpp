@@ -1,0 +1,224 @@
+#include "numerics/mdGraphs.h"
+
+#include "runtime/Numbers.h"
+
+#include <cmath>
+
+namespace Tarnwise {
+
+namespace {
+
+// Differences below the machine epsilon count as zero.
+bool IsNegligible(Double x) { return 1.0 + x == 1.0; }
+
+// The five slopes around an interval; those beyond the ends are extrapolated.
+struct Slopes {
+  Double M0, M1, M2, M3, M4;
+};
+
+Slopes SlopesAround(const Curve& c, int i) {
+  const auto s = [&c](int k) {
+    const auto at = static_cast<std::size_t>(k);
+    return Divide(c.Y[at + 1] - c.Y[at], c.X[at + 1] - c.X[at]);
+  };
+  Slopes m{};
+  m.M2 = s(i);
+  if (c.N == 3 && i == 0) {
+    m.M3 = s(1);
+    m.M4 = 2.0 * m.M3 - m.M2;
+    m.M1 = 2.0 * m.M2 - m.M3;
+    m.M0 = 2.0 * m.M1 - m.M2;
+  } else if (c.N == 3) {
+    m.M1 = s(0);
+    m.M0 = 2.0 * m.M1 - m.M2;
+    m.M3 = 2.0 * m.M2 - m.M1;
+    m.M4 = 2.0 * m.M3 - m.M2;
+  } else if (i == 0) {
+    m.M3 = s(1);
+    m.M1 = 2.0 * m.M2 - m.M3;
+    m.M0 = 2.0 * m.M1 - m.M2;
+    m.M4 = s(2);
+  } else if (i == 1) {
+    m.M3 = s(2);
+    m.M1 = s(0);
+    m.M0 = 2.0 * m.M1 - m.M2;
+    m.M4 = c.N == 4 ? 2.0 * m.M3 - m.M2 : s(3);
+  } else if (i < c.N - 3) {
+    m.M1 = s(i - 1);
+    m.M0 = s(i - 2);
+    m.M3 = s(i + 1);
+    m.M4 = s(i + 2);
+  } else if (i == c.N - 3) {
+    m.M1 = s(i - 1);
+    m.M3 = s(c.N - 2);
+    m.M4 = 2.0 * m.M3 - m.M2;
+    m.M0 = s(i - 2);
+  } else {
+    m.M1 = s(i - 1);
+    m.M3 = 2.0 * m.M2 - m.M1;
+    m.M4 = 2.0 * m.M3 - m.M2;
+    m.M0 = s(i - 2);
+  }
+  return m;
+}
+
+// The slope at the point between two intervals, from the two slopes on each side of it.
+Double SlopeAt(Double before, Double left, Double right, Double after) {
+  const Double a = std::fabs(after - right);
+  const Double b = std::fabs(left - before);
+  if (IsNegligible(a) && IsNegligible(b)) return (left + right) / 2.0;
+  return (a * left + b * right) / (a + b);
+}
+
+int IntervalOf(const Curve& c, Double Xp) {
+  if (Xp <= c.X[1]) return 0;
+  if (Xp >= c.X[static_cast<std::size_t>(c.N) - 1]) return c.N - 2;
+  int lo = 1;
+  int hi = c.N;
+  while (std::abs(hi - lo) != 1) {
+    const int mid = (lo + hi) / 2;
+    if (Xp < c.X[static_cast<std::size_t>(mid) - 1]) {
+      hi = mid;
+    } else {
+      lo = mid;
+    }
+  }
+  return lo - 1;
+}
+
+Double Evaluate(const Coefs& k, Double d) { return k[0] + d * k[1] + (d * d) * k[2] + (d * d * d) * k[3]; }
+
+// The value of the line through two points.
+Double OnLine(const Curve& c, Double Xp) {
+  return Divide((Xp - c.X[1]) * c.Y[0] - (Xp - c.X[0]) * c.Y[1], c.X[0] - c.X[1]);
+}
+
+bool IsAscending(const Curve& c) {
+  for (std::size_t i = 1; i < static_cast<std::size_t>(c.N); ++i) {
+    if (!(c.X[i - 1] < c.X[i])) return false;
+  }
+  return true;
+}
+
+// Where the search for x leaves an interval: interval 0 holds its right end too, the last one has none.
+class Walker {
+ public:
+  explicit Walker(const Curve& curve) : curve_(curve), ascending_(curve.N >= 3 && IsAscending(curve)) {}
+
+  Double ValueAt(Double x) {
+    if (!ascending_) return AkimaInterpolate(curve_, -1, x)[4];
+    if (!(inside_ && (first_ ? x <= end_ : x < end_))) Enter(x);
+    return Evaluate(coefs_, x - start_);
+  }
+
+ private:
+  void Enter(Double x) {
+    const int i = IntervalOf(curve_, x);
+    const auto at = static_cast<std::size_t>(i);
+    coefs_ = AkimaInterpolate(curve_, i, x);
+    start_ = curve_.X[at];
+    first_ = i == 0;
+    end_ = i == curve_.N - 2 ? INFINITY : curve_.X[at + 1];
+    inside_ = true;
+  }
+
+  const Curve& curve_;
+  const bool ascending_;
+  bool inside_ = false;
+  bool first_ = false;
+  Double start_ = 0.0;
+  Double end_ = 0.0;
+  Coefs coefs_{};
+};
+
+}  // namespace
+
+Coefs AkimaInterpolate(const Curve& curve, int Hint, Double Xp) {
+  Coefs k{};
+  if (curve.N < 1) return k;
+  if (curve.N == 1) {
+    k[0] = curve.Y[0];
+    k[4] = curve.Y[0];
+    return k;
+  }
+  if (curve.N == 2) {
+    k[0] = curve.Y[0];
+    k[1] = Divide(curve.Y[1] - curve.Y[0], curve.X[1] - curve.X[0]);
+    if (Hint < 0) k[4] = OnLine(curve, Xp);
+    return k;
+  }
+  int i = Hint >= 0 ? Hint : IntervalOf(curve, Xp);
+  if (i >= curve.N - 1) i = curve.N - 2;
+  const Slopes m = SlopesAround(curve, i);
+  const Double t0 = SlopeAt(m.M0, m.M1, m.M2, m.M3);
+  const Double t1 = SlopeAt(m.M1, m.M2, m.M3, m.M4);
+  const auto at = static_cast<std::size_t>(i);
+  const Double h = curve.X[at + 1] - curve.X[at];
+  k[0] = curve.Y[at];
+  k[1] = t0;
+  k[2] = (3.0 * m.M2 - 2.0 * t0 - t1) / h;
+  k[3] = (t0 + t1 - 2.0 * m.M2) / (h * h);
+  if (Hint < 0) k[4] = Evaluate(k, Xp - curve.X[at]);
+  return k;
+}
+
+Curve CurveOf(const WizardData& data, int att) {
+  const AttValueData& values = data.AttValueData;
+  Curve curve;
+  curve.N = values.ValuePointCount[att];
+  if (curve.N > kMaxCurvePoints) throw RuntimeError(9);
+  for (int k = 0; k < curve.N; ++k) {
+    curve.X[static_cast<std::size_t>(k)] = ToDouble(values.ValuePointX(att, k));
+    curve.Y[static_cast<std::size_t>(k)] = ToDouble(values.ValuePointY(att, k));
+  }
+  return curve;
+}
+
+Double GetAttValue(const WizardData& data, int att, Single score) {
+  const Double value = AkimaInterpolate(CurveOf(data, att), -1, static_cast<Double>(score))[4];
+  if (std::isnan(value)) throw RuntimeError(6);
+  if (value > 1.0) return 1.0;
+  if (value < 0.0) return 0.0;
+  return static_cast<Double>(static_cast<Single>(value));
+}
+
+Single GetAttScore(const WizardData& data, int att, Single value) {
+  constexpr int kMostSteps = 1000000;
+  constexpr Double kTolerance = 0.0001;
+  const Curve curve = CurveOf(data, att);
+  if (curve.N < 1) throw RuntimeError(9);
+  const Double top = data.AttValueData.ScoreMax[att];
+  const Double range = top - data.AttValueData.ScoreMin[att];
+  const Double step = range / 10000.0;
+  const auto target = static_cast<Double>(value);
+  Walker walker(curve);
+  Double x = curve.X[0];
+  for (int n = 1; n <= kMostSteps; ++n) {
+    const Double before = x;
+    x += step;
+    if (!(x < top)) break;
+    if (std::fabs(walker.ValueAt(x) - target) <= kTolerance) return ToSingleChecked(x);
+    if (!(step > 0.0) || x == before) break;
+  }
+  return ToSingleChecked(range / 2.0);
+}
+
+Double GetAttValueFunc(const WizardData& data, int att, Single score) {
+  const AttValueData& values = data.AttValueData;
+  const Double low = RoundToFourDecimals(values.ScoreMin[att]);
+  const Double high = RoundToFourDecimals(values.ScoreMax[att]);
+  const Double at = RoundToFourDecimals(static_cast<Double>(score));
+  // Differences of fixed-point numbers have four decimals again.
+  const Double t = Divide(RoundToFourDecimals(at - low), RoundToFourDecimals(high - low));
+  switch (values.ValueFuncType[att]) {
+    case 0: return RoundToFourDecimals(t);
+    case 1: return RoundToFourDecimals(values.ValueFuncA[att] * (1.0 - std::exp(values.ValueFuncB[att] * t)));
+    default: return 0.0;
+  }
+}
+
+String StripTrailingDot(const String& text) {
+  return !text.empty() && text.back() == '.' ? text.substr(0, text.size() - 1) : text;
+}
+
+}  // namespace Tarnwise

@@ -34,6 +34,14 @@ void ShowVerdict(LightControls& lights, CommandButton& cmdEnter, JudgmentState s
 
 void ShowAtRest(LightControls& lights, CommandButton& cmdEnter) { ShowVerdict(lights, cmdEnter, kConsistent); }
 
+void ShowLampsAtRest(LightControls& lights) {
+  lights.Timer1.Interval = 0;
+  for (int i = 0; i < 3; ++i) {
+    lights.shpAlarm[i].FillColor = kEntered[i];
+    lights.lblAlarm[i].ForeColor = i == 0 ? kHighlightText : kBlack;
+  }
+}
+
 void BlinkJudgmentLight(LightControls& lights, JudgmentState state) {
   if (state == kNoneDecided) return;
   const int inForce = LightOf(state);

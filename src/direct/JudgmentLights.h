@@ -12,6 +12,9 @@ void ShowVerdict(LightControls& lights, CommandButton& cmdEnter, JudgmentState s
 // The light "Consistent" at rest with Enter allowed, whatever the verdict was: a just shown judgment can be entered.
 void ShowAtRest(LightControls& lights, CommandButton& cmdEnter);
 
+// No verdict yet: green and the two warnings in their resting colours, nothing blinks.
+void ShowLampsAtRest(LightControls& lights);
+
 // One tick.
 void BlinkJudgmentLight(LightControls& lights, JudgmentState state);
 

@@ -1,6 +1,7 @@
 #include "direct/frmDirectB.h"
 
 #include "direct/JudgmentLights.h"
+#include "direct/TargetList.h"
 #include "numerics/ResultsGrids.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
@@ -11,7 +12,6 @@ namespace {
 
 constexpr const char* kJudgmentTitle = "Tarnwise: Estimate intervals of the weight ratios";
 constexpr const char* kResultsTitle = "Tarnwise: Results of the value judgments";
-constexpr const char* kJudgedMark = " ¤ ";
 constexpr int kHourglass = 11;
 
 }  // namespace
@@ -111,21 +111,7 @@ void frmDirectB::BuildOrderPanel(Group g) {
 
 void frmDirectB::FillTargetList() {
   Screen().SetPointer(kHourglass);
-  imgcmbTargetAtt.Clear();
-  Integer counts[] = {0, 0};
-  for (int i = 0; i < data_.NumAtts(); ++i) {
-    const bool benefit = data_.IsBenefit(i);
-    const int place = ++counts[benefit ? 0 : 1];
-    const String picture = benefit ? "Smiling" : "Crying";
-    const bool reference = i == ReferenceOf(data_, i);
-    imgcmbTargetAtt.Add({(benefit ? "Benefit" : "Cost") + std::to_string(place), Trim(data_.AttName(i)),
-                         reference ? picture + "2" : picture, picture + (reference ? "2" : "1")});
-  }
-  data_.BRankCount = counts[0];
-  data_.CRankCount = counts[1];
-  for (int i = 0; i < data_.NumAtts(); ++i) {
-    if (data_.WeightDone[i] && !IsReference(data_, i)) MarkJudged(i);
-  }
+  FillTargetItems(imgcmbTargetAtt, data_);
   mTargetAtt = static_cast<Integer>(FirstTarget(data_));
   mRefAtt = ReferenceOf(data_, mTargetAtt);
   imgcmbTargetAtt.SelectedItem = mTargetAtt + 1;
@@ -133,8 +119,6 @@ void frmDirectB::FillTargetList() {
   Raise(SendMasseges, " Indicate a value reference region on the two selected attributes.");
   Screen().SetPointer(0);
 }
-
-void frmDirectB::MarkJudged(int att) { imgcmbTargetAtt.SetItemText(att + 1, kJudgedMark + data_.AttName(att)); }
 
 void frmDirectB::imgcmbTargetAtt_Click() {
   if (mLoading == 1) return;
@@ -242,7 +226,7 @@ void frmDirectB::cmdEnter_Click() {
 void frmDirectB::CommitJudgment(int att) {
   for (const int k : CommitInterval(data_, att, Val(txtWRLower.Text()), Val(txtWRUpper.Text()))) {
     mHandlePos[k] = mHandlePos[att];
-    MarkJudged(k);
+    MarkJudged(imgcmbTargetAtt, data_, k);
   }
   cmdEnter.Enabled = false;
   cmdReStart.Enabled = true;

@@ -40,7 +40,6 @@ struct frmDirectB : DirectBForm {
   void BuildAttributeButtons();
   void BuildOrderPanel(Group g);
   void FillTargetList();
-  void MarkJudged(int att);
   void imgcmbTargetAtt_Click();
   void ChooseReferencePair();
   void ShowPair();

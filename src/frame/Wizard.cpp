@@ -57,11 +57,13 @@ void TRN_DEA::Wizard::ShowTarnwise() {
 
 void TRN_DEA::Wizard::UnloadTarnwise() {
   HideForm(mIniImpOrder);
+  HideForm(mTRNTradeOffsB);
   HideForm(mSelMethod);
   HideForm(mDirectB);
   ReleaseForm(mSelMethod);
   ReleaseForm(mDirectB);
   ReleaseForm(mIniImpOrder);
+  ReleaseForm(mTRNTradeOffsB);
 }
 
 void TRN_DEA::Wizard::RelaySendMasseges(const String& Msg) { Raise(Events.SendMasseges, String(Msg)); }
@@ -75,6 +77,11 @@ void TRN_DEA::Wizard::RelayExportDirectBW(const String& RJType, Integer BRefAttI
                                           Array<Variant>& WeightsL) {
   Raise(Events.ExportDirectBW, RJType, BRefAttID, CRefAttID, RefAttWR, Weights.Items(), WeightsH.Items(),
         WeightsL.Items());
+}
+
+void TRN_DEA::Wizard::mTRNTradeOffsB_ExportABScores(ABScores& scores) {
+  Raise(Events.ExportABScores, scores.AX.Items(), scores.AY.Items(), scores.BX.Items(), scores.BY.Items(),
+        scores.AOrientation.Items(), scores.ALX.Items(), scores.ALY.Items(), scores.AUX.Items(), scores.AUY.Items());
 }
 
 void TRN_DEA::Wizard::mSelMethod_ShowTRNIniImpOrder() {
@@ -93,7 +100,12 @@ void TRN_DEA::Wizard::mIniImpOrder_ShowTRNDirectB() {
 }
 
 void TRN_DEA::Wizard::mIniImpOrder_ShowTRNTradeOffsB() {
-  Screen->MessageBox("This version takes direct comparisons only. Please go back and choose them.", kInformation, kKesta);
+  HideForm(mIniImpOrder);
+  if (!mTRNTradeOffsB &&
+      !CreateForm(mTRNTradeOffsB, Screen, Data, mIniImpOrder, [this] { ConnectTradeOffsB(); })) {
+    return;
+  }
+  Screen->ShowModal(*std::shared_ptr<Form>(mTRNTradeOffsB));
 }
 
 void TRN_DEA::Wizard::mIniImpOrder_ShowTRNSelMethod() {
@@ -110,6 +122,12 @@ void TRN_DEA::Wizard::mDirectB_UnloadDirectB() {
   HideForm(mDirectB);
   if (mIniImpOrder) Screen->Show(*std::shared_ptr<Form>(mIniImpOrder));
   ReleaseForm(mDirectB);
+}
+
+void TRN_DEA::Wizard::mTRNTradeOffsB_UnloadTRNTradeOffsB() {
+  HideForm(mTRNTradeOffsB);
+  if (mIniImpOrder) Screen->Show(*std::shared_ptr<Form>(mIniImpOrder));
+  ReleaseForm(mTRNTradeOffsB);
 }
 
 // A form's event reaches the class only for as long as the class lives and holds the form: the host may let the object
@@ -145,6 +163,14 @@ void TRN_DEA::Wizard::ConnectDirectB() {
   mDirectB->UnloadDirectB = Bound(*this, &Wizard::mDirectB_UnloadDirectB);
   mDirectB->ExportDirectBW = Bound(*this, &Wizard::RelayExportDirectBW);
   mDirectB->SendMasseges = Bound(*this, &Wizard::RelaySendMasseges);
+}
+
+void TRN_DEA::Wizard::ConnectTradeOffsB() {
+  mTRNTradeOffsB->UnloadTarnwise = Bound(*this, &Wizard::RelayUnloadTarnwise);
+  mTRNTradeOffsB->UnloadTRNTradeOffsB = Bound(*this, &Wizard::mTRNTradeOffsB_UnloadTRNTradeOffsB);
+  mTRNTradeOffsB->ExportTradeOffsBW = Bound(*this, &Wizard::RelayExportDirectBW);
+  mTRNTradeOffsB->ExportABScores = Bound(*this, &Wizard::mTRNTradeOffsB_ExportABScores);
+  mTRNTradeOffsB->SendMasseges = Bound(*this, &Wizard::RelaySendMasseges);
 }
 
 }  // namespace Tarnwise

@@ -1,10 +1,11 @@
-// The class behind TRN_DEA: the step forms and what their events lead to. It has no data of its own beside them;
+// The class behind TRN_DEA: the four step forms and what their events lead to. It has no data of its own beside them;
 // the steps share the wizard data.
 #pragma once
 
 #include "direct/frmDirectB.h"
 #include "ordering/frmIniImpOrder.h"
 #include "selection/frmTRNSelMethod.h"
+#include "tradeoffs/frmTradeOffsB.h"
 
 #include <tarnwise/TRN_DEA.h>
 
@@ -17,6 +18,7 @@ struct TRN_DEA::Wizard : std::enable_shared_from_this<TRN_DEA::Wizard> {
   std::shared_ptr<frmTRNSelMethod> mSelMethod;
   std::shared_ptr<frmIniImpOrder> mIniImpOrder;
   std::shared_ptr<frmDirectB> mDirectB;
+  std::shared_ptr<frmTradeOffsB> mTRNTradeOffsB;
 
   TRN_DEA_Events Events;
   const std::shared_ptr<Platform> Screen;
@@ -30,6 +32,7 @@ struct TRN_DEA::Wizard : std::enable_shared_from_this<TRN_DEA::Wizard> {
   void RelayUnloadTarnwise(Integer fIndex, Boolean WeightsDone);
   void RelayExportDirectBW(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
                            Array<Variant>& Weights, Array<Variant>& WeightsH, Array<Variant>& WeightsL);
+  void mTRNTradeOffsB_ExportABScores(ABScores& scores);
 
   // Navigation.
   void mSelMethod_ShowTRNIniImpOrder();
@@ -38,11 +41,13 @@ struct TRN_DEA::Wizard : std::enable_shared_from_this<TRN_DEA::Wizard> {
   void mIniImpOrder_ShowTRNTradeOffsB();
   void mIniImpOrder_UnloadIniImpOrder();
   void mDirectB_UnloadDirectB();
+  void mTRNTradeOffsB_UnloadTRNTradeOffsB();
 
  private:
   void ConnectSelMethod();
   void ConnectIniImpOrder();
   void ConnectDirectB();
+  void ConnectTradeOffsB();
 };
 
 }  // namespace Tarnwise

@@ -135,8 +135,7 @@ String OneLine(const Json& value) {
   return value.is_object() ? "{" + text + "}" : "[" + text + "]";
 }
 
-bool IsListOfPlainValues(const Json& value) {
-  if (!value.is_array()) return false;
+bool HoldsPlainValues(const Json& value) {
   for (const Json& element : value) {
     if (element.is_structured()) return false;
   }
@@ -149,7 +148,7 @@ void Print(const Json& value, std::size_t indent, std::size_t used, bool split, 
     out += line;
     return;
   }
-  const bool fill = IsListOfPlainValues(value);
+  const bool fill = HoldsPlainValues(value);
   const String margin(indent + 2, ' ');
   out += value.is_object() ? "{" : "[";
   std::size_t column = kLineWidth;
@@ -158,7 +157,7 @@ void Print(const Json& value, std::size_t indent, std::size_t used, bool split, 
     if (!first) out += ",";
     first = false;
     const String label = value.is_object() ? Json(key).dump() + ": " : "";
-    if (fill && column + element.dump().size() + 2 < kLineWidth) {
+    if (fill && column + label.size() + element.dump().size() + 2 < kLineWidth) {
       out += " ";
     } else {
       out += "\n" + margin;

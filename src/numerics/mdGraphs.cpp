@@ -174,8 +174,10 @@ Curve CurveOf(const WizardData& data, int att) {
   return curve;
 }
 
-Double GetAttValue(const WizardData& data, int att, Single score) {
-  const Double value = AkimaInterpolate(CurveOf(data, att), -1, static_cast<Double>(score))[4];
+Double GetAttValue(const WizardData& data, int att, Single score) { return ValueOn(CurveOf(data, att), score); }
+
+Double ValueOn(const Curve& curve, Single score) {
+  const Double value = AkimaInterpolate(curve, -1, static_cast<Double>(score))[4];
   if (std::isnan(value)) throw RuntimeError(6);
   if (value > 1.0) return 1.0;
   if (value < 0.0) return 0.0;

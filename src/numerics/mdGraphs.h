@@ -30,7 +30,8 @@ Coefs AkimaInterpolate(const Curve& curve, int Hint, Double Xp);
 // The attribute's curve. Error 9 when its count passes 11, 13 or 94 for a point that is no number.
 Curve CurveOf(const WizardData& data, int att);
 
-// The value of a score, 0 to 1, at Single precision.
+// The value of a score, 0 to 1, at Single precision. Error 6 where the curve gives no number.
+Double ValueOn(const Curve& curve, Single score);
 Double GetAttValue(const WizardData& data, int att, Single score);
 
 // The score of a value: the first one, in steps of a ten-thousandth of the scale, whose value comes within 0.0001. On a

@@ -1,0 +1,31 @@
+// The small pictures that forms name: each is a list of plain shapes, and every toolkit draws that list in its own way.
+#pragma once
+
+#include <tarnwise/Scalars.h>
+
+#include <optional>
+#include <vector>
+
+namespace Tarnwise {
+
+struct PictureShape {
+  enum class What { Polygon, Ellipse, Polyline } Shape = What::Polygon;
+  std::vector<Single> Points;  // x, y, x, y, ...; two corners of the box around an ellipse
+  std::optional<Colour> Fill;
+  std::optional<Colour> Stroke;
+  Single StrokeWidth = 2.0F;
+};
+
+// Drawn back to front in a box of this size, y downward. The box is fitted into the place it is shown in.
+struct Picture {
+  Single Width = 100.0F;
+  Single Height = 100.0F;
+  std::vector<PictureShape> Shapes;
+};
+
+// Null when there is no picture of that name.
+const Picture* FindPicture(const String& name);
+
+std::vector<String> PictureNames();
+
+}  // namespace Tarnwise

@@ -11,6 +11,8 @@ class DragSession {
   bool Active() const { return source_ != nullptr; }
   Control* Source() const { return source_; }
   Control* Target() const { return target_; }
+  Single X() const { return x_; }  // where the pointer stands on the target, in its scale
+  Single Y() const { return y_; }
 
   void Begin(Control& source);
 

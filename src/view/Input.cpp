@@ -4,6 +4,8 @@
 #include "view/Platform.h"
 #include "view/Reach.h"
 
+#include <algorithm>
+
 namespace Tarnwise::Input {
 
 namespace {
@@ -11,6 +13,69 @@ namespace {
 constexpr int kReturn = 13;
 constexpr int kSpace = 32;
 constexpr int kEscape = 27;
+enum KeyCode { kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
+
+struct Rows {
+  int First = 0;
+  int Last = -1;
+  int Present = -1;
+};
+
+Rows RowsOf(const Control& list) {
+  switch (list.Type) {
+    case Kind::ListBox: {
+      const auto& box = static_cast<const ListBox&>(list);
+      return {0, static_cast<int>(box.List().size()) - 1, box.ListIndex};
+    }
+    case Kind::ComboBox: {
+      const auto& box = static_cast<const ComboBox&>(list);
+      return {0, static_cast<int>(box.List().size()) - 1, box.ListIndex};
+    }
+    case Kind::ImageCombo: {
+      const auto& box = static_cast<const ImageCombo&>(list);
+      return {1, static_cast<int>(box.Items.size()), box.SelectedItem};
+    }
+    case Kind::TabStrip: {
+      const auto& strip = static_cast<const TabStrip&>(list);
+      return {1, static_cast<int>(strip.Tabs.size()), strip.SelectedItem};
+    }
+    default: return {};
+  }
+}
+
+// Arrows, Home and End choose a row; a key that leads nowhere chooses nothing.
+bool RowKey(Control& list, int code) {
+  const Rows rows = RowsOf(list);
+  int row = rows.Present;
+  if (code == kUp || code == kLeft)
+    --row;
+  else if (code == kDown || code == kRight)
+    ++row;
+  else if (code == kHome)
+    row = rows.First;
+  else if (code == kEnd)
+    row = rows.Last;
+  else
+    return false;
+  if (rows.Last < rows.First) return true;
+  row = std::clamp(row, rows.First, rows.Last);
+  if (row != rows.Present) SelectRow(list, row);
+  return true;
+}
+
+bool BarKey(VScrollBar& bar, int code) {
+  switch (code) {
+    case kUp:
+    case kLeft: ScrollTo(bar, bar.Value - bar.SmallChange, false); return true;
+    case kDown:
+    case kRight: ScrollTo(bar, bar.Value + bar.SmallChange, false); return true;
+    case kPageUp: ScrollTo(bar, bar.Value - bar.LargeChange, false); return true;
+    case kPageDown: ScrollTo(bar, bar.Value + bar.LargeChange, false); return true;
+    case kHome: ScrollTo(bar, bar.Min, false); return true;
+    case kEnd: ScrollTo(bar, bar.Max, false); return true;
+    default: return false;
+  }
+}
 
 bool RaiseKey(TextBox& box, const char* event, const std::function<void(KeyEvent&)>& handler, KeyEvent& key) {
   if (handler) Dispatch(box, event, [&] { handler(key); });
@@ -128,6 +193,11 @@ bool ControlKey(Control& control, int code, int shift) {
       if (code != kSpace) return false;
       Activate(control);
       return true;
+    case Kind::ListBox:
+    case Kind::ComboBox:
+    case Kind::ImageCombo:
+    case Kind::TabStrip: return RowKey(control, code);
+    case Kind::VScrollBar: return BarKey(static_cast<VScrollBar&>(control), code);
     default: return false;
   }
 }

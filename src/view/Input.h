@@ -27,7 +27,8 @@ void KeyUp(TextBox& box, KeyEvent key);
 // The text has become this one by the person's hand.
 void TextEdited(TextBox& box, const String& text, int caret);
 
-// A key on the control with the focus that is no text box: Space and Return press, pick up and drop. False: not used.
+// A key on the control with the focus that is no text box: Space and Return press, pick up and drop, arrows choose rows
+// and scroll. False: not used.
 bool ControlKey(Control& control, int code, int shift);
 // Tab and Shift+Tab.
 void TabKey(Form& form, bool back);

@@ -1,0 +1,194 @@
+// Command buttons, option buttons, check boxes and tool bars.
+#include "view/qt/QtForm.h"
+#include "view/qt/QtKinds.h"
+#include "view/qt/QtPaint.h"
+
+#include <QCheckBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QStyleOptionButton>
+#include <QToolButton>
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kSidePadding = 6;
+constexpr double kRounding = 4.0;
+
+// A push button in the platform's look, or a flat one where the form gives it a colour of its own.
+class ButtonWidget : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  QColor Ground;  // invalid: the platform's look
+
+ protected:
+  void initStyleOption(QStyleOptionButton* option) const override {
+    QPushButton::initStyleOption(option);
+    if (underMouse()) option->state.setFlag(QStyle::State_MouseOver);
+  }
+
+  void paintEvent(QPaintEvent* event) override {
+    if (Ground.isValid()) PaintFlat();
+    else QPushButton::paintEvent(event);
+  }
+
+ private:
+  QColor Face() const {
+    if (!isEnabled()) return QColor::fromHsv(Ground.hsvHue(), Ground.hsvSaturation() / 3, 238);
+    if (isDown()) return Ground.darker(112);
+    return underMouse() ? Ground.lighter(104) : Ground;
+  }
+
+  void PaintFlat() {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF body = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    const QColor face = Face();
+    painter.setBrush(face);
+    painter.setPen(QPen(isEnabled() ? face.darker(underMouse() ? 160 : 135) : face.darker(110), 1.0));
+    painter.drawRoundedRect(body, kRounding, kRounding);
+    if (hasFocus()) {
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+      painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRounding + 0.5, kRounding + 0.5);
+    }
+    QColor ink = InkOn(face);
+    if (!isEnabled()) ink.setAlphaF(0.5F);
+    painter.setPen(ink);
+    painter.drawText(rect().adjusted(kSidePadding, 0, -kSidePadding, isDown() ? 1 : 0),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  }
+};
+
+void SetCaption(QAbstractButton& button, const Control& control, const String& caption, int room) {
+  const QString plain = PlainCaption(caption);
+  const QFont font = FittedFont(BaseFont(), plain, room);
+  if (button.font() != font) button.setFont(font);
+  const QFontMetrics metrics(font);
+  const bool cut = metrics.horizontalAdvance(plain) > room;
+  const QString text = cut ? metrics.elidedText(plain, Qt::ElideRight, room).replace("&", "&&") : Caption(caption);
+  if (button.text() != text) button.setText(text);
+  SetFullText(button, control, plain, cut);
+}
+
+// The widget's own toggling is undone or confirmed by what the tree says afterwards.
+void TellClicks(QtForm& form, QAbstractButton& button) {
+  QObject::connect(&button, &QAbstractButton::clicked, &form, [&form, &button] { form.Clicked(button); });
+}
+
+QWidget* MakeButton(QtForm& form, Control& control, QWidget& parent) {
+  auto* const button = new ButtonWidget(&parent);
+  button->setAutoDefault(false);
+  button->setDefault(static_cast<CommandButton&>(control).Default);
+  button->setAttribute(Qt::WA_Hover);
+  TellClicks(form, *button);
+  return button;
+}
+
+void SyncButton(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& button = static_cast<CommandButton&>(control);
+  auto& shown = static_cast<ButtonWidget&>(widget);
+  SetCaption(shown, control, button.Caption, std::max(widget.width() - 2 * kSidePadding, 1));
+  const QColor ground = button.BackColor == kButtonFace ? QColor() : ToQColor(button.BackColor, widget.palette());
+  if (shown.Ground == ground) return;
+  shown.Ground = ground;
+  widget.update();
+}
+
+void Check(QAbstractButton& button, bool on) {
+  const QSignalBlocker quiet(button);
+  if (button.isChecked() != on) button.setChecked(on);
+}
+
+constexpr int kIndicatorRoom = 24;
+
+// On a coloured row the platform's text colour may not be readable.
+void SetInk(QWidget& widget, const Control& control) {
+  const QColor ground = GroundOf(control, widget.window()->palette());
+  if (ground == widget.window()->palette().color(QPalette::Window)) return;
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::Active, QPalette::WindowText, InkOn(ground));
+  palette.setColor(QPalette::Inactive, QPalette::WindowText, InkOn(ground));
+  if (palette != widget.palette()) widget.setPalette(palette);
+}
+
+QWidget* MakeOption(QtForm& form, Control& control, QWidget& parent) {
+  auto* const option = new QRadioButton(&parent);
+  option->setAutoExclusive(false);
+  SetInk(*option, control);
+  TellClicks(form, *option);
+  return option;
+}
+
+void SyncOption(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& option = static_cast<OptionButton&>(control);
+  auto& shown = static_cast<QRadioButton&>(widget);
+  SetCaption(shown, control, option.Caption, std::max(widget.width() - kIndicatorRoom, 1));
+  Check(shown, option.Value);
+}
+
+QWidget* MakeCheck(QtForm& form, Control& control, QWidget& parent) {
+  auto* const box = new QCheckBox(&parent);
+  SetInk(*box, control);
+  TellClicks(form, *box);
+  return box;
+}
+
+void SyncCheck(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& box = static_cast<CheckBox&>(control);
+  auto& shown = static_cast<QCheckBox&>(widget);
+  SetCaption(shown, control, box.Caption, std::max(widget.width() - kIndicatorRoom, 1));
+  Check(shown, box.Value != 0);
+}
+
+QWidget* MakeToolbar(QtForm& form, Control& control, QWidget& parent) {
+  auto* const bar = new QWidget(&parent);
+  for (const Toolbar::Button& button : static_cast<Toolbar&>(control).Buttons) {
+    auto* const tool = new QToolButton(bar);
+    tool->setObjectName(Text(button.Key));
+    tool->setAutoRaise(true);
+    tool->setFocusPolicy(Qt::NoFocus);
+    tool->setToolTip(Text(button.ToolTip));
+    tool->setAccessibleName(Text(button.ToolTip.empty() ? button.Key : button.ToolTip));
+    tool->setIcon(PictureIcon(button.Picture));
+    if (tool->icon().isNull()) tool->setText(Text(button.Key));
+    form.Watch(*tool, control);
+    QObject::connect(tool, &QToolButton::clicked, &form,
+                     [&form, bar, key = button.Key] { form.ToolPressed(*bar, key); });
+  }
+  return bar;
+}
+
+void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
+  auto& bar = static_cast<Toolbar&>(control);
+  auto tools = widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+  if (tools.size() != static_cast<qsizetype>(bar.Buttons.size())) {
+    qDeleteAll(tools);
+    QWidget* const fresh = MakeToolbar(form, control, *widget.parentWidget());
+    for (QToolButton* tool : fresh->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) tool->setParent(&widget);
+    fresh->deleteLater();
+    tools = widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+  }
+  const bool upright = widget.height() > widget.width();
+  const int count = std::max(static_cast<int>(tools.size()), 1);
+  const int side = std::min(upright ? widget.width() : widget.height(),
+                            (upright ? widget.height() : widget.width()) / count);
+  for (int i = 0; i < tools.size(); ++i) {
+    tools[i]->setGeometry(upright ? 0 : i * side, upright ? i * side : 0, side, side);
+    tools[i]->setIconSize(QSize(side, side) * 5 / 8);
+    tools[i]->setEnabled(bar.Buttons[static_cast<std::size_t>(i)].Enabled);
+  }
+}
+
+}  // namespace
+
+const QtKind kQtCommandButton{MakeButton, SyncButton};
+const QtKind kQtOptionButton{MakeOption, SyncOption};
+const QtKind kQtCheckBox{MakeCheck, SyncCheck};
+const QtKind kQtToolbar{MakeToolbar, SyncToolbar};
+
+}  // namespace Tarnwise

@@ -1,0 +1,96 @@
+// One form on the screen: its window, and a widget for each of its controls, made when the screen first needs them.
+#pragma once
+
+#include "view/Form.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QRectF>
+#include <QTimer>
+#include <QWidget>
+#include <map>
+#include <memory>
+#include <vector>
+
+class QKeyEvent;
+class QMouseEvent;
+class QWheelEvent;
+
+namespace Tarnwise {
+
+class QtToolkit;
+
+// The left button is down.
+struct QtPress {
+  Control* On = nullptr;
+  int Row = -1;            // of a list or a tab strip
+  bool Refused = false;    // the rest of it is nobody's
+  bool Native = false;     // the widget follows it itself
+};
+
+class QtForm : public QObject {
+ public:
+  QtForm(Form& form, QtToolkit& toolkit);
+  ~QtForm() override;
+
+  Form* Tree() const { return form_; }  // null once it is released
+  QtToolkit& Tools() const { return toolkit_; }
+  QWidget& Window() const { return *window_; }
+
+  QWidget* WidgetOf(const Control& control) const;
+  Control* ControlOf(const QObject* object) const;  // null when the control has gone
+  // Events of this object are the control's: of its widget, and of parts of it.
+  void Watch(QObject& object, Control& control);
+
+  void Sync();  // what the tree has marked
+  void SyncControl(Control& control);
+  void SyncAll();
+  void FocusTree();  // the keyboard goes to the widget of the tree's active control, or to the bare window
+  void Forget(const Control& control);
+  void Release();
+
+  // What widgets tell, all of it by a person's hand.
+  void Clicked(QWidget& widget);  // a button's release or its mnemonic
+  void RowChosen(QWidget& widget, int row);  // in the control's own numbers
+  void ToolPressed(QWidget& widget, const String& key);
+  void Scrolled(QWidget& widget, int value, bool dragging);
+  void CloseWanted();
+
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  friend class QtInput;
+
+  void Make(Control& control);
+  void SyncPlace(Control& control, QWidget& widget);
+  void SyncLook(Control& control, QWidget& widget);
+  void SyncWindow();
+  void SyncPainted(const Control& control);
+  void SyncTimer(Control& control);
+  void Restack(const Control& container);
+
+  bool Press(QObject& object, Control& control, const QMouseEvent& event);
+  bool Move(QObject& object, const QMouseEvent& event);
+  bool Release(QObject& object, QMouseEvent& event);
+  void FinishPress(Control& control, const QMouseEvent& event, const QObject& object);
+  bool Wheel(Control& control, QWheelEvent& event);
+  bool Shortcut(Control& control, QWidget& widget, bool ambiguous);
+  bool KeyDown(QObject& object, Control& control, QKeyEvent& event);
+  bool KeyUp(const QKeyEvent& event);
+  void FocusCame(QObject& object, Control& control);
+
+  Form* form_;
+  QtToolkit& toolkit_;
+  std::unique_ptr<QWidget> window_;
+  std::map<const Control*, QPointer<QWidget>> widgets_;
+  std::map<const QObject*, Control*> controls_;
+  std::map<const Control*, std::unique_ptr<QTimer>> timers_;
+  std::map<const Control*, int> orders_;            // as the widgets are stacked now
+  std::map<const Control*, QRect> painted_;         // where lines and shapes are seen now
+  std::vector<const Control*> restack_;             // containers whose children changed their order
+  QPoint placed_;                                   // where the tree last wanted the window
+  QtPress press_;
+  int typing_ = 0;  // key that went down in a text box and has not come up
+};
+
+}  // namespace Tarnwise

@@ -1,0 +1,156 @@
+// Labels, images and frames.
+#include "view/Platform.h"
+#include "view/Reach.h"
+#include "view/qt/QtForm.h"
+#include "view/qt/QtKinds.h"
+#include "view/qt/QtPaint.h"
+#include "view/qt/QtPictureBox.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+// A caption in the colour of highlighted text is a lit sign: it stands on the highlight's own colour.
+class LabelWidget : public QLabel {
+ public:
+  using QLabel::QLabel;
+  bool Lit = false;
+  QColor Ground;  // invalid: see-through
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    if (Lit) {
+      painter.setBrush(palette().color(QPalette::Highlight));
+      painter.drawRoundedRect(rect(), std::min(height() / 2, 6), std::min(height() / 2, 6));
+    } else if (Ground.isValid()) {
+      painter.fillRect(rect(), Ground);
+    }
+    painter.end();
+    QLabel::paintEvent(event);
+  }
+};
+
+class ImageWidget : public QWidget {
+ public:
+  explicit ImageWidget(QWidget* parent) : QWidget(parent) {}
+  String Name;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    DrawPicture(painter, Name, QRectF(rect()));
+  }
+};
+
+class FrameWidget : public QGroupBox {
+ public:
+  FrameWidget(QtForm& form, QWidget* parent) : QGroupBox(parent), form_(form) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QGroupBox::paintEvent(event);
+    const Control* const control = form_.ControlOf(this);
+    if (control == nullptr) return;
+    QPainter painter(this);
+    PaintChildren(painter, control->Owner, *control, event->rect());
+  }
+
+ private:
+  QtForm& form_;
+};
+
+Qt::Alignment AlignmentOf(const Label& label) {
+  const Qt::Alignment across = label.Alignment == Align::Left    ? Qt::AlignLeft
+                               : label.Alignment == Align::Right ? Qt::AlignRight
+                                                                 : Qt::AlignHCenter;
+  return across | (label.WordWrap ? Qt::AlignTop : Qt::AlignVCenter);
+}
+
+QColor InkOf(const Label& label, const QPalette& palette) {
+  const bool plain = label.BackColor == kButtonFace;
+  const QColor ground = plain ? GroundOf(label, palette) : ToQColor(label.BackColor, palette);
+  const bool coloured = ground != palette.color(QPalette::Window);
+  if (IsSystemColour(label.ForeColor) && label.ForeColor != kHighlightText && coloured) return InkOn(ground);
+  return ToQColor(label.ForeColor, palette);
+}
+
+void SetInk(LabelWidget& widget, const QColor& ink) {
+  QPalette palette = widget.palette();
+  if (palette.color(QPalette::Active, QPalette::WindowText) == ink) return;
+  palette.setColor(QPalette::Active, QPalette::WindowText, ink);
+  palette.setColor(QPalette::Inactive, QPalette::WindowText, ink);
+  widget.setPalette(palette);
+}
+
+QWidget* MakeLabel(QtForm& /*form*/, Control& /*control*/, QWidget& parent) {
+  auto* const widget = new LabelWidget(&parent);
+  widget->setTextFormat(Qt::PlainText);
+  return widget;
+}
+
+void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
+  auto& label = static_cast<Label&>(control);
+  auto& shown = static_cast<LabelWidget&>(widget);
+  const bool lit = label.ForeColor == kHighlightText;
+  // Without a control to go to, an ampersand is shown like any other character.
+  const bool marked = Caption(label.Caption).contains('&') && PlainCaption(label.Caption) != Text(label.Caption);
+  const QString text = marked ? Caption(label.Caption) : Text(label.Caption);
+  const QString plain = PlainCaption(label.Caption);
+  const bool news = label.Announces && lit && (!shown.Lit || shown.text() != text);
+  const int room = std::max(widget.width() - (lit ? 8 : 0), 1);
+  const QFont base = BaseFont(label.Points, label.Bold);
+  const QFont font = label.WordWrap ? base : FittedFont(base, plain, room);
+  if (shown.font() != font) shown.setFont(font);
+  const bool cut = !label.WordWrap && QFontMetrics(font).horizontalAdvance(plain) > room + 1;
+  shown.setText(cut ? QFontMetrics(font).elidedText(plain, Qt::ElideRight, room) : text);
+  SetFullText(widget, control, plain, cut);
+  shown.setAlignment(AlignmentOf(label));
+  shown.setWordWrap(label.WordWrap);
+  const QColor ground =
+      label.BackColor == kButtonFace ? QColor() : ToQColor(label.BackColor, widget.window()->palette());
+  if (shown.Lit != lit || shown.Ground != ground) widget.update();
+  shown.Lit = lit;
+  shown.Ground = ground;
+  SetInk(shown, InkOf(label, widget.window()->palette()));
+  if (marked && shown.buddy() == nullptr) shown.setBuddy(&form.Window());
+  if (news) control.Owner.Screen().Tools().AnnounceChange(control);
+}
+
+QWidget* MakeImage(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new ImageWidget(&parent); }
+
+void SyncImage(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& shown = static_cast<ImageWidget&>(widget);
+  const auto& image = static_cast<Image&>(control);
+  if (shown.Name == image.Picture()) return;
+  shown.Name = image.Picture;
+  widget.update();
+}
+
+QWidget* MakeFrame(QtForm& form, Control& /*control*/, QWidget& parent) {
+  auto* const widget = new FrameWidget(form, &parent);
+  widget->setFont(BaseFont(9, true));
+  widget->setFocusPolicy(Qt::NoFocus);
+  return widget;
+}
+
+void SyncFrame(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& frame = static_cast<FrameWidget&>(widget);
+  const QString title = Caption(static_cast<Frame&>(control).Caption);
+  if (frame.title() != title) frame.setTitle(title);
+}
+
+}  // namespace
+
+const QtKind kQtLabel{MakeLabel, SyncLabel};
+const QtKind kQtImage{MakeImage, SyncImage};
+const QtKind kQtFrame{MakeFrame, SyncFrame};
+
+}  // namespace Tarnwise

@@ -1,0 +1,41 @@
+// Picture boxes, and what containers paint themselves: lines, shapes and drawings.
+#pragma once
+
+#include "view/Form.h"
+
+#include <QPainter>
+#include <QWidget>
+
+namespace Tarnwise {
+
+class QtForm;
+
+constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
+
+// A small drag source: drawn as a handle.
+bool IsHandle(const Control& control);
+
+class QtBox : public QWidget {
+ public:
+  QtBox(QtForm& form, Control& control, QWidget& parent);
+  Control* Source() const;  // the control while it is there
+  QtForm& Owner() const { return form_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void PaintHandle(QPainter& painter, Colour colour, bool round);
+  void PaintBox(QPainter& painter, const Control& control);
+
+  QtForm& form_;
+};
+
+// Lines and shapes of a container, back to front.
+void PaintChildren(QPainter& painter, const Form& form, const Control& container, const QRect& area);
+QRect PaintedPlace(const Control& control);  // of a line or a shape in its container
+
+}  // namespace Tarnwise

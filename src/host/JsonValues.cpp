@@ -135,11 +135,15 @@ String OneLine(const Json& value) {
   return value.is_object() ? "{" + text + "}" : "[" + text + "]";
 }
 
-bool HoldsPlainValues(const Json& value) {
-  for (const Json& element : value) {
-    if (element.is_structured()) return false;
-  }
-  return true;
+bool IsPlain(const Json& value) { return !value.is_structured(); }
+
+// What fills the lines: values or pairs of them, as in a curve, and numbers under names.
+bool IsTable(const Json& value) {
+  const auto isCell = [&value](const Json& element) {
+    if (value.is_object()) return element.is_number();
+    return IsPlain(element) || (element.is_array() && std::all_of(element.begin(), element.end(), IsPlain));
+  };
+  return std::all_of(value.begin(), value.end(), isCell);
 }
 
 void Print(const Json& value, std::size_t indent, std::size_t used, bool split, String& out) {
@@ -148,7 +152,7 @@ void Print(const Json& value, std::size_t indent, std::size_t used, bool split, 
     out += line;
     return;
   }
-  const bool fill = HoldsPlainValues(value);
+  const bool fill = IsTable(value);
   const String margin(indent + 2, ' ');
   out += value.is_object() ? "{" : "[";
   std::size_t column = kLineWidth;
@@ -157,7 +161,7 @@ void Print(const Json& value, std::size_t indent, std::size_t used, bool split, 
     if (!first) out += ",";
     first = false;
     const String label = value.is_object() ? Json(key).dump() + ": " : "";
-    if (fill && column + label.size() + element.dump().size() + 2 < kLineWidth) {
+    if (fill && column + label.size() + OneLine(element).size() + 2 < kLineWidth) {
       out += " ";
     } else {
       out += "\n" + margin;

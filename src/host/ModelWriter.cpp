@@ -42,12 +42,13 @@ String CodePoint(std::string_view character) {
 
 [[noreturn]] void RefuseText(std::string_view text, const Place& place) {
   for (std::size_t i = 0; i < text.size();) {
-    const std::string_view character = text.substr(i, CharacterLength(static_cast<unsigned char>(text[i])));
-    i += character.size();
+    const std::size_t length = CharacterLength(static_cast<unsigned char>(text[i]));
+    const std::string_view character = text.substr(i, length);
+    i += length;
     if (ToAnsi(character)) continue;
-    const bool whole = character.size() > 1 && std::all_of(character.begin() + 1, character.end(), [](char byte) {
-                         return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-                       });
+    const bool whole = length > 1 && character.size() == length &&
+                       std::all_of(character.begin() + 1, character.end(),
+                                   [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; });
     if (!whole) break;
     throw ModelFault(place.Text() + ": the character '" + String(character) + "' (" + CodePoint(character) +
                      ") is not in code page 1252");

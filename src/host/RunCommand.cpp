@@ -1,6 +1,7 @@
 #include "frame/mdTRNMain.h"
 #include "host/Commands.h"
 #include "host/Json.h"
+#include "host/PointsFile.h"
 #include "host/SaveModel.h"
 #include "host/WholeFile.h"
 
@@ -26,6 +27,7 @@ struct Judgments {
   VariantArray Weights;
   VariantArray WeightsH;
   VariantArray WeightsL;
+  std::optional<Points> TradeOffs;
 };
 
 Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
@@ -36,11 +38,46 @@ Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
                           {"ratio", ToJson(judgments.Weights[i])},
                           {"high", ToJson(judgments.WeightsH[i])}});
   }
-  return {{"type", judgments.RJType},
-          {"benefitReference", judgments.BRefAttID},
-          {"costReference", judgments.CRefAttID},
-          {"referenceRatio", ToJson(judgments.RefAttWR)},
-          {"attributes", attributes}};
+  Json object = {{"type", judgments.RJType},
+                 {"benefitReference", judgments.BRefAttID},
+                 {"costReference", judgments.CRefAttID},
+                 {"referenceRatio", ToJson(judgments.RefAttWR)},
+                 {"attributes", attributes}};
+  if (judgments.TradeOffs) {
+    const Points& p = *judgments.TradeOffs;
+    object["points"] = {{"AX", ToJson(p[0])},           {"AY", ToJson(p[1])},  {"BX", ToJson(p[2])},
+                        {"BY", ToJson(p[3])},           {"AOrientation", ToJson(p[4])}, {"ALX", ToJson(p[5])},
+                        {"ALY", ToJson(p[6])},          {"AUX", ToJson(p[7])}, {"AUY", ToJson(p[8])}};
+  }
+  return object;
+}
+
+// The points that the wizard is given: those of the last time, else zeros. Bad ones are told and not used.
+Points StartingPoints(const String& model, int numAtts) {
+  try {
+    return ReadPoints(model, numAtts);
+  } catch (const ModelFault& fault) {
+    std::cerr << "The trade-off points of last time are not used: " << fault.what() << std::endl;
+    return ZeroPoints(numAtts);
+  }
+}
+
+// The export has the orientations that went in; a resumed wizard wants those that the corners show.
+Points WithOrientations(Points p) {
+  enum { kOrientation = 4, kALX, kALY, kAUX, kAUY };
+  for (std::size_t i = 0; i < p[kOrientation].size(); ++i) {
+    const bool across = p[kALX][i] != p[kAUX][i];
+    const bool upward = p[kALY][i] != p[kAUY][i];
+    p[kOrientation][i] = Integer(across ? 1 : upward ? 2 : 0);
+  }
+  return p;
+}
+
+void Save(const String& model, const Judgments& judgments) {
+  if (judgments.TradeOffs) WritePoints(model, WithOrientations(*judgments.TradeOffs));
+  SaveJudgments(model, mdTRNMain(), judgments.RJType, judgments.BRefAttID, judgments.CRefAttID, judgments.RefAttWR,
+                judgments.Weights, judgments.WeightsH, judgments.WeightsL);
+  std::cerr << "The judgments are stored in " << model << "; the next run resumes from them." << std::endl;
 }
 
 // Shows the wizard until the user is through with it; nothing when the user cancelled.
@@ -52,7 +89,10 @@ std::optional<Judgments> Ask(const String& model) {
   dea.Events().ExportDirectBW = [&exported](const String& RJType, Integer BRefAttID, Integer CRefAttID,
                                             const Variant& RefAttWR, const VariantArray& Weights,
                                             const VariantArray& WeightsH, const VariantArray& WeightsL) {
-    exported = Judgments{RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH, WeightsL};
+    exported = Judgments{RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH, WeightsL, {}};
+  };
+  dea.Events().ExportABScores = [&exported](const auto&... arrays) {
+    if (exported) exported->TradeOffs = Points{arrays...};
   };
   dea.Events().UnloadTarnwise = [&](Integer /*fIndex*/, Boolean WeightsDone) {
     done = WeightsDone;
@@ -61,8 +101,8 @@ std::optional<Judgments> Ask(const String& model) {
   };
   const std::filesystem::path folder = PathFromText(model).parent_path();
   dea.GetCurFileData(folder.empty() ? String(".") : folder.string(), kFileIndex, model);
-  const VariantArray zeros(static_cast<std::size_t>(std::max(0, mdTRNMain().NumAtts())), Variant(0.0));
-  dea.TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros);
+  const Points p = StartingPoints(model, mdTRNMain().NumAtts());
+  dea.TranferABCoordinates(p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8]);
   dea.ShowTarnwise();
   QApplication::exec();
   if (!done) exported.reset();
@@ -81,10 +121,7 @@ int RunWizard(const RunOptions& options, int& argc, char** argv) {
     return kCancelled;
   }
   std::cout << JudgmentsJson(*judgments, mdTRNMain()).dump(2) << std::endl;
-  if (!options.Save) return 0;
-  SaveJudgments(options.Model, mdTRNMain(), judgments->RJType, judgments->BRefAttID, judgments->CRefAttID,
-                judgments->RefAttWR, judgments->Weights, judgments->WeightsH, judgments->WeightsL);
-  std::cerr << "The judgments are stored in " << options.Model << "; the next run resumes from them." << std::endl;
+  if (options.Save) Save(options.Model, *judgments);
   return 0;
 }
 

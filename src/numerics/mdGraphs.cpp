@@ -3,6 +3,7 @@
 #include "runtime/Numbers.h"
 
 #include <cmath>
+#include <optional>
 
 namespace Tarnwise {
 
@@ -86,50 +87,17 @@ int IntervalOf(const Curve& c, Double Xp) {
   return lo - 1;
 }
 
-Double Evaluate(const Coefs& k, Double d) { return k[0] + d * k[1] + (d * d) * k[2] + (d * d * d) * k[3]; }
-
 // The value of the line through two points.
 Double OnLine(const Curve& c, Double Xp) {
   return Divide((Xp - c.X[1]) * c.Y[0] - (Xp - c.X[0]) * c.Y[1], c.X[0] - c.X[1]);
 }
 
-bool IsAscending(const Curve& c) {
+bool Ascends(const Curve& c) {
   for (std::size_t i = 1; i < static_cast<std::size_t>(c.N); ++i) {
     if (!(c.X[i - 1] < c.X[i])) return false;
   }
   return true;
 }
-
-// Where the search for x leaves an interval: interval 0 holds its right end too, the last one has none.
-class Walker {
- public:
-  explicit Walker(const Curve& curve) : curve_(curve), ascending_(curve.N >= 3 && IsAscending(curve)) {}
-
-  Double ValueAt(Double x) {
-    if (!ascending_) return AkimaInterpolate(curve_, -1, x)[4];
-    if (!(inside_ && (first_ ? x <= end_ : x < end_))) Enter(x);
-    return Evaluate(coefs_, x - start_);
-  }
-
- private:
-  void Enter(Double x) {
-    const int i = IntervalOf(curve_, x);
-    const auto at = static_cast<std::size_t>(i);
-    coefs_ = AkimaInterpolate(curve_, i, x);
-    start_ = curve_.X[at];
-    first_ = i == 0;
-    end_ = i == curve_.N - 2 ? INFINITY : curve_.X[at + 1];
-    inside_ = true;
-  }
-
-  const Curve& curve_;
-  const bool ascending_;
-  bool inside_ = false;
-  bool first_ = false;
-  Double start_ = 0.0;
-  Double end_ = 0.0;
-  Coefs coefs_{};
-};
 
 }  // namespace
 
@@ -158,8 +126,34 @@ Coefs AkimaInterpolate(const Curve& curve, int Hint, Double Xp) {
   k[1] = t0;
   k[2] = (3.0 * m.M2 - 2.0 * t0 - t1) / h;
   k[3] = (t0 + t1 - 2.0 * m.M2) / (h * h);
-  if (Hint < 0) k[4] = Evaluate(k, Xp - curve.X[at]);
+  if (Hint < 0) k[4] = EvaluateCubic(k, Xp - curve.X[at]);
   return k;
+}
+
+PreparedCurve::PreparedCurve(const Curve& curve) : curve_(curve), ascending_(curve.N >= 3 && Ascends(curve)) {}
+
+CurvePiece PreparedCurve::PieceAt(Double x) const {
+  const int i = IntervalOf(curve_, x);
+  const auto at = static_cast<std::size_t>(i);
+  CurvePiece piece;
+  piece.K = AkimaInterpolate(curve_, i, x);
+  piece.Origin = curve_.X[at];
+  // The first interval holds its right end too; the outer ones go on beyond the points.
+  piece.From = i == 0 ? -INFINITY : curve_.X[at];
+  piece.Stop = i == curve_.N - 2 ? INFINITY : i == 0 ? std::nextafter(curve_.X[1], INFINITY) : curve_.X[at + 1];
+  return piece;
+}
+
+Double PreparedCurve::ValueAt(Double x) {
+  if (x >= last_.From && x < last_.Stop) return last_.ValueAt(x);
+  if (!ascending_ || !std::isfinite(x)) return AkimaInterpolate(curve_, -1, x)[4];
+  const auto at = static_cast<std::size_t>(IntervalOf(curve_, x));
+  if (!ready_[at]) {
+    pieces_[at] = PieceAt(x);
+    ready_[at] = true;
+  }
+  last_ = pieces_[at];
+  return last_.ValueAt(x);
 }
 
 Curve CurveOf(const WizardData& data, int att) {
@@ -174,35 +168,67 @@ Curve CurveOf(const WizardData& data, int att) {
   return curve;
 }
 
-Double GetAttValue(const WizardData& data, int att, Single score) { return ValueOn(CurveOf(data, att), score); }
-
-Double ValueOn(const Curve& curve, Single score) {
-  const Double value = AkimaInterpolate(curve, -1, static_cast<Double>(score))[4];
+Double ClampedValue(Double value) {
   if (std::isnan(value)) throw RuntimeError(6);
   if (value > 1.0) return 1.0;
   if (value < 0.0) return 0.0;
   return static_cast<Double>(static_cast<Single>(value));
 }
 
+Double GetAttValue(const WizardData& data, int att, Single score) {
+  return ClampedValue(AkimaInterpolate(CurveOf(data, att), -1, static_cast<Double>(score))[4]);
+}
+
+namespace {
+
+constexpr Double kTolerance = 0.0001;
+
+// The first x of the walk whose value is near enough to the target; nothing when there is none. The coefficients change
+// only where the walk enters another interval, and one comparison tells where that, or the end of the scale, is
+// reached.
+std::optional<Double> WalkAscending(const PreparedCurve& curve, Double x, Double step, Double top, Double target,
+                                    int mostSteps) {
+  int left = mostSteps;
+  x += step;
+  while (x < top) {
+    const CurvePiece piece = curve.PieceAt(x);
+    const Double stop = std::fmin(top, piece.Stop);
+    do {
+      if (std::fabs(piece.ValueAt(x) - target) <= kTolerance) return x;
+      if (--left == 0) return std::nullopt;
+      x += step;
+    } while (x < stop);
+  }
+  return std::nullopt;
+}
+
+std::optional<Double> WalkAny(const Curve& curve, Double x, Double step, Double top, Double target, int mostSteps) {
+  for (int left = mostSteps; left > 0; --left) {
+    x += step;
+    if (!(x < top)) break;
+    if (std::fabs(AkimaInterpolate(curve, -1, x)[4] - target) <= kTolerance) return x;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
 Single GetAttScore(const WizardData& data, int att, Single value) {
-  constexpr int kMostSteps = 1000000;
-  constexpr Double kTolerance = 0.0001;
   const Curve curve = CurveOf(data, att);
   if (curve.N < 1) throw RuntimeError(9);
   const Double top = data.AttValueData.ScoreMax[att];
   const Double range = top - data.AttValueData.ScoreMin[att];
   const Double step = range / 10000.0;
+  const Double start = curve.X[0];
+  // A step that does not move x, or moves it back, allows one point. Where x stops moving later, the points repeat
+  // until the count ends the walk: the answer is the same.
+  const int mostSteps = step > 0.0 && start + step != start ? 1000000 : 1;
   const auto target = static_cast<Double>(value);
-  Walker walker(curve);
-  Double x = curve.X[0];
-  for (int n = 1; n <= kMostSteps; ++n) {
-    const Double before = x;
-    x += step;
-    if (!(x < top)) break;
-    if (std::fabs(walker.ValueAt(x) - target) <= kTolerance) return ToSingleChecked(x);
-    if (!(step > 0.0) || x == before) break;
-  }
-  return ToSingleChecked(range / 2.0);
+  const PreparedCurve prepared(curve);
+  const std::optional<Double> found = prepared.IsAscending()
+                                          ? WalkAscending(prepared, start, step, top, target, mostSteps)
+                                          : WalkAny(curve, start, step, top, target, mostSteps);
+  return ToSingleChecked(found ? *found : range / 2.0);
 }
 
 Double GetAttValueFunc(const WizardData& data, int att, Single score) {

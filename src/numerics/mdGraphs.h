@@ -11,6 +11,10 @@ namespace Tarnwise {
 // the interpolated value at Xp, which is set by the search only.
 using Coefs = std::array<Double, 5>;
 
+inline Double EvaluateCubic(const Coefs& k, Double d) {
+  return k[0] + d * k[1] + (d * d) * k[2] + (d * d * d) * k[3];
+}
+
 // The points of a curve as numbers. At most 11, abscissae ascending (nobody checks: equal ones divide by zero).
 struct Curve {
   int N = 0;
@@ -30,8 +34,36 @@ Coefs AkimaInterpolate(const Curve& curve, int Hint, Double Xp);
 // The attribute's curve. Error 9 when its count passes 11, 13 or 94 for a point that is no number.
 Curve CurveOf(const WizardData& data, int att);
 
-// The value of a score, 0 to 1, at Single precision. Error 6 where the curve gives no number.
-Double ValueOn(const Curve& curve, Single score);
+// One interval's cubic: it holds for From <= x < Stop.
+struct CurvePiece {
+  Coefs K{};
+  Double Origin = 0.0;
+  Double From = 0.0;
+  Double Stop = 0.0;
+  Double ValueAt(Double x) const { return EvaluateCubic(K, x - Origin); }
+};
+
+// A curve that is looked up again and again: each interval's coefficients are computed once. Its values are those of
+// AkimaInterpolate's search to the last bit.
+class PreparedCurve {
+ public:
+  explicit PreparedCurve(const Curve& curve);
+  Double ValueAt(Double x);  // not clamped
+  bool IsAscending() const { return ascending_; }
+  CurvePiece PieceAt(Double x) const;  // of an ascending curve of three points at least, at a finite x
+
+ private:
+  Curve curve_;
+  bool ascending_;
+  CurvePiece last_;
+  std::array<CurvePiece, kMaxCurvePoints> pieces_;
+  std::array<bool, kMaxCurvePoints> ready_{};
+};
+
+// What an interpolated number is as a value: within 0 to 1, at Single precision. Error 6 when it is no number.
+Double ClampedValue(Double value);
+
+// The value of a score, 0 to 1, at Single precision.
 Double GetAttValue(const WizardData& data, int att, Single score);
 
 // The score of a value: the first one, in steps of a ten-thousandth of the scale, whose value comes within 0.0001. On a

@@ -40,10 +40,10 @@ void Store(WizardData& data, int xAtt, int yAtt, const Suggestion& s) {
 }
 
 // B's second value for the ratio; v3 comes back as A's second value.
-Single SecondValue(const Curve& xCurve, const Curve& yCurve, const Suggestion& s, Double ratio, Double& v3) {
-  const Double v1 = ValueOn(xCurve, s.P);
-  const Double v2 = ValueOn(xCurve, s.Q);
-  v3 = ValueOn(yCurve, s.R);
+Single SecondValue(PreparedCurve& xCurve, PreparedCurve& yCurve, const Suggestion& s, Double ratio, Double& v3) {
+  const Double v1 = ClampedValue(xCurve.ValueAt(static_cast<Double>(s.P)));
+  const Double v2 = ClampedValue(xCurve.ValueAt(static_cast<Double>(s.Q)));
+  v3 = ClampedValue(yCurve.ValueAt(static_cast<Double>(s.R)));
   return ToSingleChecked(v3 - (v2 - v1) * ratio);
 }
 
@@ -55,7 +55,9 @@ void SuggestBelowOne(WizardData& data, int xAtt, int yAtt, Double ratio) {
   s.Q = ToSingleChecked(x.Low + (x.Range() / 2.0) * 1.0);
   s.R = ToSingleChecked(y.Low + y.Range() / 2.0);
   Double v3 = 0.0;
-  s.W = SecondValue(CurveOf(data, xAtt), CurveOf(data, yAtt), s, ratio, v3);
+  PreparedCurve xCurve(CurveOf(data, xAtt));
+  PreparedCurve yCurve(CurveOf(data, yAtt));
+  s.W = SecondValue(xCurve, yCurve, s, ratio, v3);
   Store(data, xAtt, yAtt, s);
 }
 
@@ -65,8 +67,8 @@ void SuggestBelowOne(WizardData& data, int xAtt, int yAtt, Double ratio) {
 void SuggestAboveOne(WizardData& data, int xAtt, int yAtt, Double ratio) {
   const Scale x = ScaleOf(data, xAtt);
   const Scale y = ScaleOf(data, yAtt);
-  const Curve xCurve = CurveOf(data, xAtt);
-  const Curve yCurve = CurveOf(data, yAtt);
+  PreparedCurve xCurve(CurveOf(data, xAtt));
+  PreparedCurve yCurve(CurveOf(data, yAtt));
   const Double worst = data.AttValueData.WorstScore[xAtt];
   const Double bound = (data.AttValueData.BestScore[xAtt] + worst) / 10.0;
   Double c = 1.3;

@@ -81,6 +81,16 @@ TEST_F(WholeFile, FolderIsNotReadAsAFile) {
 }
 
 #ifndef _WIN32
+// Ends the process, with 0 where the write failed as it should.
+[[noreturn]] void WriteBeyondTheLimit(const String& path) {
+  rlimit limit{};
+  limit.rlim_cur = limit.rlim_max = 1000;
+  (void)signal(SIGXFSZ, SIG_IGN);
+  (void)setrlimit(RLIMIT_FSIZE, &limit);
+  const String fault = FaultOf([&] { WriteFileAtomically(path, std::vector<char>(100000, 'x')); });
+  _exit(fault == "can't write " + path + ": File too large" ? 0 : 1);
+}
+
 TEST_F(WholeFile, PermissionsOfTheOldFileStay) {
   const String path = folder.Write("a.kst", "old");
   const fs::perms kept = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
@@ -110,16 +120,7 @@ TEST_F(WholeFile, DeviceIsNotReplaced) {
 TEST_F(WholeFile, FullDiskIsAFaultThatLeavesTheOldFileAndNoOther) {
   // A file size limit stands in for a full disk: it fails the write in the same place.
   const String path = folder.Write("a.kst", "old");
-  ASSERT_EXIT(
-      {
-        const rlimit limit{1000, 1000};
-        (void)signal(SIGXFSZ, SIG_IGN);
-        (void)setrlimit(RLIMIT_FSIZE, &limit);
-        const String fault = FaultOf([&] { WriteFileAtomically(path, std::vector<char>(100000, 'x')); });
-        const bool good = fault == "can't write " + path + ": File too large" && folder.CountFiles() == 1;
-        _exit(good ? 0 : 1);
-      },
-      testing::ExitedWithCode(0), "");
+  ASSERT_EXIT(WriteBeyondTheLimit(path), testing::ExitedWithCode(0), "");
   EXPECT_EQ(FileBytes(path), (std::vector<char>{'o', 'l', 'd'}));
   EXPECT_EQ(folder.CountFiles(), 1U);
 }

@@ -50,6 +50,7 @@ struct OpenForm : TestScreen {
     Form->SendMasseges = [this](const String& text) { Notes.push_back("say " + text); };
     Screen->Created(*Form);
   }
+  ~OpenForm() { Screen->Release(*Form); }
 
   OpenForm& Open() {
     Form->Load();

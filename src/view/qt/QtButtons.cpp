@@ -32,8 +32,10 @@ class ButtonWidget : public QPushButton {
   }
 
   void paintEvent(QPaintEvent* event) override {
-    if (Ground.isValid()) PaintFlat();
-    else QPushButton::paintEvent(event);
+    if (Ground.isValid())
+      PaintFlat();
+    else
+      QPushButton::paintEvent(event);
   }
 
  private:
@@ -145,38 +147,37 @@ void SyncCheck(QtForm& /*form*/, Control& control, QWidget& widget) {
   Check(shown, box.Value != 0);
 }
 
-QWidget* MakeToolbar(QtForm& form, Control& control, QWidget& parent) {
-  auto* const bar = new QWidget(&parent);
-  for (const Toolbar::Button& button : static_cast<Toolbar&>(control).Buttons) {
-    auto* const tool = new QToolButton(bar);
-    tool->setObjectName(Text(button.Key));
-    tool->setAutoRaise(true);
-    tool->setFocusPolicy(Qt::NoFocus);
-    tool->setToolTip(Text(button.ToolTip));
-    tool->setAccessibleName(Text(button.ToolTip.empty() ? button.Key : button.ToolTip));
-    tool->setIcon(PictureIcon(button.Picture));
-    if (tool->icon().isNull()) tool->setText(Text(button.Key));
-    form.Watch(*tool, control);
-    QObject::connect(tool, &QToolButton::clicked, &form,
-                     [&form, bar, key = button.Key] { form.ToolPressed(*bar, key); });
-  }
-  return bar;
+QWidget* MakeToolbar(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new QWidget(&parent); }
+
+void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button& button) {
+  auto* const tool = new QToolButton(&widget);
+  tool->setObjectName(Text(button.Key));
+  tool->setAutoRaise(true);
+  tool->setFocusPolicy(Qt::NoFocus);
+  tool->setToolTip(Text(button.ToolTip));
+  tool->setAccessibleName(Text(button.ToolTip.empty() ? button.Key : button.ToolTip));
+  tool->setIcon(PictureIcon(button.Picture));
+  if (tool->icon().isNull()) tool->setText(Text(button.Key));
+  tool->show();
+  form.Watch(*tool, bar);
+  QObject::connect(tool, &QToolButton::clicked, &form,
+                   [&form, &widget, key = button.Key] { form.ToolPressed(widget, key); });
+}
+
+QList<QToolButton*> ToolsOf(const QWidget& widget) {
+  return widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
   auto& bar = static_cast<Toolbar&>(control);
-  auto tools = widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
-  if (tools.size() != static_cast<qsizetype>(bar.Buttons.size())) {
-    qDeleteAll(tools);
-    QWidget* const fresh = MakeToolbar(form, control, *widget.parentWidget());
-    for (QToolButton* tool : fresh->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) tool->setParent(&widget);
-    fresh->deleteLater();
-    tools = widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+  for (std::size_t i = static_cast<std::size_t>(ToolsOf(widget).size()); i < bar.Buttons.size(); ++i) {
+    AddTool(form, bar, widget, bar.Buttons[i]);
   }
+  const auto tools = ToolsOf(widget);
   const bool upright = widget.height() > widget.width();
   const int count = std::max(static_cast<int>(tools.size()), 1);
-  const int side = std::min(upright ? widget.width() : widget.height(),
-                            (upright ? widget.height() : widget.width()) / count);
+  const int side =
+      std::min(upright ? widget.width() : widget.height(), (upright ? widget.height() : widget.width()) / count);
   for (int i = 0; i < tools.size(); ++i) {
     tools[i]->setGeometry(upright ? 0 : i * side, upright ? i * side : 0, side, side);
     tools[i]->setIconSize(QSize(side, side) * 5 / 8);

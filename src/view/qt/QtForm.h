@@ -23,9 +23,9 @@ class QtToolkit;
 // The left button is down.
 struct QtPress {
   Control* On = nullptr;
-  int Row = -1;            // of a list or a tab strip
-  bool Refused = false;    // the rest of it is nobody's
-  bool Native = false;     // the widget follows it itself
+  int Row = -1;          // of a list or a tab strip
+  bool Refused = false;  // the rest of it is nobody's
+  bool Native = false;   // the widget follows it itself
 };
 
 class QtForm : public QObject {
@@ -50,45 +50,47 @@ class QtForm : public QObject {
   void Release();
 
   // What widgets tell, all of it by a person's hand.
-  void Clicked(QWidget& widget);  // a button's release or its mnemonic
+  void Clicked(QWidget& widget);             // a button's release or its mnemonic
   void RowChosen(QWidget& widget, int row);  // in the control's own numbers
   void ToolPressed(QWidget& widget, const String& key);
   void Scrolled(QWidget& widget, int value, bool dragging);
   void CloseWanted();
+  void Ticked(const Control& timer);
 
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  friend class QtInput;
-
   void Make(Control& control);
   void SyncPlace(Control& control, QWidget& widget);
   void SyncLook(Control& control, QWidget& widget);
   void SyncWindow();
   void SyncPainted(const Control& control);
   void SyncTimer(Control& control);
+  void StopTimer(const Control& control);
   void Restack(const Control& container);
 
-  bool Press(QObject& object, Control& control, const QMouseEvent& event);
-  bool Move(QObject& object, const QMouseEvent& event);
-  bool Release(QObject& object, QMouseEvent& event);
-  void FinishPress(Control& control, const QMouseEvent& event, const QObject& object);
+  bool Press(Control& control, const QMouseEvent& event);
+  bool Move(const QMouseEvent& event);
+  bool LetGo(QObject& object, QMouseEvent& event);
+  void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
+  void Settle(Control* control);
   bool Wheel(Control& control, QWheelEvent& event);
-  bool Shortcut(Control& control, QWidget& widget, bool ambiguous);
-  bool KeyDown(QObject& object, Control& control, QKeyEvent& event);
+  bool Mnemonic(Control& control, QWidget& widget, bool ambiguous);
+  bool KeyDown(Control& control, QKeyEvent& event);
+  bool BoxKey(TextBox& box, QKeyEvent& event);
   bool KeyUp(const QKeyEvent& event);
-  void FocusCame(QObject& object, Control& control);
+  void FocusCame(QObject& object, Control& control, int reason);
 
   Form* form_;
   QtToolkit& toolkit_;
   std::unique_ptr<QWidget> window_;
   std::map<const Control*, QPointer<QWidget>> widgets_;
   std::map<const QObject*, Control*> controls_;
-  std::map<const Control*, std::unique_ptr<QTimer>> timers_;
-  std::map<const Control*, int> orders_;            // as the widgets are stacked now
-  std::map<const Control*, QRect> painted_;         // where lines and shapes are seen now
-  std::vector<const Control*> restack_;             // containers whose children changed their order
-  QPoint placed_;                                   // where the tree last wanted the window
+  std::map<const Control*, QTimer*> timers_;
+  std::map<const Control*, int> orders_;     // as the widgets are stacked now
+  std::map<const Control*, QRect> painted_;  // where lines and shapes are seen now
+  std::vector<const Control*> restack_;      // containers whose children changed their order
+  QPoint placed_;                            // where the tree last wanted the window
   QtPress press_;
   int typing_ = 0;  // key that went down in a text box and has not come up
 };

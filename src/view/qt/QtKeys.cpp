@@ -7,13 +7,27 @@ namespace Tarnwise {
 
 int VirtualKey(const QKeyEvent& event) {
   static const std::map<int, int> codes{
-      {Qt::Key_Backspace, kKeyBackspace}, {Qt::Key_Tab, kKeyTab},       {Qt::Key_Backtab, kKeyTab},
-      {Qt::Key_Return, kKeyReturn},       {Qt::Key_Enter, kKeyReturn},  {Qt::Key_Escape, kKeyEscape},
-      {Qt::Key_Space, kKeySpace},         {Qt::Key_PageUp, kKeyPageUp}, {Qt::Key_PageDown, kKeyPageDown},
-      {Qt::Key_End, kKeyEnd},             {Qt::Key_Home, kKeyHome},     {Qt::Key_Left, kKeyLeft},
-      {Qt::Key_Up, kKeyUp},               {Qt::Key_Right, kKeyRight},   {Qt::Key_Down, kKeyDown},
-      {Qt::Key_Insert, kKeyInsert},       {Qt::Key_Delete, kKeyDelete}, {Qt::Key_Period, 190},
-      {Qt::Key_Comma, 188},               {Qt::Key_Minus, 189},         {Qt::Key_Plus, 187},
+      {Qt::Key_Backspace, kKeyBackspace},
+      {Qt::Key_Tab, kKeyTab},
+      {Qt::Key_Backtab, kKeyTab},
+      {Qt::Key_Return, kKeyReturn},
+      {Qt::Key_Enter, kKeyReturn},
+      {Qt::Key_Escape, kKeyEscape},
+      {Qt::Key_Space, kKeySpace},
+      {Qt::Key_PageUp, kKeyPageUp},
+      {Qt::Key_PageDown, kKeyPageDown},
+      {Qt::Key_End, kKeyEnd},
+      {Qt::Key_Home, kKeyHome},
+      {Qt::Key_Left, kKeyLeft},
+      {Qt::Key_Up, kKeyUp},
+      {Qt::Key_Right, kKeyRight},
+      {Qt::Key_Down, kKeyDown},
+      {Qt::Key_Insert, kKeyInsert},
+      {Qt::Key_Delete, kKeyDelete},
+      {Qt::Key_Period, 190},
+      {Qt::Key_Comma, 188},
+      {Qt::Key_Minus, 189},
+      {Qt::Key_Plus, 187},
   };
   const int key = event.key();
   const auto found = codes.find(key);

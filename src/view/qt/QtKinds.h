@@ -1,5 +1,5 @@
-// The native widget of each kind of control: how it is made, and how it is brought to what its record says. Programmatic
-// changes raise nothing.
+// The native widget of each kind of control: how it is made, and how it is brought to what its record says.
+// Programmatic changes raise nothing.
 #pragma once
 
 #include "view/Controls.h"

@@ -1,5 +1,7 @@
 #include "view/qt/QtLifetime.h"
 
+#include "view/Platform.h"
+
 #include <QApplication>
 #include <QPointer>
 #include <QTimer>
@@ -49,6 +51,12 @@ QtEntry::~QtEntry() {
   --depth;
   DigLater();
 }
+
+QtFreshHandlers::QtFreshHandlers(Platform& platform) : platform_(platform), depth_(platform.HandlerDepth) {
+  platform_.HandlerDepth = 0;
+}
+
+QtFreshHandlers::~QtFreshHandlers() { platform_.HandlerDepth = depth_; }
 
 void Bury(QObject* object) {
   Graves().push_back({object, std::max(depth, 1)});

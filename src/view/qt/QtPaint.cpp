@@ -27,8 +27,8 @@ QColor PictureColour(Colour colour) {
 
 void DrawShape(QPainter& painter, const PictureShape& shape) {
   painter.setBrush(shape.Fill ? QBrush(PictureColour(*shape.Fill)) : QBrush(Qt::NoBrush));
-  painter.setPen(shape.Stroke ? QPen(PictureColour(*shape.Stroke), static_cast<double>(shape.StrokeWidth), Qt::SolidLine,
-                                     Qt::RoundCap, Qt::RoundJoin)
+  painter.setPen(shape.Stroke ? QPen(PictureColour(*shape.Stroke), static_cast<double>(shape.StrokeWidth),
+                                     Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
                               : QPen(Qt::NoPen));
   QPolygonF points;
   for (std::size_t i = 0; i + 1 < shape.Points.size(); i += 2) {

@@ -22,7 +22,7 @@ QString Caption(const String& caption);
 QString PlainCaption(const String& caption);  // without marks, for what is read aloud or shown in a tool tip
 
 double PixelsPerUnit(const Control& container);  // logical pixels in a unit of its scale
-QRect PixelPlace(const Control& control);         // in its container, edges on whole pixels
+QRect PixelPlace(const Control& control);        // in its container, edges on whole pixels
 
 bool IsSystemColour(Colour colour);
 QColor ToQColor(Colour colour, const QPalette& palette);

@@ -1,0 +1,14 @@
+// What screen readers see beyond Qt's own widgets: drag sources that can be read and moved, and verdicts as they
+// change.
+#pragma once
+
+#include "view/Controls.h"
+
+namespace Tarnwise {
+
+class QtForm;
+
+void InstallAccessibility();
+void Announce(QtForm& form, Control& control);
+
+}  // namespace Tarnwise

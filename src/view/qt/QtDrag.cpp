@@ -1,0 +1,183 @@
+#include "view/qt/QtDrag.h"
+
+#include "view/Pictures.h"
+#include "view/Platform.h"
+#include "view/Reach.h"
+#include "view/qt/QtForm.h"
+#include "view/qt/QtLifetime.h"
+#include "view/qt/QtPaint.h"
+#include "view/qt/QtPictureBox.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileInfo>
+#include <QLabel>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kForbidden = 12;
+constexpr int kIconSide = 28;  // pixels, of the picture that stands for a mark
+constexpr double kOpacity = 0.7;
+constexpr double kTwips = 15.0;  // in a pixel
+
+QPixmap Translucent(const QPixmap& picture) {
+  QPixmap faint(picture.size());
+  faint.setDevicePixelRatio(picture.devicePixelRatio());
+  faint.fill(Qt::transparent);
+  QPainter painter(&faint);
+  painter.setOpacity(kOpacity);
+  painter.drawPixmap(0, 0, picture);
+  return faint;
+}
+
+// By its file, or where that is missing by the picture of the same name.
+QPixmap IconOf(const String& path, double ratio) {
+  if (FindPicture(path) != nullptr) return PicturePixmap(path, kIconSide, ratio);
+  QString file = Text(path);
+  file.replace('\\', '/');
+  const QPixmap loaded(file);
+  if (!loaded.isNull()) return loaded;
+  return PicturePixmap(Text(QFileInfo(file).baseName().toLower()), kIconSide, ratio);
+}
+
+}  // namespace
+
+void QtDrag::Arm(QtForm& form, Control& source, const QPointF& global) {
+  Clear();
+  form_ = &form;
+  source_ = &source;
+  start_ = global;
+}
+
+void QtDrag::Begin() {
+  if (on_ || source_ == nullptr || form_.isNull() || form_->Tree() == nullptr) return;
+  on_ = true;
+  if (auto* const button = dynamic_cast<QAbstractButton*>(form_->WidgetOf(*source_))) button->setDown(false);
+  form_->Tree()->Screen().Drag.Begin(*source_);
+}
+
+bool QtDrag::Move(const QPointF& global) {
+  if (source_ == nullptr || form_.isNull() || form_->Tree() == nullptr) return false;
+  if (!on_ && (global - start_).manhattanLength() < QApplication::startDragDistance()) return false;
+  QtForm& form = *form_;
+  const QtEntry entry(*form.Tree());
+  Begin();
+  Platform& platform = form.Tree()->Screen();
+  const QPointF at = form.Window().mapFromGlobal(global);
+  if (QRectF(form.Window().rect()).contains(at)) {
+    platform.Drag.OverPoint(static_cast<Single>(at.x() * kTwips), static_cast<Single>(at.y() * kTwips));
+  } else {
+    platform.Drag.OverNothing();
+  }
+  if (on_) Follow(form, at);
+  return true;
+}
+
+bool QtDrag::Release() {
+  if (!on_ || form_.isNull() || form_->Tree() == nullptr) {
+    Clear();
+    return false;
+  }
+  const QtEntry entry(*form_->Tree());
+  Platform& platform = form_->Tree()->Screen();
+  Clear();
+  platform.Drag.Drop();
+  return true;
+}
+
+bool QtDrag::Cancel() {
+  if (!on_ || form_.isNull() || form_->Tree() == nullptr) {
+    Clear();
+    return false;
+  }
+  const QtEntry entry(*form_->Tree());
+  Platform& platform = form_->Tree()->Screen();
+  Clear();
+  platform.Drag.Cancel();
+  return true;
+}
+
+void QtDrag::Forget(const Control& control) {
+  if (source_ == &control) Clear();
+}
+
+void QtDrag::Show(QtForm& form) {
+  if (on_ || form.Tree() == nullptr) return;
+  const DragSession& drag = form.Tree()->Screen().Drag;
+  if (!drag.Active() || &drag.Source()->Owner != form.Tree()) {
+    if (source_ == nullptr) Clear();
+    return;
+  }
+  const Control& seen = drag.Target() != nullptr ? *drag.Target() : *drag.Source();
+  const Rect place = PlaceOnForm(seen);
+  const Single unit = UnitOf(seen);
+  const bool onTarget = drag.Target() != nullptr;
+  const Single x = place.X + (onTarget ? drag.X() * unit : place.W / 2.0F);
+  const Single y = place.Y + (onTarget ? drag.Y() * unit : place.H / 2.0F);
+  Follow(form, QPointF(static_cast<double>(x), static_cast<double>(y)) / kTwips);
+}
+
+QPixmap QtDrag::PictureOf(QtForm& form, const Control& source) {
+  const double ratio = form.Window().devicePixelRatioF();
+  if (!source.DragIcon().empty()) {
+    const QPixmap icon = IconOf(source.DragIcon, ratio);
+    if (!icon.isNull()) return icon;
+  }
+  // What the handlers move themselves needs no second picture.
+  if (source.KeyboardDrag == DragBy::Units) return {};
+  QWidget* const widget = form.WidgetOf(source);
+  return widget == nullptr ? QPixmap() : Translucent(widget->grab());
+}
+
+void QtDrag::Follow(QtForm& form, const QPointF& inWindow) {
+  const DragSession& drag = form.Tree()->Screen().Drag;
+  if (!drag.Active()) {
+    Clear();
+    return;
+  }
+  const Control& source = *drag.Source();
+  const String looks = source.FullName() + "|" + source.DragIcon();
+  auto* ghost = static_cast<QLabel*>(ghost_.data());
+  if (ghost == nullptr || ghostOf_ != looks) {
+    const QPixmap picture = PictureOf(form, source);
+    if (ghost == nullptr) ghost = new QLabel(&form.Window());
+    ghost->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ghost->setPixmap(picture);
+    ghost->resize(picture.deviceIndependentSize().toSize());
+    ghost->setVisible(!picture.isNull());
+    ghost_ = ghost;
+    ghostOf_ = looks;
+  }
+  ghost->move((inWindow - QPointF(ghost->width() / 2.0, ghost->height() / 2.0)).toPoint());
+  ghost->raise();
+  if (on_) SetCursor(source.MousePointer, drag.Target() != nullptr);
+}
+
+void QtDrag::SetCursor(int mousePointer, bool overTarget) {
+  const Qt::CursorShape shape = mousePointer == kForbidden || !overTarget ? Qt::ForbiddenCursor
+                                : mousePointer == 0                       ? Qt::ClosedHandCursor
+                                                                          : CursorFor(mousePointer);
+  if (pointed_)
+    QApplication::changeOverrideCursor(shape);
+  else
+    QApplication::setOverrideCursor(shape);
+  pointed_ = true;
+}
+
+void QtDrag::Clear() {
+  if (pointed_) QApplication::restoreOverrideCursor();
+  pointed_ = false;
+  on_ = false;
+  source_ = nullptr;
+  form_ = nullptr;
+  if (!ghost_.isNull()) {
+    ghost_->hide();
+    Bury(ghost_);
+  }
+  ghost_ = nullptr;
+  ghostOf_.clear();
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,244 @@
+#include "view/qt/QtPictureBox.h"
+
+#include "view/Reach.h"
+#include "view/qt/QtForm.h"
+#include "view/qt/QtKinds.h"
+#include "view/qt/QtPaint.h"
+
+#include <QEvent>
+#include <QPainterPath>
+#include <QStyle>
+#include <algorithm>
+#include <cmath>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kHandleSide = 16;        // pixels: a drag source up to this size is a handle
+constexpr double kHandleRadius = 5.0;  // as drawn, whatever its size in the tree
+constexpr double kSlantedLine = 1.6;   // pixels
+
+// The frame of a bordered box stands in front of whatever the box contains.
+class BorderWidget : public QWidget {
+ public:
+  explicit BorderWidget(QWidget* parent) : QWidget(parent) {
+    setObjectName("border");
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  void resizeEvent(QResizeEvent* /*event*/) override {
+    setMask(QRegion(rect()).subtracted(QRegion(rect().adjusted(1, 1, -1, -1))));
+  }
+};
+
+BorderWidget* BorderOf(const QWidget& box) {
+  return static_cast<BorderWidget*>(box.findChild<QWidget*>("border", Qt::FindDirectChildrenOnly));
+}
+
+// Upright and level lines stay on whole pixels, slanted ones are smoothed.
+void DrawLine(QPainter& painter, const QPointF& from, const QPointF& to, const QColor& colour, double width) {
+  const bool straight = std::abs(from.x() - to.x()) < 0.01 || std::abs(from.y() - to.y()) < 0.01;
+  painter.setRenderHint(QPainter::Antialiasing, !straight);
+  painter.setPen(QPen(colour, straight ? width : width * kSlantedLine, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(from, to);
+}
+
+void DrawShapeControl(QPainter& painter, const Shape& shape, const QRectF& place, const QPalette& palette) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor fill = ToQColor(shape.FillColor, palette);
+  QColor edge = ToQColor(shape.BorderColor, palette);
+  edge.setAlphaF(0.55F);
+  painter.setBrush(fill);
+  painter.setPen(QPen(edge, 1.0));
+  const QRectF body = place.adjusted(0.75, 0.75, -0.75, -0.75);
+  if (shape.Round)
+    painter.drawEllipse(body);
+  else
+    painter.drawRoundedRect(body, 2.0, 2.0);
+}
+
+QPointF EndOf(Single x, Single y, double unit) {
+  return {static_cast<double>(x) * unit, static_cast<double>(y) * unit};
+}
+
+void PaintLine(QPainter& painter, const Line& line, const QPalette& palette) {
+  const double unit = PixelsPerUnit(*line.Parent);
+  DrawLine(painter, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), ToQColor(line.BorderColor, palette),
+           1.0);
+}
+
+void PaintDrawn(QPainter& painter, const Drawn& drawn, double unit, const QPalette& palette) {
+  QPolygonF points;
+  for (std::size_t i = 0; i + 1 < drawn.Points.size(); i += 2) {
+    points << EndOf(drawn.Points[i], drawn.Points[i + 1], unit);
+  }
+  const QColor ink = ToQColor(drawn.Ink, palette);
+  if (drawn.Shape == Drawn::What::Polygon) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawPolygon(points, Qt::WindingFill);
+  } else if (points.size() >= 2 && drawn.Shape == Drawn::What::Line) {
+    DrawLine(painter, points[0], points[1], ink, drawn.LineWidth);
+  } else if (points.size() >= 2) {
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ink, drawn.LineWidth));
+    painter.drawRect(QRectF(points[0], points[1]).normalized());
+  }
+}
+
+void SyncPictureBox(QtForm& /*form*/, Control& control, QWidget& widget) {
+  const bool bordered = static_cast<PictureBox&>(control).Bordered && !IsHandle(control);
+  BorderWidget* const border = BorderOf(widget);
+  if (border != nullptr) border->setVisible(bordered);
+  if (border == nullptr && bordered) {
+    auto* const fresh = new BorderWidget(&widget);
+    fresh->setGeometry(widget.rect());
+    fresh->show();
+  }
+  widget.update();
+}
+
+QWidget* MakeBox(QtForm& form, Control& control, QWidget& parent) { return new QtBox(form, control, parent); }
+
+void SyncShape(QtForm& /*form*/, Control& /*control*/, QWidget& widget) { widget.update(); }
+
+}  // namespace
+
+bool IsHandle(const Control& control) {
+  if (!control.DragAutomatic || (control.Type != Kind::PictureBox && control.Type != Kind::Shape)) return false;
+  const QRect place = PixelPlace(control);
+  return place.width() <= kHandleSide && place.height() <= kHandleSide;
+}
+
+bool IsPainted(const Control& control) {
+  return control.Type == Kind::Line ||
+         (control.Type == Kind::Shape && !control.DragAutomatic && !control.TakesDrags() && !control.Click);
+}
+
+QRect PaintedPlace(const Control& control) {
+  if (control.Type != Kind::Line) return PixelPlace(control).adjusted(-1, -1, 1, 1);
+  const auto& line = static_cast<const Line&>(control);
+  const double unit = PixelsPerUnit(*control.Parent);
+  const QRectF between(EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit));
+  return between.normalized().adjusted(-2, -2, 2, 2).toAlignedRect();
+}
+
+void PaintChildren(QPainter& painter, const Form& form, const Control& container, const QRect& area) {
+  const QPalette palette = painter.device()->devType() == QInternal::Widget
+                               ? static_cast<QWidget*>(painter.device())->palette()
+                               : QPalette();
+  for (const Control* control : ChildrenOf(form, &container)) {
+    if (!IsPainted(*control) || !control->Visible || !PaintedPlace(*control).intersects(area)) continue;
+    if (control->Type == Kind::Line)
+      PaintLine(painter, static_cast<const Line&>(*control), palette);
+    else
+      DrawShapeControl(painter, static_cast<const Shape&>(*control), QRectF(PixelPlace(*control)), palette);
+  }
+}
+
+QtBox::QtBox(QtForm& form, Control& control, QWidget& parent) : QWidget(&parent), form_(form) {
+  if (control.Type == Kind::PictureBox && !IsHandle(control)) setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+Control* QtBox::Source() const { return form_.ControlOf(this); }
+
+void QtBox::paintEvent(QPaintEvent* event) {
+  const Control* const control = Source();
+  if (control == nullptr) return;
+  QPainter painter(this);
+  if (control->Type == Kind::Shape) {
+    PaintHandle(painter, static_cast<const Shape*>(control)->FillColor, static_cast<const Shape*>(control)->Round);
+  } else if (IsHandle(*control)) {
+    PaintHandle(painter, static_cast<const PictureBox*>(control)->BackColor, true);
+  } else {
+    PaintBox(painter, *control);
+    PaintChildren(painter, control->Owner, *control, event->rect());
+  }
+}
+
+void QtBox::PaintBox(QPainter& painter, const Control& control) {
+  const auto& box = static_cast<const PictureBox&>(control);
+  painter.fillRect(rect(), ToQColor(box.BackColor, palette()));
+  DrawPicture(painter, box.Picture, QRectF(rect()).adjusted(6, 6, -6, -6));
+  for (const Drawn& drawn : box.Drawing) PaintDrawn(painter, drawn, PixelsPerUnit(box), palette());
+  if (hasFocus() && box.DragAutomatic) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  }
+}
+
+void QtBox::PaintHandle(QPainter& painter, Colour colour, bool round) {
+  const Control& control = *Source();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QPointF middle = QRectF(rect()).center();
+  const double own = std::min(rect().width(), rect().height()) / 2.0 - kGrabMargin;
+  const double radius = std::max(own, kHandleRadius) - (underMouse() ? 0.0 : 0.5);
+  if (control.Type == Kind::PictureBox && !static_cast<const PictureBox&>(control).Picture().empty()) {
+    DrawPicture(painter, static_cast<const PictureBox&>(control).Picture,
+                QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+  } else {
+    painter.setBrush(ToQColor(colour, palette()));
+    painter.setPen(QPen(Qt::white, 1.5));
+    const QRectF body(middle - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
+    if (round)
+      painter.drawEllipse(body);
+    else
+      painter.drawRoundedRect(body, 2, 2);
+  }
+  if (!hasFocus() && !underMouse()) return;
+  painter.setBrush(Qt::NoBrush);
+  QColor ring = palette().color(QPalette::Highlight);
+  if (!hasFocus()) ring.setAlphaF(0.5F);
+  painter.setPen(QPen(ring, 2.0));
+  const double around = std::min(rect().width(), rect().height()) / 2.0 - 1.0;
+  painter.drawEllipse(middle, around, around);
+}
+
+void QtBox::resizeEvent(QResizeEvent* /*event*/) {
+  if (QWidget* const border = BorderOf(*this)) border->setGeometry(rect());
+}
+
+void QtBox::enterEvent(QEnterEvent* /*event*/) {
+  if (Source() != nullptr && Source()->DragAutomatic) update();
+}
+
+void QtBox::leaveEvent(QEvent* /*event*/) {
+  if (Source() != nullptr && Source()->DragAutomatic) update();
+}
+
+const QtKind kQtPictureBox{MakeBox, SyncPictureBox};
+const QtKind kQtShape{MakeBox, SyncShape};
+
+const QtKind* KindOf(const Control& control) {
+  switch (control.Type) {
+    case Kind::Label: return &kQtLabel;
+    case Kind::Image: return &kQtImage;
+    case Kind::Frame: return &kQtFrame;
+    case Kind::CommandButton: return &kQtCommandButton;
+    case Kind::OptionButton: return &kQtOptionButton;
+    case Kind::CheckBox: return &kQtCheckBox;
+    case Kind::Toolbar: return &kQtToolbar;
+    case Kind::TextBox: return &kQtTextBox;
+    case Kind::ListBox: return &kQtListBox;
+    case Kind::TabStrip: return &kQtTabStrip;
+    case Kind::ComboBox: return &kQtComboBox;
+    case Kind::ImageCombo: return &kQtImageCombo;
+    case Kind::Grid: return &kQtGrid;
+    case Kind::VScrollBar: return &kQtScrollBar;
+    case Kind::PictureBox: return &kQtPictureBox;
+    case Kind::Shape: return IsPainted(control) ? nullptr : &kQtShape;
+    default: return nullptr;
+  }
+}
+
+}  // namespace Tarnwise

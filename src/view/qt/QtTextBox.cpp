@@ -1,0 +1,123 @@
+#include "view/qt/QtTextBox.h"
+
+#include "view/qt/QtForm.h"
+#include "view/qt/QtKeys.h"
+#include "view/qt/QtKinds.h"
+#include "view/qt/QtPaint.h"
+
+#include <QSignalBlocker>
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+// Carets are counted in characters by the tree, in UTF-16 units by Qt.
+int CharactersBefore(const QString& text, int units) { return static_cast<int>(text.left(units).toUcs4().size()); }
+
+int UnitsBefore(const QString& text, int characters) {
+  const auto codes = text.toUcs4().first(std::clamp(characters, 0, static_cast<int>(text.toUcs4().size())));
+  return static_cast<int>(QString::fromUcs4(reinterpret_cast<const char32_t*>(codes.constData()), codes.size()).size());
+}
+
+int SelectionStart(const QLineEdit& edit) {
+  return edit.hasSelectedText() ? edit.selectionStart() : edit.cursorPosition();
+}
+
+QWidget* MakeTextBox(QtForm& form, Control& control, QWidget& parent) {
+  auto* const edit = new QLineEdit(&parent);
+  edit->setContextMenuPolicy(Qt::NoContextMenu);
+  edit->setDragEnabled(false);
+  edit->setAcceptDrops(false);
+  edit->setAttribute(Qt::WA_InputMethodEnabled, false);  // every character goes through the form's key events
+  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] {
+    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
+  });
+  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] {
+    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
+  });
+  // The caret stands where the tree says until a person moves it.
+  edit->setText(Text(static_cast<TextBox&>(control).Text));
+  return edit;
+}
+
+void SyncTextBox(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& box = static_cast<TextBox&>(control);
+  auto& edit = static_cast<QLineEdit&>(widget);
+  const QSignalBlocker quiet(edit);
+  const QString text = Text(box.Text);
+  if (edit.text() != text) edit.setText(text);
+  const int start = UnitsBefore(text, box.SelStart);
+  const int length = UnitsBefore(text, box.SelStart() + box.SelLength()) - start;
+  if (SelectionStart(edit) == start && edit.selectedText().size() == length) return;
+  if (length > 0) {
+    edit.setSelection(start, length);
+  } else {
+    edit.deselect();
+    edit.setCursorPosition(start);
+  }
+}
+
+}  // namespace
+
+void StoreCaret(TextBox& box, const QLineEdit& edit) {
+  // A text on its way into the tree is told by TextEdited, caret and all.
+  if (Text(edit.text()) != box.Text()) return;
+  const int start = SelectionStart(edit);
+  const int end = start + static_cast<int>(edit.selectedText().size());
+  box.SelStart = CharactersBefore(edit.text(), start);
+  box.SelLength = CharactersBefore(edit.text(), end) - box.SelStart;
+}
+
+void TypeCharacter(QLineEdit& edit, int character) {
+  switch (character) {
+    case 1: edit.selectAll(); break;
+    case 3: edit.copy(); break;
+    case kKeyBackspace: edit.backspace(); break;
+    case 22: edit.paste(); break;
+    case 24: edit.cut(); break;
+    case 26: edit.undo(); break;
+    default:
+      if (character < 32 || character == 127) return;
+      const auto code = static_cast<char32_t>(character);
+      edit.insert(QString::fromUcs4(&code, 1));
+  }
+}
+
+bool PressEditingKey(QLineEdit& edit, int code, int shift) {
+  const bool marks = (shift & 1) != 0;
+  const bool words = (shift & 2) != 0;
+  switch (code) {
+    case kKeyDelete:
+      if (marks)
+        edit.cut();
+      else
+        edit.del();
+      return true;
+    case kKeyInsert:
+      if (marks)
+        edit.paste();
+      else if (words)
+        edit.copy();
+      return true;
+    case kKeyHome: edit.home(marks); return true;
+    case kKeyEnd: edit.end(marks); return true;
+    case kKeyLeft:
+      if (words)
+        edit.cursorWordBackward(marks);
+      else
+        edit.cursorBackward(marks);
+      return true;
+    case kKeyRight:
+      if (words)
+        edit.cursorWordForward(marks);
+      else
+        edit.cursorForward(marks);
+      return true;
+    default: return false;
+  }
+}
+
+const QtKind kQtTextBox{MakeTextBox, SyncTextBox};
+
+}  // namespace Tarnwise

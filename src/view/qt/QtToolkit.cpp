@@ -1,0 +1,142 @@
+#include "view/qt/QtToolkit.h"
+
+#include "view/qt/QtAccessible.h"
+#include "view/qt/QtForm.h"
+#include "view/qt/QtLifetime.h"
+#include "view/qt/QtPaint.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QFontMetricsF>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr double kTwips = 15.0;  // in a logical pixel
+
+}  // namespace
+
+QtToolkit::QtToolkit() { InstallAccessibility(); }
+
+QtToolkit::~QtToolkit() {
+  SetPointer(0);
+  for (auto& [form, window] : forms_) {
+    window->Release();
+    Bury(window.release());
+  }
+}
+
+QtForm* QtToolkit::FormOf(const Form& form) const {
+  const auto found = forms_.find(&form);
+  return found == forms_.end() ? nullptr : found->second.get();
+}
+
+QtForm& QtToolkit::Window(Form& form) {
+  auto& window = forms_[&form];
+  if (!window) window = std::make_unique<QtForm>(form, *this);
+  return *window;
+}
+
+void QtToolkit::Show(Form& form, bool modal) {
+  QtForm& shown = Window(form);
+  QWidget& window = shown.Window();
+  const Qt::WindowModality modality = modal ? Qt::ApplicationModal : Qt::NonModal;
+  if (window.windowModality() != modality) {
+    window.hide();
+    window.setWindowModality(modality);
+  }
+  shown.Sync();
+  window.show();
+  window.raise();
+  window.activateWindow();
+  shown.FocusTree();
+}
+
+void QtToolkit::Hide(Form& form) {
+  if (QtForm* const shown = FormOf(form)) shown->Window().hide();
+  drag_.Cancel();
+  Wake(form);
+}
+
+void QtToolkit::Release(Form& form) {
+  const auto found = forms_.find(&form);
+  if (found != forms_.end()) {
+    found->second->Release();
+    Bury(found->second.release());
+    forms_.erase(found);
+  }
+  Wake(form);
+}
+
+void QtToolkit::Wake(const Form& form) {
+  for (ModalCall* const call : calls_) {
+    if (call->On != &form) continue;
+    call->Woken = true;
+    if (call->Loop != nullptr) call->Loop->quit();
+  }
+}
+
+void QtToolkit::ControlUnloaded(Control& control) {
+  drag_.Forget(control);
+  if (QtForm* const shown = FormOf(control.Owner)) shown->Forget(control);
+}
+
+void QtToolkit::Sync(Form& form) {
+  if (QtForm* const shown = FormOf(form)) shown->Sync();
+}
+
+void QtToolkit::RunModal(Form& form) {
+  const auto held = form.shared_from_this();
+  const QtFreshHandlers fresh(form.Screen());
+  ModalCall call{&form};
+  calls_.push_back(&call);
+  while (form.Visible && !form.Released) {
+    if (Pump) {
+      QCoreApplication::processEvents();
+      if (!form.Visible || form.Released || !Pump()) break;
+      continue;
+    }
+    QEventLoop loop;
+    call.Loop = &loop;
+    call.Woken = false;
+    loop.exec();
+    call.Loop = nullptr;
+    if (!call.Woken) break;  // the application ends
+  }
+  calls_.erase(std::remove(calls_.begin(), calls_.end(), &call), calls_.end());
+}
+
+void QtToolkit::Beep() { QApplication::beep(); }
+
+void QtToolkit::SetPointer(int pointer) {
+  if (waiting_) QApplication::restoreOverrideCursor();
+  waiting_ = pointer != 0;
+  if (waiting_) QApplication::setOverrideCursor(CursorFor(pointer));
+}
+
+void QtToolkit::Focus(Control& control) {
+  // What the program has just enabled or shown must be so on the screen before it can take the keyboard.
+  if (QtForm* const shown = FormOf(control.Owner)) shown->Sync();
+}
+
+void QtToolkit::AnnounceChange(Control& control) {
+  if (QtForm* const shown = FormOf(control.Owner)) Announce(*shown, control);
+}
+
+Single QtToolkit::TextWidth(const String& text) {
+  return static_cast<Single>(QFontMetricsF(BaseFont()).horizontalAdvance(Text(text)) * kTwips);
+}
+
+Single QtToolkit::ScreenWidth() {
+  return static_cast<Single>(QApplication::primaryScreen()->geometry().width() * kTwips);
+}
+
+Single QtToolkit::ScreenHeight() {
+  return static_cast<Single>(QApplication::primaryScreen()->geometry().height() * kTwips);
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,37 @@
+// The ordering step by itself, as its tests use it.
+#pragma once
+
+#include "ordering/frmIniImpOrder.h"
+#include "support/TestHost.h"
+#include "view/Input.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarnwise {
+
+struct Ordering : OpenForm<frmIniImpOrder> {
+  explicit Ordering(const WizardData& model) : OpenForm(model) {
+    Form->ShowTRNDirectB = [this] { Notes.push_back("direct"); };
+    Form->ShowTRNTradeOffsB = [this] { Notes.push_back("trade-offs"); };
+    Form->ShowTRNSelMethod = [this] { Notes.push_back("method"); };
+    Form->UnloadIniImpOrder = [this] { Notes.push_back("close"); };
+    Form->UnloadTarnwise = [this](Integer fIndex, Boolean done) {
+      Notes.push_back("unload " + std::to_string(fIndex) + (done ? " done" : " cancelled"));
+    };
+  }
+
+  void Place(int k, int row) { Drag("cmdAttA(" + std::to_string(k) + ")", "picOrder(" + std::to_string(row) + ")"); }
+  void PlaceCost(int k, int row) {
+    Drag("cmdAttA1(" + std::to_string(k) + ")", "picOrder1(" + std::to_string(row) + ")");
+  }
+  void Click(const String& control, int times = 1) {
+    for (int i = 0; i < times; ++i) TestScreen::Click(control);
+  }
+
+  RankControls& B = Form->BRank;
+  RankControls& C = Form->CRank;
+};
+
+inline Single Bottom(const Control& control) { return control.Top + control.Height; }
+
+}  // namespace Tarnwise

@@ -227,4 +227,3 @@ BENCHMARK(TradeOffCommitAbove)->Name("TradeOff/CommitWith15Peers/AboveOne")->Uni
 
 }  // namespace
 
-BENCHMARK_MAIN();

@@ -258,8 +258,6 @@ void frmDirectB::cmdNext_Click() {
   cmdFinish.Enabled = true;
   cmdNext.Enabled = false;
   ShowResults(Results.gridBRJ, Results.gridCRJ, data_);
-  Results.tsWeightRatios.SelectedItem = 1;
-  tsWeightRatios_Click();
   Results.gridBRJ.ZOrder();
 }
 

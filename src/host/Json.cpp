@@ -4,12 +4,52 @@
 
 #include <charconv>
 #include <cmath>
+#include <utility>
 
 namespace Tarnwise {
 
 namespace {
 
 constexpr Double kLargestWhole = 9007199254740992.0;  // 2^53: up to here a whole number is printed as one
+
+// The fewest digits that make the number again; the library's own are now and then one too many.
+String NumberLine(Double x) {
+  char text[64];
+  const auto end = std::to_chars(text, text + sizeof text, x, std::chars_format::scientific).ptr;
+  const String shortest(text, end);
+  const int exponent = std::stoi(shortest.substr(shortest.find('e') + 1));
+  if (exponent < -4 || exponent >= 15) return shortest;
+  return {text, std::to_chars(text, text + sizeof text, x, std::chars_format::fixed).ptr};
+}
+
+void Write(String& line, const Json& value);
+
+template <class Items, class WriteItem>
+void WriteList(String& line, const Items& items, const char* brackets, WriteItem write) {
+  line += brackets[0];
+  bool first = true;
+  for (const auto& item : items) {
+    if (!std::exchange(first, false)) line += ',';
+    write(item);
+  }
+  line += brackets[1];
+}
+
+void Write(String& line, const Json& value) {
+  if (value.is_object()) {
+    WriteList(line, value.items(), "{}", [&line](const auto& member) {
+      Write(line, Json(member.key()));
+      line += ':';
+      Write(line, member.value());
+    });
+  } else if (value.is_array()) {
+    WriteList(line, value, "[]", [&line](const Json& item) { Write(line, item); });
+  } else if (value.is_number_float()) {
+    line += NumberLine(value.get<Double>());
+  } else {
+    line += value.dump(-1, ' ', false, Json::error_handler_t::replace);
+  }
+}
 
 }  // namespace
 
@@ -42,7 +82,11 @@ Json ToJson(const std::vector<Variant>& items) {
   return list;
 }
 
-String JsonLine(const Json& object) { return object.dump(-1, ' ', false, Json::error_handler_t::replace); }
+String JsonLine(const Json& object) {
+  String line;
+  Write(line, object);
+  return line;
+}
 
 Variant VariantOf(const Json& value) {
   if (value.is_boolean()) return value.get<bool>();

@@ -124,15 +124,22 @@ class KeyWatch {
   std::vector<std::set<String>> keys_;
 };
 
-String OneLine(const Json& value) {
-  if (!value.is_structured()) return value.dump();
-  String text;
-  for (const auto& [key, element] : value.items()) {
-    if (!text.empty()) text += ", ";
-    if (value.is_object()) text += Json(key).dump() + ": ";
-    text += OneLine(element);
+// Puts the value behind the line; false, with part of it there, once the line is too long.
+bool FitsOn(String& line, const Json& value) {
+  if (!value.is_structured()) {
+    line += value.dump();
+    return line.size() < kLineWidth;
   }
-  return value.is_object() ? "{" + text + "}" : "[" + text + "]";
+  line += value.is_object() ? "{" : "[";
+  bool first = true;
+  for (auto element = value.begin(); element != value.end(); ++element) {
+    if (!first) line += ", ";
+    first = false;
+    if (value.is_object()) line += Json(element.key()).dump() + ": ";
+    if (!FitsOn(line, *element)) return false;
+  }
+  line += value.is_object() ? "}" : "]";
+  return line.size() < kLineWidth;
 }
 
 bool IsPlain(const Json& value) { return !value.is_structured(); }
@@ -147,30 +154,34 @@ bool IsTable(const Json& value) {
 }
 
 void Print(const Json& value, std::size_t indent, std::size_t used, bool split, String& out) {
-  const String line = OneLine(value);
-  if (!value.is_structured() || value.empty() || (!split && used + line.size() < kLineWidth)) {
-    out += line;
+  if (!value.is_structured() || value.empty()) {
+    out += value.dump();
+    return;
+  }
+  String line(used, ' ');
+  if (!split && FitsOn(line, value)) {
+    out += line.substr(used);
     return;
   }
   const bool fill = IsTable(value);
   const String margin(indent + 2, ' ');
   out += value.is_object() ? "{" : "[";
-  std::size_t column = kLineWidth;
+  line.assign(kLineWidth, ' ');  // full, so that the first element begins another
   bool first = true;
-  for (const auto& [key, element] : value.items()) {
+  for (auto element = value.begin(); element != value.end(); ++element) {
     if (!first) out += ",";
     first = false;
-    const String label = value.is_object() ? Json(key).dump() + ": " : "";
-    if (fill && column + label.size() + OneLine(element).size() + 2 < kLineWidth) {
+    const String label = value.is_object() ? Json(element.key()).dump() + ": " : "";
+    line += "  " + label;
+    if (fill && FitsOn(line, *element)) {
       out += " ";
     } else {
       out += "\n" + margin;
-      column = margin.size();
+      line = margin + label;
+      (void)FitsOn(line, *element);
     }
-    const std::size_t before = out.size();
     out += label;
-    Print(element, indent + 2, margin.size() + label.size(), false, out);
-    column += out.size() - before + 2;
+    Print(*element, indent + 2, margin.size() + label.size(), false, out);
   }
   out += "\n" + String(indent, ' ') + (value.is_object() ? "}" : "]");
 }

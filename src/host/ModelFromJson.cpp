@@ -1,5 +1,5 @@
-#include "frame/ModelFile.h"
 #include "host/ModelJson.h"
+#include "host/ModelWriter.h"
 
 #include <algorithm>
 #include <functional>

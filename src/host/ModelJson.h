@@ -18,7 +18,4 @@ Json ModelToJson(const WizardData& data);
 // What a model may hold, but hardly means: value curves that fall, abscissae that do not ascend, and the like.
 std::vector<String> ModelWarnings(const WizardData& data);
 
-// How attributes and alternatives are called in messages: "attribute 3 (Nurses)". Ids count from 0.
-String NameInMessages(const char* kind, int id, const String& name);
-
 }  // namespace Tarnwise

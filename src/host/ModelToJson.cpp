@@ -261,11 +261,6 @@ Json UnusedJson(const WizardData& data) {
 
 }  // namespace
 
-String NameInMessages(const char* kind, int id, const String& name) {
-  const String number = String(kind) + " " + std::to_string(id);
-  return name.empty() ? number : number + " (" + name + ")";
-}
-
 Json ModelToJson(const WizardData& data) {
   const std::vector<String> names = ListedNames(data);
   Json description = Json::object();

@@ -1,4 +1,5 @@
 #include "host/ModelJson.h"
+#include "host/ModelWriter.h"
 #include "runtime/Text.h"
 
 #include <algorithm>

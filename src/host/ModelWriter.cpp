@@ -20,11 +20,6 @@ struct Place {
   String Text() const { return Of.empty() ? String(Field) : String(Field) + " of " + Of; }
 };
 
-String Numbered(const char* kind, int id, const String& name) {
-  const String number = String(kind) + " " + std::to_string(id);
-  return name.empty() ? number : number + " (" + name + ")";
-}
-
 std::size_t CharacterLength(unsigned char lead) {
   if (lead >= 0xF0) return 4;
   if (lead >= 0xE0) return 3;
@@ -121,21 +116,23 @@ struct PayloadWriter {
 void Sink::Tagged(const Variant& value, const Place& place) { std::visit(PayloadWriter{*this, place}, value); }
 
 void WriteHeader(Sink& out, const ModelHeader& item) {
-  for (int i = 0; i < item.Unused.Count(); ++i) out.Text(item.Unused[i], {"text", Numbered("header text", i, {})});
+  for (int i = 0; i < item.Unused.Count(); ++i)
+    out.Text(item.Unused[i], {"text", NameInMessages("header text", i, {})});
   out.Number(item.UnusedNumber);
   out.Number(item.NumAtts);
   out.Number(item.UnusedLast);
 }
 
 void WriteAlternatives(Sink& out, const AlternativeList& item) {
-  for (int a = 0; a < kMaxAlternatives; ++a) out.Text(item.Unused1[a], {"the name", Numbered("alternative", a, {})});
+  for (int a = 0; a < kMaxAlternatives; ++a)
+    out.Text(item.Unused1[a], {"the name", NameInMessages("alternative", a, {})});
   for (int a = 0; a < kMaxAlternatives; ++a) {
-    out.Text(item.Unused2[a], {"the note", Numbered("alternative", a, item.Unused1[a])});
+    out.Text(item.Unused2[a], {"the note", NameInMessages("alternative", a, item.Unused1[a])});
   }
 }
 
 void WriteAttributes(Sink& out, const AttributeList& item) {
-  const auto attribute = [&item](int i) { return Numbered("attribute", i, item.AttName[i]); };
+  const auto attribute = [&item](int i) { return NameInMessages("attribute", i, item.AttName[i]); };
   for (int i = 0; i < kMaxAtts; ++i) out.Text(item.AttName[i], {"AttName", attribute(i)});
   for (int i = 0; i < kMaxAtts; ++i) out.Text(item.AttDescription[i], {"AttDescription", attribute(i)});
   for (int i = 0; i < kMaxAtts; ++i) out.Text(item.AttOrientation[i], {"AttOrientation", attribute(i)});
@@ -145,8 +142,8 @@ void WriteAttributes(Sink& out, const AttributeList& item) {
 void WriteRawScores(Sink& out, const WizardData& data) {
   for (int b = 0; b < kMaxAtts; ++b) {
     for (int a = 0; a < kMaxAlternatives; ++a) {
-      const String whose = Numbered("alternative", a, data.AlternativeList.Unused1[a]) + " in " +
-                           Numbered("attribute", b, data.AttName(b));
+      const String whose = NameInMessages("alternative", a, data.AlternativeList.Unused1[a]) + " in " +
+                           NameInMessages("attribute", b, data.AttName(b));
       out.Tagged(data.RawScores.RawScores(a, b), {"RawScores", whose});
     }
   }
@@ -161,7 +158,7 @@ void WriteScores(Sink& out, const ScoreList& item) {
 void WritePoints(Sink& out, const WizardData& data, const Matrix<Variant>& points, const char* field) {
   for (int k = 0; k < kMaxCurvePoints; ++k) {
     for (int i = 0; i < kMaxAtts; ++i) {
-      const String whose = "point " + std::to_string(k) + " of " + Numbered("attribute", i, data.AttName(i));
+      const String whose = "point " + std::to_string(k) + " of " + NameInMessages("attribute", i, data.AttName(i));
       out.Tagged(points(i, k), {field, whose});
     }
   }
@@ -197,6 +194,11 @@ void WriteSaved(Sink& out, const SavedJudgments& item) {
 }
 
 }  // namespace
+
+String NameInMessages(const char* kind, int id, const String& name) {
+  const String number = String(kind) + " " + std::to_string(id);
+  return name.empty() ? number : number + " (" + name + ")";
+}
 
 std::vector<char> ModelBytes(const WizardData& data) {
   Sink out;

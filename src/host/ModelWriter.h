@@ -17,4 +17,7 @@ std::vector<char> ModelBytes(const WizardData& data);
 // the model, after 120 bytes"; nothing when they are the same. A file with such a difference must not be rewritten.
 std::optional<String> Difference(const std::vector<char>& bytes, const WizardData& data);
 
+// How attributes and alternatives are called in messages: "attribute 3 (Nurses)". Ids count from 0.
+String NameInMessages(const char* kind, int id, const String& name);
+
 }  // namespace Tarnwise

@@ -33,10 +33,14 @@ VariantArray ZerosFor(const WizardData& data) {
   return VariantArray(static_cast<std::size_t>(std::max(0, data.NumAtts())), Variant(0.0));
 }
 
+// Empty for what is no array of one dimension, so that the component refuses it.
 VariantArray ArrayOf(const Json& points, const char* name) {
   VariantArray array;
-  if (!points.contains(name)) return array;
-  for (const Json& value : points.at(name)) array.push_back(VariantOf(value));
+  if (!points.contains(name) || !points.at(name).is_array()) return array;
+  for (const Json& value : points.at(name)) {
+    if (value.is_structured()) return {};
+    array.push_back(VariantOf(value));
+  }
   return array;
 }
 
@@ -123,8 +127,8 @@ bool Player::Step() {
   const int number = ++line_;
   try {
     const std::vector<String> words = WordsOf(line);
-    if (words.empty() || words[0][0] == '#') return true;
-    Carry(words, line);
+    if (words.empty()) return true;
+    Carry(words);
   } catch (const Refused& refused) {
     Print({{"refused", refused.what()}, {"line", number}});
     if (status_ == 0) status_ = 1;
@@ -136,9 +140,9 @@ bool Player::Step() {
   return !stopped_;
 }
 
-void Player::Carry(const std::vector<String>& words, const String& line) {
+void Player::Carry(const std::vector<String>& words) {
   if (words[0] == "host") {
-    Host(words, line);
+    Host(words);
   } else if (!User(words) && !Ask(words)) {
     throw ScriptFault("\"" + words[0] + "\" is no line of a session script");
   }
@@ -155,13 +159,13 @@ void Player::HostCall(const String& in, const std::function<void()>& call) {
   }
 }
 
-void Player::Host(const std::vector<String>& words, const String& line) {
+void Player::Host(const std::vector<String>& words) {
   Expect(words, 1, 99);
   const String& what = words[1];
   if (what == "load") {
     HostLoad(words);
   } else if (what == "points") {
-    HostPoints(words, line);
+    HostPoints(words);
   } else if (what == "show" && words.size() == 2) {
     HostCall("TRN_DEA.ShowTarnwise", [this] { dea_->ShowTarnwise(); });
   } else if (what == "unload" && words.size() == 2) {
@@ -187,8 +191,8 @@ void Player::HostLoad(const std::vector<String>& words) {
   });
 }
 
-void Player::HostPoints(const std::vector<String>& words, const String& line) {
-  Expect(words, 2, 999);
+void Player::HostPoints(const std::vector<String>& words) {
+  Expect(words, 2, 2);
   Json points;
   if (words[2] == "zero") {
     const VariantArray zeros = ZerosFor(mdTRNMain());
@@ -199,7 +203,8 @@ void Player::HostPoints(const std::vector<String>& words, const String& line) {
   }
   VariantArray a[9];
   try {
-    points = Json::parse(RestOf(line, 2));
+    points = Json::parse(words[2]);
+    if (!points.is_object()) throw ScriptFault("the points are no JSON object of arrays");
     const char* const names[] = {"AX", "AY", "BX", "BY", "AOrientation", "ALX", "ALY", "AUX", "AUY"};
     for (std::size_t i = 0; i < 9; ++i) a[i] = ArrayOf(points, names[i]);
   } catch (const Json::exception& fault) {

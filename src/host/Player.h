@@ -24,16 +24,16 @@ class Player {
 
  private:
   bool Step();  // the next line; false at the end
-  void Carry(const std::vector<String>& words, const String& line);
+  void Carry(const std::vector<String>& words);
 
   void NewObject();
   void Watch();
   void Print(const Json& object);
   void HostCall(const String& in, const std::function<void()>& call);  // a fault is printed as one of `in`
 
-  void Host(const std::vector<String>& words, const String& line);
+  void Host(const std::vector<String>& words);
   void HostLoad(const std::vector<String>& words);
-  void HostPoints(const std::vector<String>& words, const String& line);
+  void HostPoints(const std::vector<String>& words);
 
   bool User(const std::vector<String>& words);
   void Click(const String& name);

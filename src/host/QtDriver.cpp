@@ -110,7 +110,7 @@ class QtDriver : public Driver {
     grabbed_ = WidgetOf(source);
     if (grabbed_.isNull()) return;
     QTest::mousePress(grabbed_, Qt::LeftButton, Qt::NoModifier, grabbed_->rect().center());
-    begun_ = false;
+    toolkit_->Drag().Begin();  // the first move may be as near as it likes
   }
 
   void Over(Control& target, Single x, Single y) override {
@@ -118,9 +118,6 @@ class QtDriver : public Driver {
     const Single unit = UnitOf(target);
     const Single formX = place.X + x * unit;
     const Single formY = place.Y + y * unit;
-    // The first move goes straight there, however near that is.
-    if (!begun_) toolkit_->Drag().Begin();
-    begun_ = true;
     if (grabbed_.isNull() || DragTargetAt(target.Owner, formX, formY) != &target) {
       screen_->Drag.Over(target, x, y);  // clipped by a viewport, or another one of the row stands in front
       return;
@@ -129,7 +126,7 @@ class QtDriver : public Driver {
     const QPointF global = WidgetOf(target.Owner)->mapToGlobal(inWindow);
     QMouseEvent move(QEvent::MouseMove, grabbed_->mapFromGlobal(global), global, Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
-    QCoreApplication::sendSpontaneousEvent(grabbed_, &move);
+    QCoreApplication::sendEvent(grabbed_, &move);
   }
 
   void Drop() override {
@@ -191,7 +188,6 @@ class QtDriver : public Driver {
   std::shared_ptr<QtToolkit> toolkit_ = std::make_shared<QtToolkit>();
   std::shared_ptr<Platform> screen_ = std::make_shared<Platform>(toolkit_);
   QPointer<QWidget> grabbed_;
-  bool begun_ = false;
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace Tarnwise {
 
@@ -49,6 +50,14 @@ void SkipBlanks(const String& line, std::size_t& i) {
   while (i < line.size() && IsBlank(line[i])) ++i;
 }
 
+// All of the word as a number; false when it is none or too large for one.
+template <class Number>
+bool ReadNumber(const String& word, Number& number) {
+  const char* const end = word.data() + word.size();
+  const auto read = std::from_chars(word.data(), end, number);
+  return read.ec == std::errc() && read.ptr == end;
+}
+
 // Forms first by their names, then the controls of the active form.
 struct Target {
   const Form* On = nullptr;
@@ -69,8 +78,7 @@ Target TargetOf(const Platform& screen, const String& name) {
   const auto bracket = target.Name.find('(');
   if (bracket != String::npos && target.Name.back() == ')') {
     const String number = target.Name.substr(bracket + 1, target.Name.size() - bracket - 2);
-    const auto end = number.data() + number.size();
-    if (std::from_chars(number.data(), end, target.Index).ptr != end || target.Index < 0) target.On = nullptr;
+    if (!ReadNumber(number, target.Index) || target.Index < 0) target.On = nullptr;
     target.Name.resize(bracket);
   }
   return target;
@@ -82,36 +90,24 @@ std::vector<String> WordsOf(const String& line) {
   std::vector<String> words;
   for (std::size_t i = 0;;) {
     SkipBlanks(line, i);
-    if (i >= line.size()) return words;
+    if (i >= line.size() || (words.empty() && line[i] == '#')) return words;
+    if (words == std::vector<String>{"host", "points"}) {
+      words.push_back(line.substr(i, line.find_last_not_of(" \t\r") + 1 - i));
+      return words;
+    }
     words.push_back(line[i] == '"' ? QuotedWord(line, i) : PlainWord(line, i));
   }
 }
 
-String RestOf(const String& line, int count) {
-  std::size_t i = 0;
-  for (; count > 0; --count) {
-    SkipBlanks(line, i);
-    PlainWord(line, i);
-  }
-  SkipBlanks(line, i);
-  return line.substr(i);
-}
-
 int WholeNumber(const String& word) {
   int number = 0;
-  const char* const end = word.data() + word.size();
-  if (std::from_chars(word.data(), end, number).ptr != end || word.empty()) {
-    throw ScriptFault("\"" + word + "\" is no whole number");
-  }
+  if (!ReadNumber(word, number)) throw ScriptFault("\"" + word + "\" is no whole number");
   return number;
 }
 
 Single ScaleNumber(const String& word) {
   Single number = 0.0F;
-  const char* const end = word.data() + word.size();
-  if (std::from_chars(word.data(), end, number).ptr != end || word.empty()) {
-    throw ScriptFault("\"" + word + "\" is no number");
-  }
+  if (!ReadNumber(word, number) || !std::isfinite(number)) throw ScriptFault("\"" + word + "\" is no number");
   return number;
 }
 

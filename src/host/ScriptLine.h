@@ -21,11 +21,9 @@ struct Refused : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Words are separated by blanks. A word with blanks stands in double quotes, with \" \\ \n \t as escapes in it.
+// Words are separated by blanks. A word with blanks stands in double quotes, with \" \\ \n \t as escapes in it. What
+// follows "host points" is one word. A comment has no words.
 std::vector<String> WordsOf(const String& line);
-
-// What is left of a line behind its first `count` words.
-String RestOf(const String& line, int count);
 
 int WholeNumber(const String& word);
 Single ScaleNumber(const String& word);

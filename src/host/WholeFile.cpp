@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <system_error>
 
@@ -77,7 +78,8 @@ void WriteNew(const fs::path& temporary, const std::vector<char>& bytes, const S
   std::FILE* const file = OpenNew(temporary);
   if (file == nullptr) FailToWrite(path, LastError());
   errno = 0;
-  bool written = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && FlushToDisk(file);
+  bool written = bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+  written = written && FlushToDisk(file);
   const int error = errno;
   if (std::fclose(file) != 0) written = false;
   if (written) return;

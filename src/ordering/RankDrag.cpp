@@ -38,7 +38,8 @@ void frmIniImpOrder::ConnectDrags(Group g) {
 }
 
 void frmIniImpOrder::DropOnRow(Group g, PictureBox& row, Control& source) {
-  OverList(RankOf(g).optAttInfo, source);
+  // Of any source, of the other group and of any kind too.
+  if (RankOf(g).optAttInfo.Has(source.Index)) RankOf(g).optAttInfo[source.Index].SetOn();
   if (!IsButton(source)) return;
   auto& button = static_cast<CommandButton&>(source);
   const int rank = static_cast<int>(Val(row.Tag()));

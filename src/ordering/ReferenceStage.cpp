@@ -47,6 +47,7 @@ void frmIniImpOrder::ChooseReference(Group g, const CommandButton& button) {
 void frmIniImpOrder::ChooseSavedReference(Group g) {
   const SavedJudgments& saved = data_.SavedJudgments;
   const Variant& stored = g == Group::Benefit ? saved.SavedBRefAttID : saved.SavedCRefAttID;
+  if (std::holds_alternative<Null>(stored)) return;  // equals no id
   CommandButton* found = nullptr;
   ReferenceOf(g).Rows.cmdAttButtons.Each([&](CommandButton& button) {
     if (!button.Tag().empty() && ToDouble(stored) == AttOfTag(button.Tag)) found = &button;

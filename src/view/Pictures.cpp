@@ -58,6 +58,20 @@ std::vector<Single> Arc(Single x, Single y, Single rx, Single ry, Single from, S
   return points;
 }
 
+// The head of an arrow along these points, its tip on the last of them.
+PictureShape Head(const std::vector<Single>& along, Single size, Colour colour) {
+  const std::size_t last = along.size() - 2;
+  const Single x = along[last];
+  const Single y = along[last + 1];
+  const Single dx = x - along[last - 6];
+  const Single dy = y - along[last - 5];
+  const Single length = std::sqrt(dx * dx + dy * dy);
+  const Single ux = dx / length * size;
+  const Single uy = dy / length * size;
+  return Polygon({x, y, x - ux - uy * 0.5F, y - uy + ux * 0.5F, x - ux + uy * 0.5F, y - uy - ux * 0.5F},
+                 Filled(colour));
+}
+
 PictureShape RoundedBox(Single left, Single top, Single right, Single bottom, Single radius, const Look& look) {
   std::vector<Single> points;
   const Single centres[] = {right - radius, bottom - radius, left + radius,  bottom - radius,
@@ -123,9 +137,9 @@ Picture DirectApproach() {
   picture.Shapes.push_back(Polygon({22.0F, 92.0F, 68.0F, 18.0F, 122.0F, 40.0F}, Filled(kGoldLight)));
   picture.Shapes.push_back(Stroke({22.0F, 92.0F, 68.0F, 18.0F}, kGold, 2.2F));
   picture.Shapes.push_back(Stroke({22.0F, 92.0F, 122.0F, 40.0F}, kGold, 2.2F));
-  picture.Shapes.push_back(Stroke(Arc(22.0F, 92.0F, 58.0F, 58.0F, -54.0F, -31.5F), kInk, 1.6F));
-  picture.Shapes.push_back(Polygon({52.6F, 48.2F, 55.2F, 41.2F, 60.0F, 45.2F}, Filled(kInk)));
-  picture.Shapes.push_back(Polygon({74.4F, 62.4F, 73.6F, 55.0F, 68.0F, 58.4F}, Filled(kInk)));
+  picture.Shapes.push_back(Stroke(Arc(22.0F, 92.0F, 58.0F, 58.0F, -52.5F, -33.5F), kInk, 1.6F));
+  picture.Shapes.push_back(Head(Arc(22.0F, 92.0F, 58.0F, 58.0F, -40.0F, -57.0F), 6.0F, kInk));
+  picture.Shapes.push_back(Head(Arc(22.0F, 92.0F, 58.0F, 58.0F, -46.0F, -29.0F), 6.0F, kInk));
   for (const auto& [x, y] : {std::pair{68.0F, 18.0F}, std::pair{122.0F, 40.0F}}) {
     picture.Shapes.push_back(Disc(x, y, 5.2F, {kInk, kWhite, 1.8F}));
   }
@@ -139,9 +153,9 @@ Picture TradeOffApproach() {
   // Where B gains along one axis it gives way on the other, and both are equally good: the beam lies level.
   picture.Shapes.push_back(Stroke({48.0F, 92.0F, 48.0F, 32.0F, 22.0F, 32.0F}, kBenefit, 1.0F));
   picture.Shapes.push_back(Stroke({108.0F, 92.0F, 108.0F, 68.0F, 22.0F, 68.0F}, kCost, 1.0F));
-  picture.Shapes.push_back(Stroke(Arc(115.0F, 24.0F, 62.0F, 44.0F, 164.0F, 106.0F), kGold, 2.4F));
-  picture.Shapes.push_back(Polygon({52.2F, 44.6F, 59.6F, 44.0F, 54.4F, 35.4F}, Filled(kGold)));
-  picture.Shapes.push_back(Polygon({96.8F, 61.6F, 94.4F, 69.4F, 103.4F, 67.6F}, Filled(kGold)));
+  picture.Shapes.push_back(Stroke(Arc(115.0F, 24.0F, 62.0F, 44.0F, 158.0F, 112.0F), kGold, 2.4F));
+  picture.Shapes.push_back(Head(Arc(115.0F, 24.0F, 62.0F, 44.0F, 112.0F, 166.0F), 8.0F, kGold));
+  picture.Shapes.push_back(Head(Arc(115.0F, 24.0F, 62.0F, 44.0F, 158.0F, 104.0F), 8.0F, kGold));
   picture.Shapes.push_back(Disc(48.0F, 28.0F, 8.6F, {kBenefitLight, kBenefit, 1.8F}));
   LetterA(picture, 48.0F, 27.4F, 4.2F, kInk, 1.7F);
   picture.Shapes.push_back(Disc(108.0F, 70.0F, 8.6F, {kCostLight, kCost, 1.8F}));

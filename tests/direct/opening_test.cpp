@@ -44,7 +44,7 @@ TEST(Opening, SizesTheChartToTwoHundredAndFiftyTwoUnits) {
 TEST(Opening, BringsTheTargetGroupsOrderPanelToTheFront) {
   Ward session;
   EXPECT_EQ(session.Play("click lblOID1(0)"), Lines{});
-  EXPECT_EQ(session.Play("click lblOID(0)").size(), 1U);
+  EXPECT_EQ(Only(session.Play("click lblOID(0)"), "lblOID(0): covered").size(), 1U);
   EXPECT_EQ(session.Status(), 1);
 }
 
@@ -53,7 +53,7 @@ TEST(Opening, HasTheWordsOfTheStage) {
                        "get cmdReStart.Caption\nget tsTab.Items\nget cmdHelp.Caption\nget cmdCancel.Caption\n"
                        "get cmdBack.Caption\nget cmdNext.Caption\nget cmdFinish.Caption\nget labPCWorstT.Caption\n"
                        "get labPCBestT.Caption"),
-            (Lines{R"("Relative importance (weight ratio Wj/Wr)")", R"("Target attribute:")",
+            (Lines{R"j("Relative importance (weight ratio Wj/Wr)")j", R"("Target attribute:")",
                    R"("Status of the current judgment:")", R"("&Enter")", R"("&Re-start All")",
                    R"(["Importance order","Performance range"])", R"("&Help")", R"("&Cancel")", R"("< &Back")",
                    R"("&Next >")", R"("&Finish")", R"("Wj")", R"("Wr")"}));
@@ -244,9 +244,9 @@ TEST(Resuming, OpensWithEverythingDoneAndNextAndFinishEnabled) {
 
 TEST(Resuming, ShowsTheStoredIntervalOfTheFirstTargetAndOfAnyOther) {
   Resumed session(kDirectType);
-  EXPECT_EQ(session.Ask("get txtWRLower.Text\nget txtWRUpper.Text"), (Lines{R"("1.88")", R"("2.13")"}));
+  EXPECT_EQ(session.Ask("get txtWRLower.Text\nget txtWRUpper.Text"), (Lines{R"("1.87")", R"("2.13")"}));
   EXPECT_EQ(session.Ask(Choose(kNight) + "get txtWRLower.Text\nget txtWRUpper.Text\nget picHandle(0).Left\nget picHandle(0).Top"),
-            (Lines{R"("0.38")", R"("0.63")", "173.4", "182.85"}));
+            (Lines{R"("0.37")", R"("0.63")", "173.4", "182.85"}));
 }
 
 TEST(Resuming, ShowsTheStoredRatioOfTheReferences) {
@@ -263,7 +263,7 @@ TEST(Resuming, WithoutAStoredRatioPlacesThePairOfReferencesAtTheBottomAndKeepsTh
   EXPECT_EQ(session.Ask(Choose(kNurses) + "get picHandle(0).Top\nget picHandle(1).Left\nget txtWRLower.Text\n"
                                           "get txtWRUpper.Text\nget cmdEnter.Enabled\nget Timer1.Interval\n"
                                           "get shpAlarm(0).FillColor\nget shpAlarm(1).FillColor"),
-            (Lines{"249", "173.4", R"("1.88")", R"("2.13")", "true", "0", "65280", "8421504"}));
+            (Lines{"249", "173.4", R"("1.87")", R"("2.13")", "true", "0", "65280", "8421504"}));
 }
 
 TEST(Resuming, GoesByTheStoredTypeAloneEvenWhenTheOrderHasChanged) {

@@ -5,11 +5,11 @@ namespace Tarnwise {
 namespace {
 
 constexpr Single kFrameWidth = (kFormWidth - 2 * kMargin - 240.0F) / 2.0F;
-constexpr Single kFrameHeight = 6420.0F;
-constexpr Single kViewportTop = 660.0F;
+constexpr Single kFrameHeight = 6300.0F;
+constexpr Single kViewportTop = 750.0F;
 constexpr Single kViewportHeight = 4200.0F;  // of a stage 1 list
-constexpr Single kListWidth = 2880.0F;
-constexpr Single kRankLeft = 3210.0F;
+constexpr Single kListWidth = 3420.0F;
+constexpr Single kRankLeft = 3720.0F;
 constexpr Single kRankWidth = kFrameWidth - kRankLeft - 180.0F;
 
 Single GroupLeft(bool benefit) { return benefit ? 0.0F : kFrameWidth + 240.0F; }
@@ -20,7 +20,7 @@ int TabPlace(bool benefit, int part) { return (benefit ? 0 : 400) + part * 50; }
 void Button(CommandButton& button, const char* caption, Single left, Single width, int tabIndex) {
   button.Caption = caption;
   button.TabIndex = tabIndex;
-  Place(button, left, kViewportTop + kViewportHeight + 180.0F, width, kButtonHeight);
+  Place(button, left, kViewportTop + kViewportHeight + 240.0F, width, kButtonHeight);
 }
 
 void Heading(Label& label, const char* caption, Single left, Single top, Single width) {
@@ -50,7 +50,7 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
                    option.AccessibleName = benefit ? "Benefit attribute looked at" : "Cost attribute looked at";
                  }),
       lblAttName(form, &picAttPLst, Named("lblAttName", benefit),
-                 [](Label& label) { Place(label, 1830.0F, 120.0F, kListWidth - 1830.0F - 315.0F, 305.0F); }),
+                 [](Label& label) { Place(label, 1830.0F, 120.0F, kListWidth - 1830.0F - 330.0F, 305.0F); }),
       picOrderPanel(form, &fmOA, Named("picOrderPanel", benefit)),
       picOrderCon(form, &picOrderPanel, Named("picOrderCon", benefit)),
       vsrOrder(form, &picOrderPanel, Named("vsrOrder", benefit)),
@@ -93,7 +93,7 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
   vsrOrder.TabIndex = TabPlace(benefit, 1) + 49;
   vsrOrder.AccessibleName = "Scroll the ranks";
   const Single width = (kRankWidth - 2 * 90.0F) / 3.0F;
-  Button(cmdAdd, benefit ? "&Add" : "&Add", kRankLeft, width, TabPlace(benefit, 2));
+  Button(cmdAdd, "&Add", kRankLeft, width, TabPlace(benefit, 2));
   Button(cmdInsert, "&Insert", kRankLeft + width + 90.0F, width, TabPlace(benefit, 2) + 1);
   Button(cmdReset, "Reset", kRankLeft + 2 * (width + 90.0F), width, TabPlace(benefit, 2) + 2);
   cmdAdd.ToolTipText = "A new rank after the last one";
@@ -128,10 +128,10 @@ IniImpOrderForm::IniImpOrderForm(std::shared_ptr<Platform> platform)
         mark.BackColor = 0x0000FF;
         mark.Visible = false;
       }) {
-  Heading(lblTitle[0], "Rank order:", kRankLeft, 360.0F, kRankWidth);
-  Heading(lblTitle.Load(1, &CRank.fmOA), "Rank order:", kRankLeft, 360.0F, kRankWidth);
-  Heading(lblTitle.Load(2, &BRank.fmOA), "Attributes to rank:", 180.0F, 360.0F, kListWidth);
-  Heading(lblTitle.Load(3, &CRank.fmOA), "Attributes to rank:", 180.0F, 360.0F, kListWidth);
+  Heading(lblTitle[0], "Rank order:", kRankLeft, 435.0F, kRankWidth);
+  Heading(lblTitle.Load(1, &CRank.fmOA), "Rank order:", kRankLeft, 435.0F, kRankWidth);
+  Heading(lblTitle.Load(2, &BRank.fmOA), "Attributes to rank:", 180.0F, 435.0F, kListWidth);
+  Heading(lblTitle.Load(3, &CRank.fmOA), "Attributes to rank:", 180.0F, 435.0F, kListWidth);
 
   Heading(Label3[0], "Rank order of benefit-oriented attributes:", GroupLeft(true), 60.0F, kFrameWidth);
   Heading(Label3.Load(1), "Rank order of cost-oriented attributes:", GroupLeft(false), 60.0F, kFrameWidth);

@@ -5,12 +5,12 @@
 
 namespace Tarnwise {
 
-constexpr Single kFormWidth = 13200.0F;
-constexpr Single kFormHeight = 8550.0F;
+constexpr Single kFormWidth = 14100.0F;
+constexpr Single kFormHeight = 8340.0F;
 constexpr Single kMargin = 300.0F;
 constexpr Single kGap = 120.0F;
 constexpr Single kHeadingHeight = 960.0F;  // of the band that the heading stands in
-constexpr Single kFootTop = 7785.0F;       // where the row of buttons begins
+constexpr Single kFootTop = 7560.0F;       // where the row of buttons begins
 constexpr Single kContentHeight = kFootTop - kHeadingHeight;
 constexpr Single kButtonWidth = 1335.0F;
 constexpr Single kButtonHeight = 420.0F;

@@ -44,11 +44,11 @@ QPixmap IconOf(const String& path, double ratio) {
 
 }  // namespace
 
-void QtDrag::Arm(QtForm& form, Control& source, const QPointF& global) {
+void QtDrag::Arm(QtForm& form, Control& source, const QPointF& inWindow) {
   Clear();
   form_ = &form;
   source_ = &source;
-  start_ = global;
+  start_ = inWindow;
 }
 
 void QtDrag::Begin() {
@@ -58,20 +58,19 @@ void QtDrag::Begin() {
   form_->Tree()->Screen().Drag.Begin(*source_);
 }
 
-bool QtDrag::Move(const QPointF& global) {
+bool QtDrag::Move(const QPointF& inWindow) {
   if (source_ == nullptr || form_.isNull() || form_->Tree() == nullptr) return false;
-  if (!on_ && (global - start_).manhattanLength() < QApplication::startDragDistance()) return false;
+  if (!on_ && (inWindow - start_).manhattanLength() < QApplication::startDragDistance()) return false;
   QtForm& form = *form_;
   const QtEntry entry(*form.Tree());
   Begin();
   Platform& platform = form.Tree()->Screen();
-  const QPointF at = form.Window().mapFromGlobal(global);
-  if (QRectF(form.Window().rect()).contains(at)) {
-    platform.Drag.OverPoint(static_cast<Single>(at.x() * kTwips), static_cast<Single>(at.y() * kTwips));
+  if (QRectF(form.Window().rect()).contains(inWindow)) {
+    platform.Drag.OverPoint(static_cast<Single>(inWindow.x() * kTwips), static_cast<Single>(inWindow.y() * kTwips));
   } else {
     platform.Drag.OverNothing();
   }
-  if (on_) Follow(form, at);
+  if (on_) Follow(form, inWindow);
   return true;
 }
 

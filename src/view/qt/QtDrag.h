@@ -14,10 +14,11 @@ class QtForm;
 
 class QtDrag {
  public:
-  // The left button went down on a drag source; the drag begins when the pointer has moved far enough.
-  void Arm(QtForm& form, Control& source, const QPointF& global);
+  // The left button went down on a drag source; the drag begins when the pointer has moved far enough. Positions are
+  // those in the form's window.
+  void Arm(QtForm& form, Control& source, const QPointF& inWindow);
   // True while the drag is on.
-  bool Move(const QPointF& global);
+  bool Move(const QPointF& inWindow);
   bool Release();  // true when there was a drag to end
   bool Cancel();
   void Begin();  // without waiting for the distance

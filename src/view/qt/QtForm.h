@@ -69,8 +69,8 @@ class QtForm : public QObject {
   void StopTimer(const Control& control);
   void Restack(const Control& container);
 
-  bool Press(Control& control, const QMouseEvent& event);
-  bool Move(const QMouseEvent& event);
+  bool Press(const QObject& object, Control& control, const QMouseEvent& event);
+  bool Move(const QObject& object, const QMouseEvent& event);
   bool LetGo(QObject& object, QMouseEvent& event);
   void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
   void Settle(Control* control);

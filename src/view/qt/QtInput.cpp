@@ -48,6 +48,12 @@ int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
   return tab < 0 ? -1 : tab + 1;
 }
 
+// Of the whole event only this position has kept its fractions of a pixel.
+QPointF InWindow(const QObject& object, const QMouseEvent& event) {
+  const auto& widget = static_cast<const QWidget&>(object);
+  return widget.mapTo(widget.window(), event.position());
+}
+
 // A label's mnemonic goes to the control that it stands for: the first one behind it in the same container.
 Control* LabelledBy(const Label& label) {
   bool behind = false;
@@ -81,8 +87,8 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
   if (form_ == nullptr || control == nullptr) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: return Press(*control, *static_cast<QMouseEvent*>(event));
-    case QEvent::MouseMove: return Move(*static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonDblClick: return Press(*object, *control, *static_cast<QMouseEvent*>(event));
+    case QEvent::MouseMove: return Move(*object, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease: return LetGo(*object, *static_cast<QMouseEvent*>(event));
     case QEvent::Wheel: return Wheel(*control, *static_cast<QWheelEvent*>(event));
     case QEvent::KeyPress: return KeyDown(*control, *static_cast<QKeyEvent*>(event));
@@ -94,7 +100,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
   }
 }
 
-bool QtForm::Press(Control& control, const QMouseEvent& event) {
+bool QtForm::Press(const QObject& object, Control& control, const QMouseEvent& event) {
   const bool native = FollowsMouse(control);
   if (event.button() != Qt::LeftButton) return control.Type == Kind::TextBox || !native;
   const QtEntry entry(*form_);
@@ -115,15 +121,15 @@ bool QtForm::Press(Control& control, const QMouseEvent& event) {
   }
   Settle(nullptr);
   if (form_ == nullptr || press_.On != &control) return true;
-  if (control.DragAutomatic) toolkit_.Drag().Arm(*this, control, event.globalPosition());
+  if (control.DragAutomatic) toolkit_.Drag().Arm(*this, control, InWindow(object, event));
   return !native;
 }
 
-bool QtForm::Move(const QMouseEvent& event) {
+bool QtForm::Move(const QObject& object, const QMouseEvent& event) {
   if ((event.buttons() & Qt::LeftButton) == 0 || press_.Refused) return press_.Refused && event.buttons() != 0;
   if (press_.On == nullptr) return false;
   const QtEntry entry(*form_);
-  if (toolkit_.Drag().Move(event.globalPosition())) return true;
+  if (toolkit_.Drag().Move(InWindow(object, event))) return true;
   return !press_.Native;
 }
 
@@ -276,14 +282,13 @@ bool QtForm::KeyDown(Control& control, QKeyEvent& event) {
 bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
   const int code = VirtualKey(event);
   const int character = CharacterOf(event);
-  if (code == 0 && character == 0) return true;
+  if (code == 0) return true;
   const QPointer<QLineEdit> edit = static_cast<QLineEdit*>(WidgetOf(box));
   typing_ = event.key();
   StoreCaret(box, *edit);
   const auto here = [&] { return form_ != nullptr && !edit.isNull() && ControlOf(edit) == &box; };
   KeyEvent down{code, ShiftOf(event)};
-  const bool passes = Input::KeyDown(box, down) || (code == 0 && here());
-  if (!here() || !passes) {
+  if (!Input::KeyDown(box, down) || !here()) {
     Settle(nullptr);
     return true;
   }

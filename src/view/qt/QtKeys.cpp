@@ -35,7 +35,7 @@ int VirtualKey(const QKeyEvent& event) {
   if (key >= Qt::Key_A && key <= Qt::Key_Z) return key;
   if (key >= Qt::Key_0 && key <= Qt::Key_9) return key;
   if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return 112 + key - Qt::Key_F1;
-  return 0;
+  return CharacterOf(event) != 0 ? kKeyOther : 0;
 }
 
 int CharacterOf(const QKeyEvent& event) {

@@ -21,6 +21,7 @@ enum QtKeyCode {
   kKeyDown = 40,
   kKeyInsert = 45,
   kKeyDelete = 46,
+  kKeyOther = 231,  // types a character that no key of its own stands for
 };
 
 int VirtualKey(const QKeyEvent& event);   // 0: a modifier alone, or nothing that the forms know

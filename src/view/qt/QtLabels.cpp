@@ -8,12 +8,15 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
+
+constexpr int kTitleLeft = 12;  // pixels
 
 // A caption in the colour of highlighted text is a lit sign: it stands on the highlight's own colour.
 class LabelWidget : public QLabel {
@@ -55,15 +58,33 @@ class FrameWidget : public QGroupBox {
   FrameWidget(QtForm& form, QWidget* parent) : QGroupBox(parent), form_(form) {}
 
  protected:
+  // Opaque, since frames of several tabs stand in one place.
   void paintEvent(QPaintEvent* event) override {
-    QGroupBox::paintEvent(event);
-    const Control* const control = form_.ControlOf(this);
-    if (control == nullptr) return;
     QPainter painter(this);
-    PaintChildren(painter, control->Owner, *control, event->rect());
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    const int titleHeight = title().isEmpty() ? 0 : QFontMetrics(bold).height();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette().color(QPalette::Mid).lighter(115));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), 4, 4);
+    if (titleHeight > 0) PaintTitle(painter, titleHeight);
+    const Control* const control = form_.ControlOf(this);
+    if (control != nullptr) PaintChildren(painter, control->Owner, *control, event->rect());
   }
 
  private:
+  void PaintTitle(QPainter& painter, int height) const {
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int room = width() - 2 * kTitleLeft;
+    const QString text = metrics.elidedText(title(), Qt::ElideRight, room, Qt::TextShowMnemonic);
+    const QRect place(kTitleLeft, 0, metrics.size(Qt::TextShowMnemonic, text).width(), height);
+    painter.fillRect(place.adjusted(-4, 0, 4, 0), palette().color(QPalette::Window));
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextShowMnemonic, text);
+  }
+
   QtForm& form_;
 };
 
@@ -136,7 +157,6 @@ void SyncImage(QtForm& /*form*/, Control& control, QWidget& widget) {
 
 QWidget* MakeFrame(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const widget = new FrameWidget(form, &parent);
-  widget->setFont(BaseFont(9, true));
   widget->setFocusPolicy(Qt::NoFocus);
   return widget;
 }

@@ -13,11 +13,12 @@ namespace Tarnwise {
 
 namespace {
 
+constexpr int kRowHeight = 24;  // pixels, of a list box
+
 QWidget* MakeListBox(QtForm& form, Control& control, QWidget& parent) {
   auto* const list = new QListWidget(&parent);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setUniformItemSizes(true);
-  list->setSpacing(1);
   form.Watch(*list->viewport(), control);
   QObject::connect(list, &QListWidget::currentRowChanged, &form,
                    [&form, list](int row) { form.RowChosen(*list, row); });
@@ -37,13 +38,14 @@ void SyncListBox(QtForm& /*form*/, Control& control, QWidget& widget) {
   const QStringList texts = Texts(box.List);
   while (list.count() > texts.size()) delete list.takeItem(list.count() - 1);
   for (int i = 0; i < texts.size(); ++i) {
-    if (i >= list.count())
+    if (i >= list.count()) {
       list.addItem(texts[i]);
-    else if (list.item(i)->text() != texts[i])
+      list.item(i)->setSizeHint(QSize(0, kRowHeight));
+    } else if (list.item(i)->text() != texts[i]) {
       list.item(i)->setText(texts[i]);
+    }
   }
   if (list.currentRow() != box.ListIndex) list.setCurrentRow(box.ListIndex);
-  list.setSpacing(list.count() * (list.fontMetrics().height() + 8) < list.height() ? 3 : 0);
 }
 
 QWidget* MakeTabStrip(QtForm& form, Control& /*control*/, QWidget& parent) {

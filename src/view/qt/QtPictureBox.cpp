@@ -6,7 +6,7 @@
 #include "view/qt/QtPaint.h"
 
 #include <QEvent>
-#include <QPainterPath>
+#include <QPaintEvent>
 #include <QStyle>
 #include <algorithm>
 #include <cmath>

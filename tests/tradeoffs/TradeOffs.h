@@ -1,0 +1,118 @@
+// Trade-offs in tests: models whose values are a hundredth of their scores, and the step on a screen of its own.
+#pragma once
+
+#include "direct/Ranked.h"
+#include "runtime/ErrorNumber.h"
+#include "support/TestHost.h"
+#include "tradeoffs/frmTradeOffsB.h"
+#include "view/Input.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarnwise {
+
+inline void GiveCurve(WizardData& data, int att, const std::vector<Double>& x, const std::vector<Double>& y) {
+  AttValueData& values = data.AttValueData;
+  values.ValuePointCount[att] = static_cast<Integer>(x.size());
+  for (std::size_t k = 0; k < x.size(); ++k) {
+    values.ValuePointX(att, static_cast<int>(k)) = x[k];
+    values.ValuePointY(att, static_cast<int>(k)) = y[k];
+  }
+}
+
+// A scale and the straight value curve over it.
+inline void GiveScale(WizardData& data, int att, Double low, Double high) {
+  data.AttValueData.ScoreMin[att] = low;
+  data.AttValueData.ScoreMax[att] = high;
+  GiveCurve(data, att, {low, high}, {0.0, 1.0});
+}
+
+// What the ordering step and the host leave for the trade-off step: intervals at their defaults, points all zero.
+inline WizardData TradeOffData(const std::vector<RankedAtt>& atts, int benefitReference, int costReference) {
+  WizardData data = RankedData(atts, benefitReference, costReference);
+  for (int i = 0; i < data.NumAtts(); ++i) GiveScale(data, i, 0.0, 100.0);
+  data.ABPoints1.Allocate(data.NumAtts());
+  data.ABPoints2.Allocate(data.NumAtts());
+  data.FileIndex = 3;
+  data.KestaDir = "C:/KESTA";
+  return data;
+}
+
+// Benefits 0 to 4: 1 is the reference on rank 2 and 4 shares its rank; 0 is better; 2 and 3 are worse and share a rank.
+// Costs 5 to 7: 6 is the reference on rank 2, 5 is better, 7 shares its rank.
+inline WizardData Ward() { return TradeOffData({B(1), B(2), B(3), B(3), B(2), C(1), C(2), C(2)}, 1, 6); }
+
+inline ABPoint PointsAt(Single ax, Single ay, Single bx, Single by) {
+  ABPoint p;
+  p.AX = ax;
+  p.AY = ay;
+  p.BX = bx;
+  p.BY = by;
+  CollapseCorners(p);
+  return p;
+}
+
+// The step opened on a model. Scores are moved by dropping marks and by typing, as a user would.
+struct TradeOffStep : OpenForm<frmTradeOffsB> {
+  explicit TradeOffStep(const WizardData& model) : OpenForm(model) { Open(); }
+
+  frmTradeOffsB& Step() { return *Form; }
+  const ABPoint& Points() { return Form->Points; }
+  const ABPoint& Record(int att) { return Data.ABPoints2[att]; }
+  String Ratio() { return Form->lblWeightRatio.Caption; }
+  bool EnterAllowed() { return Form->cmdEnter.Enabled; }
+
+  // Attribute ids, not items.
+  void Choose(int att) {
+    if (Input::Press(Form->imgcmbTargetAtt)) Input::SelectRow(Form->imgcmbTargetAtt, att + 1);
+  }
+
+  void DropInPlot(Control& mark, Single x, Single y) {
+    Screen->Drag.Begin(mark);
+    Screen->Drag.Over(Form->Chart.picTradeOffsRange, x, y);
+    Screen->Drag.Drop();
+  }
+
+  // Drops a mark on its scores.
+  void MoveA(Single x, Single y) { MoveMark(Form->Chart.shpPCA, x, y); }
+  void MoveB(Single x, Single y) { MoveMark(Form->Chart.shpPCB, x, y); }
+
+  void Press(Toolbar& toolbar, const String& key) {
+    ASSERT_TRUE(toolbar.Enabled) << toolbar.Name;
+    const Toolbar::Button* const button = toolbar.Find(key);
+    ASSERT_NE(button, nullptr) << key;
+    ASSERT_TRUE(button->Enabled) << key;
+    Input::PressToolButton(toolbar, key);
+  }
+
+  void Focus(TextBox& box) {
+    if (!Input::MoveFocus(box)) return;
+    box.SelStart = static_cast<int>(box.Text().size());
+    box.SelLength = 0;
+  }
+
+  void Key(int code, int character = 0, int shift = 0) { TypeKey(*Form, code, character, shift); }
+  void Return() { Key(13, 13); }
+  void Type(const String& text) {
+    for (const char c : text) Key(static_cast<unsigned char>(c), static_cast<unsigned char>(c));
+  }
+
+  // Replaces the whole text of a box.
+  void Fill(TextBox& box, const String& text) {
+    Focus(box);
+    Key(65, 1, 2);
+    Key(8, 8);
+    Type(text);
+  }
+
+  bool IsEnabled(Toolbar& toolbar, const String& key) { return toolbar.Enabled && toolbar.Find(key)->Enabled; }
+
+ private:
+  void MoveMark(Control& mark, Single x, Single y) {
+    const frmTradeOffsB& f = *Form;
+    const PictureBox& plot = f.Chart.picTradeOffsRange;
+    DropInPlot(mark, (x - f.XMin) / (f.XMax - f.XMin) * plot.Width(), (f.YMax - y) / (f.YMax - f.YMin) * plot.Height());
+  }
+};
+
+}  // namespace Tarnwise

@@ -1,5 +1,6 @@
 #include "view/Pictures.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -49,9 +50,9 @@ PictureShape Disc(Single x, Single y, Single radius, const Look& look) {
 // Points along an arc, angles in degrees, counted clockwise from the right as y runs downward.
 std::vector<Single> Arc(Single x, Single y, Single rx, Single ry, Single from, Single to) {
   std::vector<Single> points;
-  constexpr int kSteps = 24;
-  for (int i = 0; i <= kSteps; ++i) {
-    const Single angle = (from + (to - from) * static_cast<Single>(i) / kSteps) * kPi / 180.0F;
+  const int steps = std::max(8, static_cast<int>(std::abs(to - from) / 10.0F));
+  for (int i = 0; i <= steps; ++i) {
+    const Single angle = (from + (to - from) * static_cast<Single>(i) / static_cast<Single>(steps)) * kPi / 180.0F;
     points.push_back(x + rx * std::cos(angle));
     points.push_back(y + ry * std::sin(angle));
   }

@@ -4,9 +4,9 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kFrameWidth = 5640.0F;
+constexpr Single kFrameWidth = 6600.0F;
 constexpr Single kFrameHeight = 6300.0F;
-constexpr Single kGraphLeft = 900.0F;
+constexpr Single kGraphLeft = 1290.0F;
 constexpr Single kGraphTop = 1050.0F;
 constexpr Single kGraphSide = 3900.0F;
 constexpr Single kRange = 252.0F;                     // pixels

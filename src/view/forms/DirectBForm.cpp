@@ -4,12 +4,13 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kChartFrameWidth = 5640.0F;
+constexpr Single kChartFrameWidth = 6600.0F;
 constexpr Single kRightLeft = kChartFrameWidth + 360.0F;
 constexpr Single kRightWidth = kFormWidth - 2 * kMargin - kRightLeft;
 constexpr Single kEntryTop = 750.0F;
 constexpr Single kTabTop = 2010.0F;
 constexpr Single kTabHeight = 390.0F;
+constexpr Single kRestartWidth = 1530.0F;
 
 void PutText(Label& label, const char* caption, Single left, Single top, Single width) {
   label.Caption = caption;
@@ -65,8 +66,9 @@ void DirectBForm::LayOutEntry() {
   PutText(Label1.Load(1), "To:", 1905.0F, row + 60.0F, 330.0F);
   Place(txtWRUpper, 2265.0F, row, 780.0F, 375.0F);
   PutText(Label1.Load(3), "/1", 3075.0F, row + 60.0F, 240.0F);
-  Place(cmdEnter, 3465.0F, row - 22.0F, 1275.0F, kButtonHeight);
-  Place(cmdReStart, 4860.0F, row - 22.0F, kRightWidth - 4860.0F - 180.0F, kButtonHeight);
+  const Single restartLeft = kRightWidth - kRestartWidth - 180.0F;
+  Place(cmdEnter, restartLeft - 1275.0F - kGap, row - 22.0F, 1275.0F, kButtonHeight);
+  Place(cmdReStart, restartLeft, row - 22.0F, kRestartWidth, kButtonHeight);
   txtWRLower.AccessibleName = "Weight ratio from";
   txtWRUpper.AccessibleName = "Weight ratio to";
   cmdEnter.Caption = "&Enter";

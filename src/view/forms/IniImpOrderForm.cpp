@@ -8,8 +8,8 @@ constexpr Single kFrameWidth = (kFormWidth - 2 * kMargin - 240.0F) / 2.0F;
 constexpr Single kFrameHeight = 6300.0F;
 constexpr Single kViewportTop = 750.0F;
 constexpr Single kViewportHeight = 4200.0F;  // of a stage 1 list
-constexpr Single kListWidth = 3420.0F;
-constexpr Single kRankLeft = 3720.0F;
+constexpr Single kListWidth = 3750.0F;
+constexpr Single kRankLeft = 4050.0F;
 constexpr Single kRankWidth = kFrameWidth - kRankLeft - 180.0F;
 
 Single GroupLeft(bool benefit) { return benefit ? 0.0F : kFrameWidth + 240.0F; }
@@ -38,7 +38,7 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
       vsrAtt(form, &picAttPanel, Named("vsrAtt", benefit)),
       cmdAttA(form, &picAttPLst, Named("cmdAttA", benefit),
               [benefit](CommandButton& button) {
-                Place(button, 420.0F, 120.0F, 1350.0F, kAttButtonHeight);
+                Place(button, 420.0F, 120.0F, 1440.0F, kAttButtonHeight);
                 button.BackColor = benefit ? kBenefitColour : kCostColour;
                 button.DragAutomatic = true;
                 button.TabIndex = TabPlace(benefit, 0);
@@ -50,7 +50,7 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
                    option.AccessibleName = benefit ? "Benefit attribute looked at" : "Cost attribute looked at";
                  }),
       lblAttName(form, &picAttPLst, Named("lblAttName", benefit),
-                 [](Label& label) { Place(label, 1830.0F, 120.0F, kListWidth - 1830.0F - 330.0F, 305.0F); }),
+                 [](Label& label) { Place(label, 1920.0F, 120.0F, kListWidth - 1920.0F - 330.0F, kAttButtonHeight); }),
       picOrderPanel(form, &fmOA, Named("picOrderPanel", benefit)),
       picOrderCon(form, &picOrderPanel, Named("picOrderCon", benefit)),
       vsrOrder(form, &picOrderPanel, Named("vsrOrder", benefit)),

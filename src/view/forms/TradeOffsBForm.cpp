@@ -8,8 +8,9 @@ namespace {
 // place makes it the right half of the page.
 constexpr Single kToolsLeft = 3855.0F;
 constexpr Single kToolsTop = 2700.0F;
+constexpr Single kRestartWidth = 1530.0F;
 constexpr Single kToolsHeight = 3600.0F;
-constexpr Single kRightLeft = 6180.0F;
+constexpr Single kRightLeft = 6960.0F;
 constexpr Single kRightWidth = kFormWidth - 2 * kMargin - kRightLeft;
 
 void PutText(Label& label, const char* caption, Single left, Single top, Single width) {
@@ -51,14 +52,15 @@ TradeOffsBForm::TradeOffsBForm(std::shared_ptr<Platform> platform)
 
   Place(frameRatio, kRightLeft, 780.0F, kRightWidth, 1440.0F);
   PutText(lblRatioTitle, "Relative importance (weight  ratio Wj/Wr):", 180.0F, 150.0F, kRightWidth - 360.0F);
-  Place(lblWeightRatio, 180.0F, 450.0F, 3000.0F, 375.0F);
+  Place(lblWeightRatio, 180.0F, 450.0F, kRightWidth - 3450.0F, 375.0F);
   lblWeightRatio.Alignment = Align::Centre;
   lblWeightRatio.Bold = true;
   lblWeightRatio.Points = 12;
   cmdEnter.Caption = "&Enter";
   cmdReStart.Caption = "&Re-start All";
-  Place(cmdEnter, 3300.0F, 435.0F, 1275.0F, kButtonHeight);
-  Place(cmdReStart, 4695.0F, 435.0F, kRightWidth - 4695.0F - 180.0F, kButtonHeight);
+  const Single restartLeft = kRightWidth - kRestartWidth - 180.0F;
+  Place(cmdEnter, restartLeft - 1275.0F - kGap, 435.0F, 1275.0F, kButtonHeight);
+  Place(cmdReStart, restartLeft, 435.0F, kRestartWidth, kButtonHeight);
   cmdEnter.TabIndex = 12;
   cmdReStart.TabIndex = 13;
   PlaceLights(Lights, 180.0F, 900.0F, kRightWidth - 360.0F);

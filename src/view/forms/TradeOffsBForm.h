@@ -13,6 +13,8 @@ struct AlternativesControls {
   Frame frameChart;
   PictureBox picPCGraph;
   PictureBox picTradeOffsRange;  // the plot
+  ControlArray<Line> GridV;
+  ControlArray<Line> GridH;
   PictureBox shpPCA;             // Tag "PointA"
   PictureBox shpPCB;             // Tag "PointB"
   ControlArray<Label> labPCX;    // 0 to 6

@@ -4,7 +4,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kChartFrameWidth = 5940.0F;
+constexpr Single kChartFrameWidth = 6600.0F;
 constexpr Single kChartFrameHeight = 6300.0F;
 constexpr Single kPlotSide = 4200.0F;
 constexpr Single kPlotLeft = 705.0F;  // in the graph
@@ -12,7 +12,7 @@ constexpr Single kPlotTop = 330.0F;
 constexpr Single kGraphWidth = kPlotLeft + kPlotSide + 525.0F;
 constexpr Single kGraphHeight = kPlotTop + kPlotSide + 660.0F;
 constexpr Single kMarkSide = 150.0F;
-constexpr Single kCornerSide = 105.0F;
+constexpr Single kCornerSide = 165.0F;
 
 void Mark(PictureBox& mark, const char* tag, const char* picture, const char* name, int tabIndex) {
   Place(mark, 0.0F, 0.0F, kMarkSide, kMarkSide);
@@ -50,6 +50,8 @@ AlternativesControls::AlternativesControls(Form& form, Control& stage)
     : frameChart(form, &stage, "frameChart"),
       picPCGraph(form, &frameChart, "picPCGraph"),
       picTradeOffsRange(form, &picPCGraph, "picTradeOffsRange"),
+      GridV(form, &picTradeOffsRange, "GridV", [](Line& line) { line.BorderColor = 0xE0E0E0; }),
+      GridH(form, &picTradeOffsRange, "GridH", [](Line& line) { line.BorderColor = 0xE0E0E0; }),
       shpPCA(form, &picTradeOffsRange, "shpPCA"),
       shpPCB(form, &picTradeOffsRange, "shpPCB"),
       labPCX(form, &picPCGraph, "labPCX", [](Label& label) { label.Alignment = Align::Centre; }),
@@ -65,11 +67,20 @@ AlternativesControls::AlternativesControls(Form& form, Control& stage)
       imgMarks(form, &frameChart, "imgMarks", [](Image& image) { image.Visible = false; }) {
   Place(frameChart, 0.0F, 0.0F, kChartFrameWidth, kChartFrameHeight);
   frameChart.Caption = "Alternatives A and B";
-  Place(picPCGraph, 240.0F, 690.0F, kGraphWidth, kGraphHeight);
+  Place(picPCGraph, 570.0F, 690.0F, kGraphWidth, kGraphHeight);
   Place(picTradeOffsRange, kPlotLeft, kPlotTop, kPlotSide, kPlotSide);
   picTradeOffsRange.BackColor = 0xFFFFFF;
   picTradeOffsRange.Bordered = true;
   picTradeOffsRange.AccessibleName = "Chart of the two alternatives";
+  for (int i = 0; i < 5; ++i) {
+    const Single along = kPlotSide / 6.0F * static_cast<Single>(i + 1);
+    Line& v = i == 0 ? GridV[0] : GridV.Load(i);
+    Line& h = i == 0 ? GridH[0] : GridH.Load(i);
+    v.X1 = v.X2 = along;
+    v.Y2 = kPlotSide;
+    h.Y1 = h.Y2 = along;
+    h.X2 = kPlotSide;
+  }
   Mark(shpPCA, "PointA", "drag.A", "Alternative A", 20);
   Mark(shpPCB, "PointB", "drag.B", "Alternative B", 21);
   for (int k = 0; k <= 6; ++k) {
@@ -109,7 +120,7 @@ ScoreControls::ScoreControls(Form& form, Control& tools)
                      }),
       labTradeOffDiff1(form, &framePCNumericalC, "labTradeOffDiff1"),
       labTradeOffDiff2(form, &framePCNumericalC, "labTradeOffDiff2") {
-  constexpr Single columns[] = {1215.0F, 3795.0F};
+  constexpr Single columns[] = {1215.0F, 4095.0F};
   constexpr Single rows[] = {780.0F, 1560.0F};
   PutText(labPCCriterion1, "Attribute 1", columns[0], 330.0F, 2280.0F);
   PutText(labPCCriterion2, "Attribute 2", columns[1], 330.0F, 2280.0F);
@@ -156,7 +167,7 @@ UncertaintyControls::UncertaintyControls(Form& form, Control& tools)
       cmbChangeH(form, &frameJdgUnctn, "cmbChangeH"),
       cmbChangeV(form, &frameJdgUnctn, "cmbChangeV") {
   PutText(lblUncertainty, "Stretch A into a line, along one attribute:", 240.0F, 330.0F, 4500.0F);
-  PlaceTools(tbMovUp, 1500.0F, 780.0F, "Upper end of A",
+  PlaceTools(tbMovUp, 1470.0F, 780.0F, "Upper end of A",
              {{"MovUp", "Move the upper end up", "up"}, {"MovUpBack", "Move the upper end back", "upback"}});
   PlaceTools(tbMovLeft, 300.0F, 1500.0F, "Left end of A",
              {{"MovLeft", "Move the left end to the left", "left"},
@@ -165,7 +176,7 @@ UncertaintyControls::UncertaintyControls(Form& form, Control& tools)
   PlaceTools(tbMovRight, 2700.0F, 1500.0F, "Right end of A",
              {{"MovRightBack", "Move the right end back", "rightback"},
               {"MovRight", "Move the right end to the right", "right"}});
-  PlaceTools(tbMovDown, 1500.0F, 2220.0F, "Lower end of A",
+  PlaceTools(tbMovDown, 1470.0F, 2220.0F, "Lower end of A",
              {{"MovDownBack", "Move the lower end back", "downback"}, {"MovDown", "Move the lower end down", "down"}});
   PutText(lblSmallChange, "Small change:", 4380.0F, 1230.0F, 1500.0F);
   Place(cmbChangeH, 4380.0F, 1530.0F, 1380.0F, 375.0F);

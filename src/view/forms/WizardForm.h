@@ -5,7 +5,7 @@
 
 namespace Tarnwise {
 
-constexpr Single kFormWidth = 14100.0F;
+constexpr Single kFormWidth = 15300.0F;
 constexpr Single kFormHeight = 8340.0F;
 constexpr Single kMargin = 300.0F;
 constexpr Single kGap = 120.0F;

@@ -1,0 +1,357 @@
+#include "TradeOffs.h"
+
+#include "runtime/Text.h"
+
+namespace Tarnwise {
+namespace {
+
+// A at (50, 40), B at (20, 90): ratio 5/3.
+struct UncertainStep : TradeOffStep {
+  explicit UncertainStep(const WizardData& model = Ward()) : TradeOffStep(model) {
+    MoveA(50, 40);
+    MoveB(20, 90);
+    TakeNotes();
+  }
+
+  UncertaintyControls& U() { return Form->Uncertainty; }
+
+  // Which of the four toolbars have both buttons enabled: left, right, up, down.
+  std::vector<bool> Tools() {
+    std::vector<bool> tools;
+    for (const Toolbar* toolbar : {&U().tbMovLeft, &U().tbMovRight, &U().tbMovUp, &U().tbMovDown}) {
+      tools.push_back(toolbar->Buttons[0].Enabled && toolbar->Buttons[1].Enabled);
+    }
+    return tools;
+  }
+};
+
+TEST(UncertaintyTools, AllMoveWithoutUncertaintyAndNoStepSizeIsShown) {
+  UncertainStep step;
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+  EXPECT_FALSE(step.U().cmbChangeH.Visible);
+  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+}
+
+TEST(UncertaintyTools, AHorizontalMoveLocksTheVerticalOnesAndShowsItsSteps) {
+  UncertainStep step;
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, false, false}));
+  EXPECT_FALSE(step.U().tbMovUp.Buttons[0].Enabled);
+  EXPECT_FALSE(step.U().tbMovUp.Buttons[1].Enabled);
+  EXPECT_FALSE(step.U().tbMovDown.Buttons[0].Enabled);
+  EXPECT_FALSE(step.U().tbMovDown.Buttons[1].Enabled);
+  EXPECT_TRUE(step.U().cmbChangeH.Visible);
+  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+}
+
+TEST(UncertaintyTools, AVerticalMoveLocksTheHorizontalOnesAndShowsItsSteps) {
+  UncertainStep step;
+  step.Press(step.U().tbMovUp, "MovUp");
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{false, false, true, true}));
+  EXPECT_FALSE(step.U().cmbChangeH.Visible);
+  EXPECT_TRUE(step.U().cmbChangeV.Visible);
+}
+
+TEST(UncertaintyTools, BothListsStandInOnePlace) {
+  UncertainStep step;
+  EXPECT_EQ(step.U().cmbChangeH.Left(), step.U().cmbChangeV.Left());
+  EXPECT_EQ(step.U().cmbChangeH.Top(), step.U().cmbChangeV.Top());
+  EXPECT_EQ(step.U().lblSmallChange.Caption(), "Small change:");
+}
+
+TEST(UncertaintyTools, AnotherTargetUnlocksThem) {
+  UncertainStep step;
+  step.Press(step.U().tbMovUp, "MovUp");
+  step.Choose(2);
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+}
+
+TEST(ChangeSteps, AreAThirtiethAFortiethAndAFiftiethOfTheScale) {
+  WizardData data = Ward();
+  GiveScale(data, 0, 10.0, 310.0);
+  TradeOffStep step(data);
+  const UncertaintyControls& u = step.Form->Uncertainty;
+  EXPECT_EQ(u.cmbChangeH.List(), (Lines{"10.00", "7.50", "6.00"}));
+  EXPECT_EQ(u.cmbChangeV.List(), (Lines{"3.33", "2.50", "2.00"}));
+  EXPECT_EQ(u.cmbChangeH.ListIndex, 0);
+  EXPECT_EQ(u.cmbChangeV.ListIndex, 0);
+  EXPECT_EQ(step.Form->mStepH, 10.0F);
+  EXPECT_EQ(step.Form->mStepV, 3.33F) << "the number of the text";
+}
+
+TEST(ChangeSteps, ChoosingAnItemSetsTheStepAnew) {
+  UncertainStep step;
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_EQ(step.Points().AUX, 50.0F + 3.33F);
+  Input::SelectRow(step.U().cmbChangeH, 2);
+  EXPECT_EQ(step.Form->mStepH, 2.0F);
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_EQ(step.Points().AUX, 50.0F + 3.33F + 2.0F);
+  Input::SelectRow(step.U().cmbChangeV, 1);
+  EXPECT_EQ(step.Form->mStepV, 2.5F);
+}
+
+TEST(ChangeSteps, AreFilledAnewForAnotherTarget) {
+  WizardData data = Ward();
+  GiveScale(data, 5, 0.0, 30.0);
+  UncertainStep step(data);
+  Input::SelectRow(step.U().cmbChangeH, 2);
+  step.Choose(5);
+  EXPECT_EQ(step.U().cmbChangeH.List(), (Lines{"1.00", "0.75", "0.60"}));
+  EXPECT_EQ(step.U().cmbChangeH.ListIndex, 0);
+  EXPECT_EQ(step.Form->mStepH, 1.0F);
+}
+
+TEST(Movers, EachMovesItsCornerByTheStep) {
+  const auto after = [](Toolbar UncertaintyControls::*toolbar, const char* key) {
+    UncertainStep step;
+    step.Press(step.U().*toolbar, key);
+    return step.Points();
+  };
+  const ABPoint left = after(&UncertaintyControls::tbMovLeft, "MovLeft");
+  EXPECT_EQ(left.ALX, 50.0F - 3.33F);
+  EXPECT_EQ(left.AUX, 50.0F);
+  EXPECT_EQ(left.ALY, 40.0F);
+  EXPECT_EQ(left.AOrientation, 1);
+  const ABPoint right = after(&UncertaintyControls::tbMovRight, "MovRight");
+  EXPECT_EQ(right.AUX, 50.0F + 3.33F);
+  EXPECT_EQ(right.ALX, 50.0F);
+  EXPECT_EQ(right.AOrientation, 1);
+  const ABPoint down = after(&UncertaintyControls::tbMovDown, "MovDown");
+  EXPECT_EQ(down.ALY, 40.0F - 3.33F);
+  EXPECT_EQ(down.AUY, 40.0F);
+  EXPECT_EQ(down.ALX, 50.0F);
+  EXPECT_EQ(down.AOrientation, 2);
+  const ABPoint up = after(&UncertaintyControls::tbMovUp, "MovUp");
+  EXPECT_EQ(up.AUY, 40.0F + 3.33F);
+  EXPECT_EQ(up.ALY, 40.0F);
+  EXPECT_EQ(up.AOrientation, 2);
+}
+
+TEST(Movers, BackGoesTowardsAAndStopsThere) {
+  UncertainStep step;
+  for (int time = 0; time < 3; ++time) step.Press(step.U().tbMovRight, "MovRight");
+  step.Press(step.U().tbMovRight, "MovRightBack");
+  EXPECT_NEAR(step.Points().AUX, 50.0F + 2.0F * 3.33F, 1e-4F);
+  Input::SelectRow(step.U().cmbChangeH, 0);
+  step.Press(step.U().tbMovRight, "MovRightBack");
+  EXPECT_TRUE(step.IsEnabled(step.U().tbMovRight, "MovRightBack"));
+  step.Press(step.U().tbMovRight, "MovRightBack");
+  EXPECT_EQ(step.Points().AUX, 50.0F);
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovRight, "MovRightBack"));
+  EXPECT_TRUE(step.IsEnabled(step.U().tbMovRight, "MovRight"));
+}
+
+struct LimitCase {
+  Toolbar UncertaintyControls::*Tools;
+  const char* Key;
+  Single ABPoint::*Corner;
+  Single Limit;
+};
+
+TEST(Movers, EachStopsAtItsLimitAndDisablesItsOwnButton) {
+  const LimitCase cases[] = {{&UncertaintyControls::tbMovLeft, "MovLeft", &ABPoint::ALX, 0.0F},
+                             {&UncertaintyControls::tbMovRight, "MovRight", &ABPoint::AUX, 100.0F},
+                             {&UncertaintyControls::tbMovDown, "MovDown", &ABPoint::ALY, 0.0F},
+                             {&UncertaintyControls::tbMovUp, "MovUp", &ABPoint::AUY, 100.0F},
+                             {&UncertaintyControls::tbMovLeft, "MovLeftBack", &ABPoint::ALX, 50.0F},
+                             {&UncertaintyControls::tbMovRight, "MovRightBack", &ABPoint::AUX, 50.0F},
+                             {&UncertaintyControls::tbMovDown, "MovDownBack", &ABPoint::ALY, 40.0F},
+                             {&UncertaintyControls::tbMovUp, "MovUpBack", &ABPoint::AUY, 40.0F}};
+  for (const LimitCase& c : cases) {
+    SCOPED_TRACE(c.Key);
+    UncertainStep step;
+    Toolbar& toolbar = step.U().*c.Tools;
+    int presses = 0;
+    for (; step.IsEnabled(toolbar, c.Key) && presses < 100; ++presses) step.Press(toolbar, c.Key);
+    EXPECT_LT(presses, 100);
+    EXPECT_EQ(step.Points().*c.Corner, c.Limit);
+    EXPECT_FALSE(toolbar.Find(c.Key)->Enabled);
+    for (const Toolbar::Button& button : toolbar.Buttons) {
+      if (button.Key != c.Key) { EXPECT_TRUE(button.Enabled) << button.Key; }
+    }
+  }
+}
+
+TEST(Movers, AStepThatReachesTheMinimumExactlyLandsOnIt) {
+  UncertainStep step;
+  step.MoveA(2, 40);
+  step.Press(step.U().tbMovLeft, "MovLeftBack");
+  Input::SelectRow(step.U().cmbChangeH, 2);
+  step.Press(step.U().tbMovLeft, "MovLeft");
+  EXPECT_EQ(step.Points().ALX, 0.0F);
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovLeft, "MovLeft"));
+}
+
+TEST(Movers, BackWithoutUncertaintyStaysAndLocksTheOtherDirectionAllTheSame) {
+  UncertainStep step;
+  step.Press(step.U().tbMovLeft, "MovLeftBack");
+  EXPECT_EQ(step.Points().ALX, 50.0F);
+  EXPECT_EQ(step.Points().AOrientation, 1);
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovLeft, "MovLeftBack"));
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovUp, "MovUp"));
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovDown, "MovDown"));
+}
+
+TEST(Movers, ADisabledButtonComesBackWithTheNextPressOfAnyMover) {
+  UncertainStep step;
+  step.Press(step.U().tbMovLeft, "MovLeftBack");
+  EXPECT_FALSE(step.IsEnabled(step.U().tbMovLeft, "MovLeftBack"));
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_TRUE(step.IsEnabled(step.U().tbMovLeft, "MovLeftBack"));
+}
+
+TEST(Movers, DecideTheStateByBothCorners) {
+  UncertainStep step;
+  step.MoveA(60, 40);
+  step.MoveB(20, 80);
+  EXPECT_EQ(step.Ratio(), "1.00/1,    1.00/1");
+  EXPECT_EQ(step.Form->mJudgmentState, kConsistent);
+  step.Press(step.U().tbMovLeft, "MovLeft");
+  // 0.4 / 0.3667
+  EXPECT_EQ(step.Ratio(), "1.00/1,    1.09/1");
+  EXPECT_EQ(step.Form->mJudgmentState, kConsistent);
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_EQ(step.Ratio(), "0.92/1,    1.09/1");
+  EXPECT_EQ(step.Form->mJudgmentState, kInconsistent);
+  EXPECT_FALSE(step.EnterAllowed());
+}
+
+TEST(Movers, AVerticalLineGivesAnIntervalToo) {
+  UncertainStep step;
+  step.MoveA(60, 40);
+  step.MoveB(20, 90);
+  step.Press(step.U().tbMovUp, "MovUp");
+  EXPECT_EQ(step.Ratio(), "1.17/1,    1.25/1");
+  step.Press(step.U().tbMovDown, "MovDown");
+  EXPECT_EQ(step.Ratio(), "1.17/1,    1.33/1");
+}
+
+TEST(UncertaintyCommit, StoresTheEndsAndTheRatioAtA) {
+  UncertainStep step;
+  step.MoveA(60, 40);
+  step.MoveB(20, 90);
+  step.Press(step.U().tbMovUp, "MovUp");
+  step.Press(step.U().tbMovDown, "MovDown");
+  step.Click("cmdEnter");
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.1667, 1.25, 1.3333}));
+  EXPECT_EQ(step.Record(0).AOrientation, 2);
+  EXPECT_EQ(step.Record(0).ALY, step.Points().ALY);
+}
+
+TEST(UncertaintyCommit, OverAFlatPieceOfTheCurveIsAPointThoughTheOrientationIsOne) {
+  WizardData data = Ward();
+  GiveCurve(data, 0, {0, 20, 40, 60, 80, 90, 100}, {0, 0.5, 0.5, 0.5, 0.5, 0.75, 1});
+  UncertainStep step(data);
+  step.MoveA(50, 40);
+  step.MoveB(0, 95);
+  step.Press(step.U().tbMovRight, "MovRight");
+  EXPECT_NE(step.Points().ALX, step.Points().AUX);
+  EXPECT_EQ(step.Ratio(), "1.10/1,    1.10/1");
+  step.Click("cmdEnter");
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.1, 1.1, 1.1}));
+  EXPECT_EQ(step.Record(0).AOrientation, 1);
+}
+
+TEST(UncertaintyCommit, ACornerThatReachesBsFirstScoreIsInfinityAndInvalid) {
+  UncertainStep step;
+  step.MoveA(22, 40);
+  step.MoveB(20, 90);
+  step.Press(step.U().tbMovLeft, "MovLeftBack");
+  Input::SelectRow(step.U().cmbChangeH, 2);
+  step.Press(step.U().tbMovLeft, "MovLeft");
+  EXPECT_EQ(step.Points().ALX, 20.0F);
+  EXPECT_EQ(step.Ratio(), "25.00/1,    Infinity");
+  EXPECT_EQ(step.Form->mJudgmentState, kInvalid);
+  EXPECT_FALSE(step.EnterAllowed());
+}
+
+TEST(UncertaintyCommit, IsLostWhenAnotherTargetIsChosenBeforeEnter) {
+  UncertainStep step;
+  step.Press(step.U().tbMovRight, "MovRight");
+  step.Choose(2);
+  step.Choose(0);
+  EXPECT_EQ(step.Points().AOrientation, 0);
+  EXPECT_EQ(step.Points().AUX, step.Points().AX);
+}
+
+TEST(UncertaintyLine, IsThickAndBlueBetweenTheCorners) {
+  UncertainStep step;
+  step.Press(step.U().tbMovLeft, "MovLeft");
+  step.Press(step.U().tbMovRight, "MovRight");
+  const std::vector<Drawn>& drawing = step.Form->Chart.picTradeOffsRange.Drawing;
+  ASSERT_EQ(drawing.size(), 1U);
+  EXPECT_EQ(drawing[0].Shape, Drawn::What::Line);
+  EXPECT_EQ(drawing[0].Points,
+            (std::vector<Single>{step.Points().ALX * 42.0F, 60.0F * 42.0F, step.Points().AUX * 42.0F, 60.0F * 42.0F}));
+  EXPECT_EQ(drawing[0].Ink, 16711680U);
+  EXPECT_EQ(drawing[0].LineWidth, 3);
+}
+
+TEST(UncertaintyLine, IsNotDrawnWhereItsEndsCoincide) {
+  UncertainStep step;
+  step.Press(step.U().tbMovLeft, "MovLeft");
+  step.Press(step.U().tbMovLeft, "MovLeftBack");
+  EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
+}
+
+TEST(CertainTool, GoesBackToTheRecordAndNotToAPoint) {
+  WizardData data = Ward();
+  data.SavedJudgments.RJType = kTradeOffsType;
+  data.ABPoints2[0] = PointsAt(60, 40, 20, 80);
+  data.ABPoints2[0].AOrientation = 1;
+  data.ABPoints2[0].ALX = 55;
+  data.ABPoints2[0].AUX = 60;
+  TradeOffStep step(data);
+  const String before = step.Ratio();
+  step.MoveA(80, 10);
+  step.Press(step.Form->Uncertainty.tbCertain, "Certain");
+  EXPECT_EQ(step.Points().AX, 60.0F);
+  EXPECT_EQ(step.Points().ALX, 55.0F);
+  EXPECT_EQ(step.Points().AOrientation, 1);
+  EXPECT_EQ(step.Ratio(), before);
+  EXPECT_EQ(step.Form->Chart.shpPCA.Left(), 60.0F * 42.0F - 75.0F);
+  EXPECT_EQ(step.Form->Chart.picTradeOffsRange.Drawing.size(), 1U);
+  EXPECT_FALSE(step.Form->Uncertainty.tbMovUp.Buttons[0].Enabled);
+}
+
+TEST(CertainTool, UnlocksBothDirectionsWhereTheRecordIsAPoint) {
+  UncertainStep step;
+  step.Press(step.U().tbMovUp, "MovUp");
+  step.Press(step.U().tbCertain, "Certain");
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+  EXPECT_EQ(step.Points().AOrientation, 0);
+  EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
+}
+
+TEST(CertainTool, GoesBackToTheLastEnter) {
+  UncertainStep step;
+  step.MoveA(60, 40);
+  step.MoveB(20, 90);
+  step.Click("cmdEnter");
+  step.MoveA(90, 10);
+  step.Press(step.U().tbCertain, "Certain");
+  EXPECT_EQ(step.Points().AX, 60.0F);
+  EXPECT_EQ(step.Points().BY, 90.0F);
+}
+
+TEST(ReferencePairTools, AreAllDisabledAndComeBackWithAnOrdinaryPair) {
+  UncertainStep step;
+  Toolbar* const all[] = {&step.U().tbCertain, &step.U().tbMovDown, &step.U().tbMovUp, &step.U().tbMovLeft,
+                          &step.U().tbMovRight};
+  step.Choose(6);
+  for (const Toolbar* toolbar : all) EXPECT_FALSE(toolbar->Enabled) << toolbar->Name;
+  step.Choose(5);
+  for (const Toolbar* toolbar : all) EXPECT_TRUE(toolbar->Enabled) << toolbar->Name;
+}
+
+TEST(ReferencePairTools, ItsPlotIsCleared) {
+  UncertainStep step;
+  step.Press(step.U().tbMovUp, "MovUp");
+  step.Choose(1);
+  EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
+}
+
+}  // namespace
+}  // namespace Tarnwise

@@ -219,7 +219,7 @@ TEST_P(InsideAnEvent, AFaultOfTheHostLeavesTheUserAForm) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Wizard, InsideAnEvent, testing::ValuesIn(kMoments),
-                         [](const testing::TestParamInfo<Moment>& info) { return String(info.param.Name); });
+                         [](const testing::TestParamInfo<Moment>& moment) { return String(moment.param.Name); });
 
 TEST(Lifetime, TheObjectMayBeLetGoWhereverTheUserIs) {
   for (std::size_t done = 0; done <= 14; ++done) {

@@ -1,0 +1,93 @@
+#!/usr/bin/env bash
+# usage: run_test.sh PROGRAM MODEL.kst
+# A person at the keyboard and the mouse of a real X server: `tarnwise run` from the first step to saved judgments.
+set -euo pipefail
+program=$1
+model=$2
+work=$(mktemp -d)
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
+cp "$model" "$work/model.kst"
+export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
+
+fail() {
+  echo "failed: $1" >&2
+  cat "$work/err" >&2
+  if command -v import >/dev/null; then import -window root "${RUN_TEST_PICTURE:-$work/failed.png}" || true; fi
+  exit 1
+}
+
+"$program" run --save "$work/model.kst" >"$work/out" 2>"$work/err" &
+wizard=$!
+
+# Waits for a window by a part of its title and gives it the keyboard; there is no window manager to do that.
+window() {
+  local id=
+  for _ in $(seq 100); do
+    id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) && [ -n "$id" ] && break
+    kill -0 $wizard 2>/dev/null || fail "the program ended before \"$1\""
+    sleep 0.1
+  done
+  [ -n "$id" ] || fail "no window \"$1\""
+  xdotool windowfocus --sync "$id" 2>/dev/null || xdotool windowfocus "$id"
+  eval "$(xdotool getwindowgeometry --shell "$id" | grep -E '^(X|Y)=')"
+  sleep 0.3
+}
+
+keys() { xdotool key --delay 40 "$@"; sleep 0.2; }
+at() { xdotool mousemove --sync $((X + $1)) $((Y + $2)); }
+click() { at "$1" "$2"; xdotool click 1; sleep 0.2; }
+drag() {  # drag FROM_X FROM_Y TO_X TO_Y
+  at "$1" "$2"
+  xdotool mousedown 1
+  at $((($1 + $3) / 2)) $((($2 + $4) / 2))
+  at "$3" "$4"
+  sleep 0.1
+  xdotool mouseup 1
+  sleep 0.2
+}
+
+window 'Select an approach'
+keys alt+n
+
+# Benefit by keyboard: the first attribute to rank 1, a second rank, the other attribute to it.
+window 'Give rank orders'
+keys space Down space
+keys Tab Tab Tab Return
+keys shift+Tab shift+Tab space Down Down space
+# Cost by mouse: the first to rank 1, Add, the second to the new rank.
+drag 605 135 890 139
+click 819 424
+drag 605 162 890 181
+keys alt+n
+
+window 'Designate reference'
+click 200 115
+click 700 157
+keys alt+n
+
+# The first pair by mouse, the other by typing.
+window 'Estimate intervals'
+drag 257 218 170 214
+keys alt+e
+click 800 95
+keys End Return
+keys Tab ctrl+a 0 period 7 Return
+keys alt+e
+keys alt+n
+sleep 0.3
+keys alt+f
+
+for _ in $(seq 100); do kill -0 $wizard 2>/dev/null || break; sleep 0.1; done
+kill -0 $wizard 2>/dev/null && fail "the wizard is still open"
+status=0
+wait $wizard || status=$?
+[ $status = 0 ] || fail "exit status $status"
+grep -q '"type": "DEA_DIRECT"' "$work/out" || fail "no judgments: $(cat "$work/out")"
+for line in '"low": 1.2,' '"high": 3' '"low": 0.7,' '"ratio": 0.75,' '"benefitReference": 2,' '"costReference": 1,'; do
+  grep -qF "$line" "$work/out" || fail "no $line in $(cat "$work/out")"
+done
+grep -q 'The judgments are stored' "$work/err" || fail "nothing was saved"
+"$program" model show "$work/model.kst" >"$work/shown"
+grep -q 'DEA_DIRECT' "$work/shown" || fail "the model holds no judgments"
+cat "$work/out"
+echo "passed"

@@ -152,7 +152,7 @@ QWidget* MakeToolbar(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { 
 void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button& button) {
   auto* const tool = new QToolButton(&widget);
   tool->setObjectName(Text(button.Key));
-  tool->setAutoRaise(true);
+  tool->setAutoRaise(false);
   tool->setFocusPolicy(Qt::NoFocus);
   tool->setToolTip(Text(button.ToolTip));
   tool->setAccessibleName(Text(button.ToolTip.empty() ? button.Key : button.ToolTip));

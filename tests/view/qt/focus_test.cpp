@@ -98,7 +98,7 @@ TEST_F(QtFocus, TheCloseButtonAsksTheFormAndLeavesTheWindow) {
 TEST_F(QtFocus, AMnemonicPressesOnlyWhatAPersonCanReach) {
   form->cmdGo.Click = [this] { form->Log.push_back("click"); };
   Show();
-  QTest::qWaitForWindowActive(&Window());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
   Key(Qt::Key_G, Qt::AltModifier);
   EXPECT_EQ(Joined(form->Log), "click");
   EXPECT_EQ(form->ActiveControl, &form->cmdGo);

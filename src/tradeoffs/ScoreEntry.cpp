@@ -76,7 +76,7 @@ void frmTradeOffsB::DropExtraPoint(TextBox& box) {
 }
 
 bool frmTradeOffsB::CheckScore(TextBox& box, Single low, Single high) {
-  const Single v = ToSingleChecked(Val(Trim(box.Text())));
+  const auto v = static_cast<Single>(Val(Trim(box.Text())));  // what no Single holds is out of every range
   if (v >= low && v <= high) return true;
   mScoresBad = kYes;
   Screen().Beep();

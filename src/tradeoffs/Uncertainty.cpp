@@ -51,6 +51,14 @@ void frmTradeOffsB::ConnectUncertainty() {
   Uncertainty.cmbChangeV.Click = [this, numberOf] { mStepV = numberOf(Uncertainty.cmbChangeV); };
 }
 
+// The pair of both references is never uncertain.
+void frmTradeOffsB::EnableToolbars() {
+  for (Toolbar* toolbar : {&Uncertainty.tbCertain, &Uncertainty.tbMovDown, &Uncertainty.tbMovUp,
+                           &Uncertainty.tbMovLeft, &Uncertainty.tbMovRight}) {
+    toolbar->Enabled = !IsRefPair();
+  }
+}
+
 void frmTradeOffsB::SetUncertaintyTools(int orientation) {
   EnableButtons(Uncertainty.tbMovLeft, orientation != kVertical);
   EnableButtons(Uncertainty.tbMovRight, orientation != kVertical);

@@ -114,6 +114,8 @@ void frmTradeOffsB::FillTargetList() {
 }
 
 void frmTradeOffsB::ShowFirstTarget() {
+  mScoresDirty = 0;
+  EnableToolbars();
   LoadABRecord(mTargetAtt);
   ShowCriteria();
   BuildChart();
@@ -148,10 +150,7 @@ void frmTradeOffsB::imgcmbTargetAtt_Click() {
   Screen().SetPointer(kHourglass);
   mTargetAtt = pairOfReferences ? data_.CRefAttID : static_cast<Integer>(i);
   mRefAtt = pairOfReferences ? data_.BRefAttID : r;
-  for (Toolbar* toolbar : {&Uncertainty.tbCertain, &Uncertainty.tbMovDown, &Uncertainty.tbMovUp,
-                           &Uncertainty.tbMovLeft, &Uncertainty.tbMovRight}) {
-    toolbar->Enabled = !IsRefPair();
-  }
+  EnableToolbars();
   LoadABRecord(mTargetAtt);
   ShowCriteria();
   BuildChart();
@@ -249,9 +248,9 @@ void frmTradeOffsB::cmdBack_Click() {
 
 void frmTradeOffsB::cmdFinish_Click() {
   Screen().SetPointer(kHourglass);
-  ABScores scores = ScoresOf(data_);
   Raise(ExportTradeOffsBW, kTradeOffsType, data_.BRefAttID, data_.CRefAttID, data_.RefAttWR, data_.Weights,
         data_.WeightsH, data_.WeightsL);
+  ABScores scores = ScoresOf(data_);  // as they stand after the host had the weights
   Raise(ExportABScores, scores);
   Screen().SetPointer(0);
   Raise(UnloadTarnwise, data_.FileIndex, true);

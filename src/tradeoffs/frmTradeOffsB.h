@@ -86,6 +86,7 @@ struct frmTradeOffsB : TradeOffsBForm {
   void ChangeScore(int index, const String& key);
 
   // The uncertainty.
+  void EnableToolbars();
   void SetUncertaintyTools(int orientation);
   void FillChangeSteps();
   void DrawUncertaintyLine();

@@ -195,7 +195,6 @@ TEST(ShowTarnwise, AgainShowsTheSameStepWithoutMakingItAnew) {
   host.Wizard->ShowTarnwise();
   const Form* const first = host.Screen->Forms().at(0);
   host.Screen->Hide(*host.Screen->Forms().at(0));
-  host.Chooses(1)();
   host.TakeNotes();
   host.Wizard->ShowTarnwise();
   EXPECT_EQ(host.Notes, Lines({"show frmTRNSelMethod"}));

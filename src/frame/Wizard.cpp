@@ -35,12 +35,18 @@ bool CreateForm(std::shared_ptr<StepForm>& member, const std::shared_ptr<Platfor
   member = form;
   screen->Created(*form);
   connect();
+  const auto undo = [&] {
+    if (member == form) ReleaseForm(member);
+    if (hidden && !hidden->Released) screen->Show(*hidden);
+  };
   try {
     form->Load();
   } catch (RuntimeError& error) {
-    if (member == form) ReleaseForm(member);
-    if (hidden && !hidden->Released) screen->Show(*hidden);
+    undo();
     error.In = form->Name + ".Form_Load";
+    throw;
+  } catch (...) {
+    undo();
     throw;
   }
   if (member != form) return false;

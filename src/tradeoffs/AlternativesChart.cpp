@@ -25,7 +25,10 @@ void frmTradeOffsB::ConnectChart() {
     mark->DragDrop = [this, mark](Control& source, Single x, Single y) { DropOnMark(*mark, source, x, y); };
   }
   Chart.picTradeOffsRange.DragDrop = [this](Control& source, Single x, Single y) { DropOnPlot(source, x, y); };
-  Chart.picPCGraph.DragOver = [this](Control& source, Single, Single, DragState state) { SetDragIcon(source, state); };
+  // The plot covers the graph, so the pointer that comes from one to the other has left the first.
+  for (PictureBox* area : {&Chart.picPCGraph, &Chart.picTradeOffsRange}) {
+    area->DragOver = [this](Control& source, Single, Single, DragState state) { SetDragIcon(source, state); };
+  }
   Chart.picPCGraph.DragDrop = [this](Control&, Single x, Single y) {
     const PictureBox& plot = Chart.picTradeOffsRange;
     const bool inside =

@@ -238,6 +238,7 @@ struct Toolbar : Control {
   void EnableButton(int index, bool enabled);  // from 1; error 9 where there is none
   const Button* Find(const String& key) const;
   std::vector<Button> Buttons;
+  Property<int> Current{*this, 1};  // the button that Space and Return press, from 1
   std::function<void(const String& key)> ButtonClick;
 };
 

@@ -23,6 +23,8 @@ void Dispatch(Control& control, const char* event, Body&& body) {
     platform.ReportError(error, error.In.empty() ? HandlerName(*held, name, event) : error.In);
   } catch (const std::exception& error) {
     platform.ReportForeignError(error.what(), HandlerName(*held, name, event));
+  } catch (...) {  // whatever a host's event handler throws ends here
+    platform.ReportForeignError("an exception of its own", HandlerName(*held, name, event));
   }
   if (--platform.HandlerDepth == 0) platform.SyncAll();
 }

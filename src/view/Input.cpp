@@ -77,6 +77,20 @@ bool BarKey(VScrollBar& bar, int code) {
   }
 }
 
+// The arrows choose one of the buttons, Space and Return press it.
+bool ToolbarKey(Toolbar& toolbar, int code) {
+  const int count = static_cast<int>(toolbar.Buttons.size());
+  if (code >= kLeft && code <= kDown) {
+    const int step = code == kRight || code == kDown ? 1 : -1;
+    toolbar.Current = std::max(1, std::min(count, toolbar.Current + step));
+    return true;
+  }
+  if ((code != kSpace && code != kReturn) || toolbar.Current > count) return false;
+  const Toolbar::Button& button = toolbar.Buttons[static_cast<std::size_t>(toolbar.Current()) - 1];
+  if (button.Enabled) PressToolButton(toolbar, String(button.Key));
+  return true;
+}
+
 bool RaiseKey(TextBox& box, const char* event, const std::function<void(KeyEvent&)>& handler, KeyEvent& key) {
   if (handler) Dispatch(box, event, [&] { handler(key); });
   return key.Code != 0;
@@ -92,6 +106,9 @@ bool MoveFocus(Control& control) {
   if (former == &control) return true;
   const int messages = platform.MessagesShown();
   form.ActiveControl = &control;
+  for (Control* const toolbar : {former, &control}) {
+    if (toolbar != nullptr && toolbar->Type == Kind::Toolbar) MarkChanged(*toolbar);  // the ring comes and goes
+  }
   platform.Tools().Focus(control);
   if (former != nullptr) {
     ++platform.LosingFocus;
@@ -100,7 +117,8 @@ bool MoveFocus(Control& control) {
   }
   if (platform.MessagesShown() != messages || form.Released || !form.Visible) return false;
   if (form.ActiveControl == &control) RaiseEvent(control, "GotFocus", control.GotFocus);
-  return IsUsable(control);
+  const auto& controls = form.Controls();
+  return std::find(controls.begin(), controls.end(), &control) != controls.end() && IsUsable(control);
 }
 
 bool Press(Control& control) {
@@ -115,9 +133,12 @@ void Activate(Control& control) {
   } else if (control.Type == Kind::OptionButton) {
     static_cast<OptionButton&>(control).SetOn();
   }
+  // The handler may unload the control.
+  const std::shared_ptr<Form> held = control.Owner.shared_from_this();
+  const bool handled = control.Click != nullptr;
   RaiseEvent(control, "Click", control.Click);
   // What a click without a handler changed still has to reach the screen.
-  if (!control.Click && control.Owner.Screen().HandlerDepth == 0) control.Owner.Screen().SyncAll();
+  if (!handled && held->Screen().HandlerDepth == 0) held->Screen().SyncAll();
 }
 
 void SelectRow(Control& list, int index) {
@@ -198,6 +219,7 @@ bool ControlKey(Control& control, int code, int shift) {
     case Kind::ImageCombo:
     case Kind::TabStrip: return RowKey(control, code);
     case Kind::VScrollBar: return BarKey(static_cast<VScrollBar&>(control), code);
+    case Kind::Toolbar: return ToolbarKey(static_cast<Toolbar&>(control), code);
     default: return false;
   }
 }

@@ -16,6 +16,22 @@ void Remove(std::vector<T>& from, T what) {
 
 constexpr int kCritical = 16;
 
+// A form's place among the modal calls that are running, given back however the call ends.
+class ModalCall {
+ public:
+  ModalCall(std::vector<Form*>& calls, Form& form) : calls_(calls), form_(&form) { calls_.push_back(form_); }
+  ModalCall(const ModalCall&) = delete;
+  ModalCall& operator=(const ModalCall&) = delete;
+  ~ModalCall() {
+    const auto call = std::find(calls_.rbegin(), calls_.rend(), form_);
+    if (call != calls_.rend()) calls_.erase(std::next(call).base());
+  }
+
+ private:
+  std::vector<Form*>& calls_;
+  Form* const form_;
+};
+
 }  // namespace
 
 String HandlerName(const Form& form, const String& control, const char* event) {
@@ -46,15 +62,13 @@ void Platform::ShowModal(Form& form) {
   form.Visible = true;
   Remove(shownOrder_, &form);
   shownOrder_.push_back(&form);
-  modal_.push_back(&form);
+  const ModalCall call(modal_, form);
   if (form.ActiveControl == nullptr) form.ActiveControl = NextInTabOrder(form, false);
   form.Activate();
   if (hidden && Trace.Shown) Trace.Shown(form, true);
   SyncAll();
   toolkit_->Show(form, true);
   toolkit_->RunModal(form);
-  const auto call = std::find(modal_.rbegin(), modal_.rend(), &form);
-  if (call != modal_.rend()) modal_.erase(std::next(call).base());
 }
 
 void Platform::Hide(Form& form) {

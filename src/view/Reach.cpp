@@ -102,6 +102,8 @@ bool TakesFocus(const Control& control) {
   }
 }
 
+bool TakesTab(const Control& control) { return TakesFocus(control) || control.Type == Kind::Toolbar; }
+
 String Refusal(const Control& control) {
   const Form& form = control.Owner;
   if (!IsOnScreen(control)) return "hidden";
@@ -138,7 +140,7 @@ std::vector<Control*> ChildrenOf(const Form& form, const Control* container) {
 Control* NextInTabOrder(const Form& form, bool back) {
   std::vector<Control*> stops;
   for (Control* control : form.Controls()) {
-    if (control->TabIndex >= 0 && TakesFocus(*control)) stops.push_back(control);
+    if (control->TabIndex >= 0 && TakesTab(*control)) stops.push_back(control);
   }
   std::stable_sort(stops.begin(), stops.end(), [](const Control* a, const Control* b) {
     return a->TabIndex != b->TabIndex ? a->TabIndex < b->TabIndex : a->Index < b->Index;

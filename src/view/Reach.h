@@ -27,7 +27,8 @@ Rect VisiblePlace(const Control& control);
 bool IsOnScreen(const Control& control);  // it and all it stands in are visible
 bool IsUsable(const Control& control);    // and enabled
 bool IsCovered(const Control& control);   // a panel stands in front of it or of what it stands in
-bool TakesFocus(const Control& control);  // by its kind
+bool TakesFocus(const Control& control);  // by its kind, from a press
+bool TakesTab(const Control& control);    // Tab also goes to toolbars, whose buttons a press leaves without the focus
 
 // Why a person can't act on the control now: "hidden", "disabled", "covered", "blocked by a modal form"; empty: can.
 String Refusal(const Control& control);

@@ -74,9 +74,9 @@ TEST(AttScoreWalk, HasTheValueAtEachPointToo) {
 WizardData Line(Double low, Double high) { return ModelWith(CurveThrough({low, high}, {0, 1}), low, high); }
 
 TEST(AttScore, IsTheFirstStepWhoseValueComesWithinTheTolerance) {
-  // Steps of 0.01 with 0.0001 of value each: the step before 50 is near enough already.
-  EXPECT_NEAR(GetAttScore(Line(0, 100), 0, 0.5F), 49.99F, 0.011F);
-  EXPECT_LT(GetAttScore(Line(0, 100), 0, 0.5F), 50.0F);
+  // Steps of 0.01 with 0.0001 of value each: 50 is half a step too low, and near enough.
+  EXPECT_NEAR(GetAttScore(Line(0, 100), 0, 0.50005F), 50.0F, 1e-4F);
+  EXPECT_NEAR(GetAttScore(Line(0, 100), 0, 0.50015F), 50.01F, 1e-4F);
 }
 
 TEST(AttScore, StartsOneStepBehindTheFirstPoint) {
@@ -88,7 +88,7 @@ TEST(AttScore, StartsOneStepBehindTheFirstPoint) {
 
 TEST(AttScore, StartsAtTheCurveAndNotAtTheScale) {
   const WizardData model = ModelWith(CurveThrough({40, 100}, {0, 1}), 0.0, 100.0);
-  EXPECT_EQ(GetAttScore(model, 0, 0.0F), 40.01F);
+  EXPECT_EQ(GetAttScore(model, 0, static_cast<Single>(0.01 / 60.0)), 40.01F);
 }
 
 TEST(AttScore, ATargetThatASteepCurveJumpsOverGivesHalfTheRange) {

@@ -121,13 +121,13 @@ TEST(AttValueFunc, GoesOnOutsideTheScale) {
 TEST(AttValueFunc, ScaleAndScoreAreRoundedToFourDecimalsFirst) {
   // 0.00004 counts as 0 and 1.00004 as 1.
   EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0.00004, 1.00004), 0, 0.5F), 0.5);
-  // 0.12345 as a Single is a little less, so 0.1234; as the Double it would be a tie and even too.
-  EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0, 1), 0, 0.12345F), 0.1234);
+  // 0.12345 as a Single is a little more; the Double would be a tie that goes to 0.1234.
+  EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0, 1), 0, 0.12345F), 0.1235);
   EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0, 1), 0, 0.00004F), 0.0);
 }
 
 TEST(AttValueFunc, TiesGoToTheEvenFourthDecimal) {
-  // 1/16 of a scale of 200 at 0.0125: exactly half of the fourth decimal in the quotient 0.00625/...: 0.00025, 0.00075.
+  // 0.00025 and 0.00075.
   EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0, 20000), 0, 5.0F), 0.0002);
   EXPECT_EQ(GetAttValueFunc(FormulaModel(0, 0, 0, 0, 20000), 0, 15.0F), 0.0008);
 }

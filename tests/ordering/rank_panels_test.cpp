@@ -637,8 +637,8 @@ TEST(Scrolling, BothNotificationsMoveTheContentUp) {
   ReferenceControls& b = o.Form->BReference;
   ReferenceControls& c = o.Form->CReference;
   const std::pair<VScrollBar*, PictureBox*> pairs[] = {
-      {&o.B.vsrAtt, &o.B.picAttPLst},       {&o.C.vsrAtt, &o.C.picAttPLst},     {&o.B.vsrOrder, &o.B.picOrderCon},
-      {&o.C.vsrOrder, &o.C.picOrderCon},    {&b.Rows.vsrO, &b.Rows.picOP},      {&c.Rows.vsrO, &c.Rows.picOP}};
+      {&o.B.vsrAtt, &o.B.picAttPLst},    {&o.C.vsrAtt, &o.C.picAttPLst}, {&o.B.vsrOrder, &o.B.picOrderCon},
+      {&o.C.vsrOrder, &o.C.picOrderCon}, {&b.Rows.vsrO, &b.Rows.picOP},  {&c.Rows.vsrO, &c.Rows.picOP}};
   for (const auto& [bar, content] : pairs) {
     Input::ScrollTo(*bar, 130, false);
     EXPECT_EQ(content->Top(), -130.0F) << bar->Name;

@@ -147,7 +147,7 @@ TEST(HostCalls, MayComeInsideModalStepsAndShowAgain) {
 TEST(Calls, AskTheValueCurves) {
   const Played played = Play("host load model.kst\ncall GetAttValue 0 25.5\ncall GetAttValueFunc 0 25\ncall GetAttScore 3 0.5");
   ASSERT_EQ(played.Status, 0) << played.Errors;
-  EXPECT_EQ(played.Out[2], R"({"call":"GetAttValue","value":0.255})");
+  EXPECT_EQ(played.Out[2], R"({"call":"GetAttValue","value":0.2549999952316284})");
   EXPECT_EQ(played.Out[3], R"({"call":"GetAttValueFunc","value":0.25})");
   EXPECT_EQ(played.Out[4].substr(0, 30), R"({"call":"GetAttScore","value":)");
 }

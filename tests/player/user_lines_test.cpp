@@ -174,13 +174,21 @@ TEST(Grab, NeedsASourceAndOnlyOneDragAtATime) {
   }
 }
 
-TEST(Over, EntersThenStaysOver) {
-  EXPECT_EQ(Ordering("click cmdAdd\ngrab cmdAttA(0)\nover picOrder(0)\nget picOrder(0).Drawing\nover picOrder(1)\n"
-                     "get picOrder(0).Drawing\ndrop\nget picOrder(1).Drawing\nget cmdAttB(0).Top"),
-            (Lines{R"({"get":"picOrder(0).Drawing","value":[{"line":[100,60,)" +
-                       Ordering("grab cmdAttA(0)\nover picOrder(0)\nget picOrder(0).Drawing")[0].substr(57),
-                   R"({"get":"picOrder(0).Drawing","value":[]})", R"({"get":"picOrder(1).Drawing","value":[]})",
-                   R"({"get":"cmdAttB(0).Top","value":815})"}));
+TEST(Over, EntersATargetAndLeavesTheFormerOne) {
+  const String first = "get picOrder(0).Drawing\n";
+  const String second = "get picOrder(1).Drawing\n";
+  Session session(ModelOf(2, 2));
+  session.Given(String(kOpenOrdering) + "click cmdAdd");
+  const Lines drawings = session.Ask("grab cmdAttA(0)\n" + first + "over picOrder(0)\n" + first + "over picOrder(0)\n" + first +
+                                     "over picOrder(1)\n" + first + second + "drop\n" + second + "get cmdAttB(0).Top");
+  ASSERT_EQ(drawings.size(), 7U);
+  EXPECT_EQ(drawings[0], "[]");
+  EXPECT_EQ(Json::parse(drawings[1]).size(), 3U);
+  EXPECT_EQ(drawings[2], drawings[1]);
+  EXPECT_EQ(drawings[3], "[]");
+  EXPECT_EQ(drawings[4], drawings[1]);
+  EXPECT_EQ(drawings[5], "[]");
+  EXPECT_EQ(drawings[6], "815");
 }
 
 TEST(Over, NeedsADragAndATargetThatTakesOne) {

@@ -8,8 +8,7 @@
 namespace Tarnwise {
 namespace {
 
-constexpr const char* kDirectText =
-    "Give attribute weights by directly presenting ranges of the weight ratios ";
+constexpr const char* kDirectText = "Give attribute weights by directly presenting ranges of the weight ratios ";
 constexpr const char* kTradeOffsText =
     "Elict attribute weights by numerical trade-off between two random alternatives. The weight will be infered by "
     "ratio value judgments.";

@@ -11,7 +11,9 @@ namespace Tarnwise {
 TestScreen::TestScreen() {
   Tools->Pump = [this] { return Step(); };
   PlatformTrace& trace = Screen->Trace;
-  trace.Shown = [this](const Form& form, bool modal) { Notes.push_back("show " + form.Name + (modal ? " modal" : "")); };
+  trace.Shown = [this](const Form& form, bool modal) {
+    Notes.push_back("show " + form.Name + (modal ? " modal" : ""));
+  };
   trace.Hidden = [this](const Form& form) { Notes.push_back("hide " + form.Name); };
   trace.Released = [this](const Form& form) { Notes.push_back("release " + form.Name); };
   trace.MessageBox = [this](const String& text, int, const String&) { Notes.push_back("msgbox " + text); };

@@ -1,5 +1,6 @@
 #include "TradeOffs.h"
 
+#include "runtime/Numbers.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -352,6 +353,8 @@ TEST(DragIcons, NameTheAlternativeInTheHostsFolder) {
   step.Screen->Drag.Over(step.Form->Chart.picPCGraph, 20.0F, 20.0F);
   EXPECT_EQ(a.DragIcon(), "C:/KESTA\\adrag.ico");
   step.Screen->Drag.Over(step.Form->Chart.picTradeOffsRange, 20.0F, 20.0F);
+  EXPECT_EQ(a.DragIcon(), "C:/KESTA\\adrag.ico") << "where the drop counts too";
+  step.Screen->Drag.OverNothing();
   EXPECT_NE(a.DragIcon(), "C:/KESTA\\adrag.ico") << "left";
   step.Screen->Drag.Cancel();
   PictureBox& b = step.Form->Chart.shpPCB;

@@ -127,12 +127,12 @@ TEST(SuggestionBelowOne, StandsAtTheMiddleWithAAThirdFartherThanB) {
 
 TEST(SuggestionBelowOne, HasNoLoopEvenWhereTheSecondValueLeavesTheScale) {
   WizardData data = Pair();
-  GiveCurve(data, 1, {0, 50, 100}, {0, 0.95, 1});
+  GiveCurve(data, 1, {0}, {0.95});
   SuggestABPoints(data, 0, 1, 0.9);
   const ABPoint& p = data.ABPoints2[0];
   EXPECT_EQ(p.AX, 65.0F);
   EXPECT_EQ(p.BX, 50.0F);
-  // 0.95 + 0.135 is above the curve's top: half the range.
+  // 0.95 + 0.135 is a value that the curve has nowhere: half the range.
   EXPECT_EQ(p.BY, 50.0F);
 }
 

@@ -264,6 +264,15 @@ TEST(ChosenTarget, ShowsItsPairWithEnterAllowed) {
   EXPECT_TRUE(step.EnterAllowed());
 }
 
+TEST(ChosenTarget, IsIgnoredWhileTheFormOpens) {
+  TradeOffStep step(Ward());
+  step.Form->mLoading = 1;
+  step.TakeNotes();
+  step.Choose(5);
+  EXPECT_EQ(step.Form->mTargetAtt, 0);
+  EXPECT_TRUE(step.TakeNotes().empty());
+}
+
 TEST(ChosenTarget, CanBeEnteredWhateverItsState) {
   WizardData data = Judged(Ward(), kTradeOffsType);
   data.ABPoints2[2] = PointsAt(60, 80, 40, 40);

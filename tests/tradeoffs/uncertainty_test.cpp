@@ -59,6 +59,16 @@ TEST(UncertaintyTools, BothListsStandInOnePlace) {
   EXPECT_EQ(step.U().lblSmallChange.Caption(), "Small change:");
 }
 
+TEST(UncertaintyTools, ADropEndsTheUncertaintyButNotTheLock) {
+  UncertainStep step;
+  step.Press(step.U().tbMovUp, "MovUp");
+  step.MoveA(60, 40);
+  EXPECT_EQ(step.Points().AOrientation, 0);
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{false, false, true, true}));
+  step.Press(step.U().tbCertain, "Certain");
+  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+}
+
 TEST(UncertaintyTools, AnotherTargetUnlocksThem) {
   UncertainStep step;
   step.Press(step.U().tbMovUp, "MovUp");
@@ -232,10 +242,12 @@ TEST(UncertaintyCommit, StoresTheEndsAndTheRatioAtA) {
   UncertainStep step;
   step.MoveA(60, 40);
   step.MoveB(20, 90);
+  Input::SelectRow(step.U().cmbChangeV, 2);
   step.Press(step.U().tbMovUp, "MovUp");
   step.Press(step.U().tbMovDown, "MovDown");
   step.Click("cmdEnter");
-  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.1667, 1.25, 1.3333}));
+  // 42 and 38 against 90, over 0.4.
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.2, 1.25, 1.3}));
   EXPECT_EQ(step.Record(0).AOrientation, 2);
   EXPECT_EQ(step.Record(0).ALY, step.Points().ALY);
 }
@@ -323,6 +335,13 @@ TEST(CertainTool, UnlocksBothDirectionsWhereTheRecordIsAPoint) {
   EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
   EXPECT_EQ(step.Points().AOrientation, 0);
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
+}
+
+TEST(CertainTool, LeavesTheTextsOfTheBoxes) {
+  UncertainStep step;
+  step.Press(step.U().tbCertain, "Certain");
+  EXPECT_NE(step.Points().AX, 50.0F);
+  EXPECT_EQ(step.Form->Scores.txtTradeOffAFirstScore.Text(), "50");
 }
 
 TEST(CertainTool, GoesBackToTheLastEnter) {

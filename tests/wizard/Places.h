@@ -31,10 +31,10 @@ struct Wizarding : TestHost {
   // Two benefit attributes on two ranks and two costs on two ranks, each group's first the reference.
   Steps ToOrdering() { return {Shows(), Clicks("cmdNext")}; }
   Steps ToReferences() {
-    return Joined(ToOrdering(), {Drags("cmdAttA(0)", "picOrder(0)"), Clicks("cmdAdd"), Drags("cmdAttA(1)", "picOrder(1)"),
-                                 Drags("cmdAttA1(0)", "picOrder1(0)"), Clicks("cmdAdd1"),
-                                 Drags("cmdAttA1(1)", "picOrder1(1)"), Clicks("cmdNext"), Clicks("cmdAttButtons(0)"),
-                                 Clicks("cmdAttButtons1(0)")});
+    return Joined(ToOrdering(),
+                  {Drags("cmdAttA(0)", "picOrder(0)"), Clicks("cmdAdd"), Drags("cmdAttA(1)", "picOrder(1)"),
+                   Drags("cmdAttA1(0)", "picOrder1(0)"), Clicks("cmdAdd1"), Drags("cmdAttA1(1)", "picOrder1(1)"),
+                   Clicks("cmdNext"), Clicks("cmdAttButtons(0)"), Clicks("cmdAttButtons1(0)")});
   }
   Steps ToJudgments() { return Joined(ToReferences(), {Clicks("cmdNext")}); }
   // Every pair is entered as it is shown, then the reference pair, then the results.
@@ -57,9 +57,7 @@ struct Wizarding : TestHost {
     return model;
   }
   // From stored judgments it is Next all the way.
-  Steps ToStoredJudgments() {
-    return Joined(ToOrdering(), {Clicks("cmdNext"), Clicks("cmdNext")});
-  }
+  Steps ToStoredJudgments() { return Joined(ToOrdering(), {Clicks("cmdNext"), Clicks("cmdNext")}); }
 };
 
 }  // namespace Tarnwise

@@ -8,27 +8,28 @@ namespace {
 
 // All attributes of both groups tie, so there is nothing to judge and the judgment step can't be set up.
 Steps ToAllTied(Wizarding& host) {
-  return Wizarding::Joined(
-      host.ToOrdering(), {host.Drags("cmdAttA(0)", "picOrder(0)"), host.Drags("cmdAttA(1)", "picOrder(0)"),
-                          host.Drags("cmdAttA1(0)", "picOrder1(0)"), host.Drags("cmdAttA1(1)", "picOrder1(0)"),
-                          host.Clicks("cmdNext"), host.Clicks("cmdAttButtons(0)"), host.Clicks("cmdAttButtons1(0)")});
+  return Wizarding::Joined(host.ToOrdering(),
+                           {host.Drags("cmdAttA(0)", "picOrder(0)"), host.Drags("cmdAttA(1)", "picOrder(0)"),
+                            host.Drags("cmdAttA1(0)", "picOrder1(0)"), host.Drags("cmdAttA1(1)", "picOrder1(0)"),
+                            host.Clicks("cmdNext"), host.Clicks("cmdAttButtons(0)"), host.Clicks("cmdAttButtons1(0)")});
 }
 
 TEST(Faults, AModelInWhichAllTieEndsOverTheOrderingStep) {
   Wizarding host(Wizarding::Model());
   host.Load();
   bool asked = false;
-  host.Run(Wizarding::Joined(ToAllTied(host), {[&] { host.TakeNotes(); }, host.Clicks("cmdNext"), [&] {
-                                                 EXPECT_EQ(host.Notes,
-                                                           Lines({"hide frmIniImpOrder", "pointer 11",
-                                                                  "release frmDirectB", "show frmIniImpOrder",
-                                                                  "pointer 0", "error 9 in frmDirectB.Form_Load"}));
-                                                 EXPECT_EQ(host.Active(), "frmIniImpOrder");
-                                                 EXPECT_EQ(host.Forms(), Lines({"frmTRNSelMethod", "frmIniImpOrder"}));
-                                                 EXPECT_EQ(host.Screen->Pointer(), 0);
-                                                 EXPECT_EQ(host.Named("frmIniImpOrder").Visible(), true);
-                                                 asked = true;
-                                               }}));
+  host.Run(Wizarding::Joined(
+      ToAllTied(host), {[&] { host.TakeNotes(); }, host.Clicks("cmdNext"),
+                        [&] {
+                          EXPECT_EQ(host.Notes,
+                                    Lines({"hide frmIniImpOrder", "pointer 11", "release frmDirectB",
+                                           "show frmIniImpOrder", "pointer 0", "error 9 in frmDirectB.Form_Load"}));
+                          EXPECT_EQ(host.Active(), "frmIniImpOrder");
+                          EXPECT_EQ(host.Forms(), Lines({"frmTRNSelMethod", "frmIniImpOrder"}));
+                          EXPECT_EQ(host.Screen->Pointer(), 0);
+                          EXPECT_EQ(host.Named("frmIniImpOrder").Visible(), true);
+                          asked = true;
+                        }}));
   EXPECT_TRUE(asked) << "the ordering step blocks on";
 }
 
@@ -36,13 +37,14 @@ TEST(Faults, AfterTheFaultTheUserCanGoBackAndRankOtherwise) {
   Wizarding host(Wizarding::Model());
   host.Load();
   bool asked = false;
-  host.Run(Wizarding::Joined(ToAllTied(host), {host.Clicks("cmdNext"), host.Clicks("cmdBack"), host.Clicks("cmdAdd"),
-                                               host.Drags("cmdAttB(1)", "picOrder(1)"), host.Clicks("cmdNext"),
-                                               host.Clicks("cmdNext"), [&] {
-                                                 EXPECT_EQ(host.Active(), "frmDirectB");
-                                                 asked = true;
-                                               },
-                                               host.Clicks("cmdBack"), host.Clicks("cmdCancel")}));
+  host.Run(Wizarding::Joined(ToAllTied(host),
+                             {host.Clicks("cmdNext"), host.Clicks("cmdBack"), host.Clicks("cmdAdd"),
+                              host.Drags("cmdAttB(1)", "picOrder(1)"), host.Clicks("cmdNext"), host.Clicks("cmdNext"),
+                              [&] {
+                                EXPECT_EQ(host.Active(), "frmDirectB");
+                                asked = true;
+                              },
+                              host.Clicks("cmdBack"), host.Clicks("cmdCancel")}));
   EXPECT_TRUE(asked);
   EXPECT_TRUE(host.Screen->Forms().empty());
 }
@@ -64,7 +66,8 @@ TEST(Faults, MoreAttributesThanTheModelHoldsEndOverTheFirstStep) {
   Wizarding host(model);
   host.Load();
   bool asked = false;
-  host.Run({host.Shows(), [&] { host.TakeNotes(); }, host.Clicks("cmdNext"), [&] {
+  host.Run({host.Shows(), [&] { host.TakeNotes(); }, host.Clicks("cmdNext"),
+            [&] {
               EXPECT_EQ(host.Notes, Lines({"hide frmTRNSelMethod", "release frmIniImpOrder", "show frmTRNSelMethod",
                                            "error 9 in frmIniImpOrder.Form_Load"}));
               EXPECT_EQ(host.Active(), "frmTRNSelMethod");
@@ -88,16 +91,17 @@ TEST(Faults, InAHandlerEndTheHandlerAndNothingElse) {
   Wizarding host(Wizarding::Model());
   host.Load();
   bool asked = false;
-  host.Run(Wizarding::Joined(host.ToReferences(), {[&] {
-                               host.TakeNotes();
-                               mdTRNMain().AttributeList.AttName.Allocate(0);
-                               host.Click("cmdAttButtons(1)");
-                               EXPECT_EQ(host.Notes, Lines({"error 9 in frmIniImpOrder.cmdAttButtons_Click"}));
-                               EXPECT_EQ(host.Active(), "frmIniImpOrder");
-                               EXPECT_EQ(host.Screen->HandlerDepth, 1) << "only the one that shows the form";
-                               asked = true;
-                             },
-                             host.Clicks("cmdCancel")}));
+  host.Run(Wizarding::Joined(host.ToReferences(),
+                             {[&] {
+                                host.TakeNotes();
+                                mdTRNMain().AttributeList.AttName.Allocate(0);
+                                host.Click("cmdAttButtons(1)");
+                                EXPECT_EQ(host.Notes, Lines({"error 9 in frmIniImpOrder.cmdAttButtons_Click"}));
+                                EXPECT_EQ(host.Active(), "frmIniImpOrder");
+                                EXPECT_EQ(host.Screen->HandlerDepth, 1) << "only the one that shows the form";
+                                asked = true;
+                              },
+                              host.Clicks("cmdCancel")}));
   EXPECT_TRUE(asked);
   EXPECT_TRUE(host.Screen->Forms().empty());
 }
@@ -117,14 +121,14 @@ TEST(Faults, OfTheHostAsRunTimeErrorsAreToldLikeTheWizardsOwn) {
     if (event == "ExportDirectBW") throw RuntimeError(13);
   };
   bool asked = false;
-  host.Run(Wizarding::Joined(host.ToStoredJudgments(), {[&] { host.TakeNotes(); }, host.Clicks("cmdFinish"), [&] {
-                                                          EXPECT_EQ(host.Notes,
-                                                                    Lines({"pointer 11", "export DEA_DIRECT",
-                                                                           "pointer 0",
-                                                                           "error 13 in frmDirectB.cmdFinish_Click"}));
-                                                          EXPECT_EQ(host.Active(), "frmDirectB");
-                                                          asked = true;
-                                                        }}));
+  host.Run(Wizarding::Joined(host.ToStoredJudgments(),
+                             {[&] { host.TakeNotes(); }, host.Clicks("cmdFinish"),
+                              [&] {
+                                EXPECT_EQ(host.Notes, Lines({"pointer 11", "export DEA_DIRECT", "pointer 0",
+                                                             "error 13 in frmDirectB.cmdFinish_Click"}));
+                                EXPECT_EQ(host.Active(), "frmDirectB");
+                                asked = true;
+                              }}));
   EXPECT_TRUE(asked);
 }
 
@@ -161,8 +165,9 @@ TEST(Faults, ArePrintedByTheSessionPlayer) {
 
 TEST(Faults, OfAHostsCallArePrintedAsOfThatMethod) {
   Session s(ModelOf(2, 2));
-  EXPECT_EQ(s.Play(R"(host points {"AX":[1]})"),
-            Lines({R"({"runtime_error":9,"description":"Subscript out of range","in":"TRN_DEA.TranferABCoordinates"})"}));
+  EXPECT_EQ(
+      s.Play(R"(host points {"AX":[1]})"),
+      Lines({R"({"runtime_error":9,"description":"Subscript out of range","in":"TRN_DEA.TranferABCoordinates"})"}));
   EXPECT_EQ(s.Play("host load model.kst C:/KESTA 40000"),
             Lines({R"({"runtime_error":6,"description":"Overflow","in":"TRN_DEA.GetCurFileData"})"}));
 }

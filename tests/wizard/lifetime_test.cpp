@@ -246,11 +246,11 @@ TEST(Lifetime, NothingIsLeftBehindByAnObjectThatWasNeverUnloaded) {
     Wizarding host(Wizarding::Judged());
     host.Load();
     host.Run(Wizarding::Joined(host.ToStoredJudgments(), {[&] {
-                                 method = host.Screen->Forms().at(0)->shared_from_this();
-                                 ordering = host.Screen->Forms().at(1)->shared_from_this();
-                                 direct = host.Screen->Forms().at(2)->shared_from_this();
-                               },
-                               [&] { host.Wizard.reset(); }}));
+                                                            method = host.Screen->Forms().at(0)->shared_from_this();
+                                                            ordering = host.Screen->Forms().at(1)->shared_from_this();
+                                                            direct = host.Screen->Forms().at(2)->shared_from_this();
+                                                          },
+                                                          [&] { host.Wizard.reset(); }}));
     EXPECT_TRUE(method.expired());
     EXPECT_TRUE(ordering.expired());
     EXPECT_TRUE(direct.expired());
@@ -266,8 +266,9 @@ TEST(Lifetime, AStepLivesAsLongAsItsHandlerRuns) {
     host.Wizard->UnloadTarnwise();
     EXPECT_FALSE(direct.expired());
   };
-  host.Run(Wizarding::Joined(host.ToStoredJudgments(),
-                             {[&] { direct = host.Screen->Forms().at(2)->shared_from_this(); }, host.Clicks("cmdFinish")}));
+  host.Run(
+      Wizarding::Joined(host.ToStoredJudgments(),
+                        {[&] { direct = host.Screen->Forms().at(2)->shared_from_this(); }, host.Clicks("cmdFinish")}));
   EXPECT_TRUE(direct.expired());
 }
 

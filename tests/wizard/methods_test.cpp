@@ -181,8 +181,8 @@ TEST(ShowTarnwise, ShowsTheFirstStepInTheMiddleOfTheScreenAndReturns) {
   host.Load();
   host.TakeNotes();
   host.Wizard->ShowTarnwise();
-  EXPECT_EQ(host.Notes, Lines({"say Select a method to make value judgments between the attributes.",
-                               "show frmTRNSelMethod"}));
+  EXPECT_EQ(host.Notes,
+            Lines({"say Select a method to make value judgments between the attributes.", "show frmTRNSelMethod"}));
   const Form& form = *host.Screen->Forms().at(0);
   EXPECT_EQ(form.Left(), (host.Tools->ScreenWidth() - form.Width) / 2.0F);
   EXPECT_EQ(form.Top(), (host.Tools->ScreenHeight() - form.Height) / 2.0F);
@@ -238,8 +238,8 @@ TEST(UnloadTarnwise, HidesThenReleasesInTheTwoOrders) {
       host.Wizard->UnloadTarnwise();
     });
     host.Run(steps);
-    const Lines direct = {"hide frmIniImpOrder", "hide frmTRNSelMethod", "hide frmDirectB", "release frmTRNSelMethod",
-                          "release frmDirectB", "release frmIniImpOrder"};
+    const Lines direct = {"hide frmIniImpOrder",     "hide frmTRNSelMethod", "hide frmDirectB",
+                          "release frmTRNSelMethod", "release frmDirectB",   "release frmIniImpOrder"};
     const Lines tradeOffs = {"hide frmIniImpOrder",     "hide frmTradeOffsB",     "hide frmTRNSelMethod",
                              "release frmTRNSelMethod", "release frmIniImpOrder", "release frmTradeOffsB"};
     EXPECT_EQ(host.Notes, approach == 0 ? direct : tradeOffs);

@@ -55,15 +55,16 @@ TEST(Navigation, BackOfTheOrderingStepReleasesItAndThenShowsTheFirst) {
 TEST(Navigation, NextBackNextKeepsTheFirstStepAndMakesTheOrderingStepAnew) {
   Navigation n;
   const Form* method = nullptr;
-  String row;
+  bool asked = false;
   n.Run(Wizarding::Joined(n.ToOrdering(), {[&] { method = n.Screen->Forms().at(0); }, n.Clicks("cmdAdd"),
-                                           n.Clicks("cmdBack"), n.Clicks("cmdNext"), [&] {
+                                           n.Clicks("cmdBack"), n.Clicks("cmdNext"),
+                                           [&] {
                                              EXPECT_EQ(n.Screen->Forms().at(0), method);
                                              EXPECT_EQ(n.Screen->Forms().at(1)->CountOf("picOrder"), 1);
                                              EXPECT_EQ(n.Active(), "frmIniImpOrder");
-                                             row = "seen";
+                                             asked = true;
                                            }}));
-  EXPECT_EQ(row, "seen");
+  EXPECT_TRUE(asked);
   EXPECT_EQ(Only(n.Notes, kSaysMethod).size(), 1U);
   EXPECT_EQ(Only(n.Notes, kSaysOrder).size(), 2U);
 }
@@ -172,15 +173,16 @@ TEST(Cancel, LeavesAllStepsInPlaceUntilTheHostAnswers) {
   Navigation n;
   n.Answers = false;
   bool asked = false;
-  n.Run(Wizarding::Joined(n.ToJudgments(), {[&n] { n.TakeNotes(); }, n.Clicks("cmdCancel"), [&n] { n.Close(); }, [&] {
-                                              EXPECT_EQ(n.Notes, Lines(2, "unload 3 cancelled"));
-                                              EXPECT_EQ(n.Forms(), Lines({"frmTRNSelMethod", "frmIniImpOrder",
-                                                                          "frmDirectB"}));
-                                              EXPECT_EQ(n.Active(), "frmDirectB");
-                                              n.Wizard->UnloadTarnwise();
-                                              EXPECT_TRUE(n.Screen->Forms().empty());
-                                              asked = true;
-                                            }}));
+  n.Run(Wizarding::Joined(n.ToJudgments(),
+                          {[&n] { n.TakeNotes(); }, n.Clicks("cmdCancel"), [&n] { n.Close(); },
+                           [&] {
+                             EXPECT_EQ(n.Notes, Lines(2, "unload 3 cancelled"));
+                             EXPECT_EQ(n.Forms(), Lines({"frmTRNSelMethod", "frmIniImpOrder", "frmDirectB"}));
+                             EXPECT_EQ(n.Active(), "frmDirectB");
+                             n.Wizard->UnloadTarnwise();
+                             EXPECT_TRUE(n.Screen->Forms().empty());
+                             asked = true;
+                           }}));
   EXPECT_TRUE(asked);
 }
 
@@ -266,18 +268,19 @@ TEST(Help, OfEveryStepOpensTheSamePage) {
 TEST(Session, PrintsTheRoadThroughTheDirectApproach) {
   Session s(Wizarding::Judged());
   s.Given("host show\nclick cmdNext\nclick cmdNext");
-  EXPECT_EQ(s.Play("forms\nclick cmdNext\nclick cmdNext\nget cmdFinish.Enabled\nclick cmdFinish\nforms"),
-            Lines({R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},)"
-                   R"({"name":"frmIniImpOrder","visible":true,"modal":true}]})",
-                   R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})",
-                   R"({"event":"SendMasseges","Msg":" Indicate a value reference region on the two selected attributes."})",
-                   R"({"pointer":0})", R"({"show":"frmDirectB","modal":true})",
-                   R"({"get":"cmdFinish.Enabled","value":true})", R"({"pointer":11})",
-                   R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":2,"RefAttWR":1.5,)"
-                   R"("Weights":[1,0.5,1,0.5],"WeightsH":[1.125,0.625,1.125,0.625],"WeightsL":[0.875,0.375,0.875,0.375]})",
-                   R"({"pointer":0})", R"({"event":"UnloadTarnwise","fIndex":3,"WeightsDone":true})",
-                   R"({"hide":"frmDirectB"})", R"({"release":"frmTRNSelMethod"})", R"({"release":"frmDirectB"})",
-                   R"({"release":"frmIniImpOrder"})", R"({"forms":[]})"}));
+  EXPECT_EQ(
+      s.Play("forms\nclick cmdNext\nclick cmdNext\nget cmdFinish.Enabled\nclick cmdFinish\nforms"),
+      Lines({R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},)"
+             R"({"name":"frmIniImpOrder","visible":true,"modal":true}]})",
+             R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})",
+             R"({"event":"SendMasseges","Msg":" Indicate a value reference region on the two selected attributes."})",
+             R"({"pointer":0})", R"({"show":"frmDirectB","modal":true})", R"({"get":"cmdFinish.Enabled","value":true})",
+             R"({"pointer":11})",
+             R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":2,"RefAttWR":1.5,)"
+             R"("Weights":[1,0.5,1,0.5],"WeightsH":[1.125,0.625,1.125,0.625],"WeightsL":[0.875,0.375,0.875,0.375]})",
+             R"({"pointer":0})", R"({"event":"UnloadTarnwise","fIndex":3,"WeightsDone":true})",
+             R"({"hide":"frmDirectB"})", R"({"release":"frmTRNSelMethod"})", R"({"release":"frmDirectB"})",
+             R"({"release":"frmIniImpOrder"})", R"({"forms":[]})"}));
   EXPECT_EQ(s.Status(), 0);
 }
 

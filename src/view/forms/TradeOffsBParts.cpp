@@ -148,6 +148,7 @@ ScoreControls::ScoreControls(Form& form, Control& tools)
     Toolbar& changer = i == 0 ? tbScoreChanger[0] : tbScoreChanger.Load(i);
     Place(changer, left + 960.0F, top - 22.0F, 840.0F, 420.0F);
     changer.AccessibleName = String("Change the ") + names[i];
+    changer.TabIndex = 50;
   }
   // A mnemonic takes the focus to what follows its label in the tab order.
   for (int i = 0; i < 4; ++i) lblScore[i].TabIndex = 40 + i;
@@ -183,8 +184,12 @@ UncertaintyControls::UncertaintyControls(Form& form, Control& tools)
   Place(cmbChangeV, 4380.0F, 1530.0F, 1380.0F, 375.0F);
   cmbChangeH.AccessibleName = "Small change along the first attribute";
   cmbChangeV.AccessibleName = "Small change along the second attribute";
-  cmbChangeH.TabIndex = 60;
-  cmbChangeV.TabIndex = 61;
+  int tabIndex = 60;
+  for (Toolbar* const toolbar : {&tbMovUp, &tbMovLeft, &tbCertain, &tbMovRight, &tbMovDown}) {
+    toolbar->TabIndex = tabIndex++;
+  }
+  cmbChangeH.TabIndex = tabIndex++;
+  cmbChangeV.TabIndex = tabIndex;
 }
 
 }  // namespace Tarnwise

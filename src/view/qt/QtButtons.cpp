@@ -182,6 +182,10 @@ void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
     tools[i]->setGeometry(upright ? 0 : i * side, upright ? i * side : 0, side, side);
     tools[i]->setIconSize(QSize(side, side) * 5 / 8);
     tools[i]->setEnabled(bar.Buttons[static_cast<std::size_t>(i)].Enabled);
+    // With the keyboard on the bar a ring shows which button it presses.
+    const bool ring = bar.Owner.ActiveControl == &bar && i + 1 == bar.Current;
+    const QString style = ring ? QStringLiteral("border: 2px solid palette(highlight); border-radius: 3px") : QString();
+    if (tools[i]->styleSheet() != style) tools[i]->setStyleSheet(style);
   }
 }
 

@@ -79,6 +79,10 @@ QtForm::QtForm(Form& form, QtToolkit& toolkit)
   Watch(*window_, form);
   SyncWindow();
   for (Control* control : form.Controls()) SyncControl(*control);
+  // Labels once more, as those that they stand for are there now.
+  for (Control* control : form.Controls()) {
+    if (control->Type == Kind::Label) SyncControl(*control);
+  }
   Sync();
 }
 

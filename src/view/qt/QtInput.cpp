@@ -5,6 +5,7 @@
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKeys.h"
+#include "view/qt/QtKinds.h"
 #include "view/qt/QtLifetime.h"
 #include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
@@ -52,16 +53,6 @@ int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
 QPointF InWindow(const QObject& object, const QMouseEvent& event) {
   const auto& widget = static_cast<const QWidget&>(object);
   return widget.mapTo(widget.window(), event.position());
-}
-
-// A label's mnemonic goes to the control that it stands for: the first one behind it in the same container.
-Control* LabelledBy(const Label& label) {
-  bool behind = false;
-  for (Control* control : label.Owner.Controls()) {
-    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
-    if (control == &label) behind = true;
-  }
-  return nullptr;
 }
 
 // Keys that the widget may answer when the tree has no use for them.

@@ -111,6 +111,14 @@ void SetInk(LabelWidget& widget, const QColor& ink) {
   widget.setPalette(palette);
 }
 
+// Qt underlines a mnemonic only where there is a widget that the label stands for.
+void SetBuddy(QtForm& form, const Label& label, LabelWidget& shown) {
+  const Control* const meant = LabelledBy(label);
+  QWidget* const buddy = meant == nullptr ? nullptr : form.WidgetOf(*meant);
+  QWidget* const wanted = buddy != nullptr ? buddy : &form.Window();
+  if (shown.buddy() != wanted) shown.setBuddy(wanted);
+}
+
 QWidget* MakeLabel(QtForm& /*form*/, Control& /*control*/, QWidget& parent) {
   auto* const widget = new LabelWidget(&parent);
   widget->setTextFormat(Qt::PlainText);
@@ -121,7 +129,6 @@ void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   auto& label = static_cast<Label&>(control);
   auto& shown = static_cast<LabelWidget&>(widget);
   const bool lit = label.ForeColor == kHighlightText;
-  // Without a control to go to, an ampersand is shown like any other character.
   const bool marked = Caption(label.Caption).contains('&') && PlainCaption(label.Caption) != Text(label.Caption);
   const QString text = marked ? Caption(label.Caption) : Text(label.Caption);
   const QString plain = PlainCaption(label.Caption);
@@ -141,7 +148,7 @@ void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   shown.Lit = lit;
   shown.Ground = ground;
   SetInk(shown, InkOf(label, widget.window()->palette()));
-  if (marked && shown.buddy() == nullptr) shown.setBuddy(&form.Window());
+  if (marked) SetBuddy(form, label, shown);
   if (news) control.Owner.Screen().Tools().AnnounceChange(control);
 }
 
@@ -168,6 +175,15 @@ void SyncFrame(QtForm& /*form*/, Control& control, QWidget& widget) {
 }
 
 }  // namespace
+
+Control* LabelledBy(const Label& label) {
+  bool behind = false;
+  for (Control* control : label.Owner.Controls()) {
+    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
+    if (control == &label) behind = true;
+  }
+  return nullptr;
+}
 
 const QtKind kQtLabel{MakeLabel, SyncLabel};
 const QtKind kQtImage{MakeImage, SyncImage};

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace Tarnwise {
@@ -25,8 +26,11 @@ std::vector<Grave>& Graves() {
   return graves;
 }
 
+void DigAll();
+
 void Dig() {
   digging = false;
+  qRemovePostRoutine(DigAll);
   std::vector<Grave> ready;
   std::erase_if(Graves(), [&ready](const Grave& grave) {
     if (depth >= grave.Depth) return false;
@@ -36,9 +40,16 @@ void Dig() {
   for (const Grave& grave : ready) delete grave.Object.data();
 }
 
+// The application ends before an event loop could do it.
+void DigAll() {
+  digging = false;
+  for (const Grave& grave : std::exchange(Graves(), {})) delete grave.Object.data();
+}
+
 void DigLater() {
   if (digging || Graves().empty() || qApp == nullptr) return;
   digging = true;
+  qAddPostRoutine(DigAll);
   QTimer::singleShot(0, qApp, Dig);
 }
 

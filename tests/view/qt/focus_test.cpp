@@ -95,6 +95,19 @@ TEST_F(QtFocus, TheCloseButtonAsksTheFormAndLeavesTheWindow) {
   EXPECT_EQ(Joined(form->Log), "close");
 }
 
+TEST_F(QtFocus, ALabelsMnemonicGoesToTheControlBehindIt) {
+  Label label{*form, &form->picRows, "lblName"};
+  TextBox box{*form, &form->picRows, "txtName"};
+  label.Caption = "&Name:";
+  box.TabIndex = 30;
+  Show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  EXPECT_EQ(As<QLabel>(label).buddy(), WidgetOf(box));
+  Key(Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(form->ActiveControl, &box);
+  platform->Release(*form);
+}
+
 TEST_F(QtFocus, AMnemonicPressesOnlyWhatAPersonCanReach) {
   form->cmdGo.Click = [this] { form->Log.push_back("click"); };
   Show();

@@ -1,0 +1,226 @@
+// Automatic drag: what targets are told, by pointer and by keyboard.
+#include "view/Bench.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarnwise {
+namespace {
+
+struct Dragging : Bench {
+  Dragging() {
+    for (int i = 0; i < 4; ++i) NoteDrags(On->picRow[i]);
+  }
+  DragSession& Drag() { return Screen->Drag; }
+  void KeyOn(Control& control, int code, int shift = 0) {
+    Input::MoveFocus(control);
+    TypeKey(*On, code, code == 32 ? 32 : 0, shift);
+  }
+};
+
+TEST(Drag, EntersThenIsOverAndLeavesTheFormerTargetFirst) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Drag().Over(bench.On->picRow[0], 10, 20);
+  bench.Drag().Over(bench.On->picRow[0], 11, 21);
+  bench.Drag().Over(bench.On->picRow[1], 5, 6);
+  EXPECT_EQ(bench.Notes, (Lines{"picRow(0) enter cmdSource 10,20", "picRow(0) over cmdSource 10,20", "picRow(0) over cmdSource 11,21",
+                                "picRow(0) leave cmdSource 11,21", "picRow(1) enter cmdSource 5,6", "picRow(1) over cmdSource 5,6"}));
+}
+
+TEST(Drag, DropsWithoutALeave) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Drag().Over(bench.On->picRow[0], 10, 20);
+  bench.TakeNotes();
+  bench.Drag().Drop();
+  EXPECT_EQ(bench.Notes, Lines{"picRow(0) drop cmdSource 10,20"});
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(Drag, DroppedOverNothingTellsNobody) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Drag().Over(bench.On->picRow[0], 10, 20);
+  bench.Drag().OverNothing();
+  bench.TakeNotes();
+  bench.Drag().Drop();
+  EXPECT_EQ(bench.Notes, Lines{});
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(Drag, GivenUpLeavesItsTarget) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Drag().Over(bench.On->picRow[0], 10, 20);
+  bench.TakeNotes();
+  bench.Drag().Cancel();
+  EXPECT_EQ(bench.Notes, Lines{"picRow(0) leave cmdSource 10,20"});
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(Drag, EndsWithItsSourceOrItsForm) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->picHandle[1]);
+  bench.On->picHandle.Unload(1);
+  EXPECT_FALSE(bench.Drag().Active());
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Screen->Hide(*bench.On);
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(Drag, LosesATargetThatIsUnloaded) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  bench.Drag().Over(bench.On->picRow[3], 1, 1);
+  bench.TakeNotes();
+  bench.On->picRow.Unload(3);
+  bench.Drag().Drop();
+  EXPECT_EQ(bench.Notes, Lines{});
+}
+
+TEST(Drag, GivesThePointInTheScaleOfItsTarget) {
+  Dragging bench;
+  bench.NoteDrags(bench.On->picChart);
+  bench.Drag().Begin(bench.On->picHandle[0]);
+  // The chart begins at 3000 + 150, 500 + 2000 + 150 twips.
+  bench.Drag().OverPoint(3150 + 15 * 100, 2650 + 15 * 50);
+  EXPECT_EQ(bench.Notes[0], "picChart enter picHandle(0) 100,50");
+}
+
+TEST(DragTarget, IsTheTopmostThatTakesDragsUnderThePointer) {
+  Dragging bench;
+  const Rect row = PlaceOnForm(bench.On->picRow[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+  CommandButton button(*bench.On, &bench.On->picContent, "cmdOnRow");
+  Place(button, 0, 0, 2000, 500);
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+  bench.NoteDrags(button);
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &button);
+  button.Visible = false;
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+}
+
+TEST(DragTarget, IsTheContainerWhereNothingInItTakesDrags) {
+  Dragging bench;
+  const Rect chart = PlaceOnForm(bench.On->picChart);
+  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), nullptr);
+  bench.NoteDrags(bench.On->picPanel[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), &bench.On->picPanel[0]);
+  bench.NoteDrags(bench.On->picChart);
+  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), &bench.On->picChart);
+  EXPECT_EQ(DragTargetFor(bench.On->picHandle[0]), &bench.On->picChart);
+  EXPECT_EQ(DragTargetFor(bench.On->lblText), &bench.On->picPanel[0]);
+}
+
+TEST(DragTarget, IsNeverBehindThePanelInFront) {
+  Dragging bench;
+  const Rect row = PlaceOnForm(bench.On->picRow[0]);
+  bench.On->picPanel[1].ZOrder();
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), nullptr);
+  bench.NoteDrags(*bench.On);
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), bench.On.get());
+}
+
+TEST(DragTarget, IsNotWhatAViewportClips) {
+  Dragging bench;
+  const Rect row = PlaceOnForm(bench.On->picRow[3]);
+  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), nullptr);
+  bench.On->picContent.Top = -1800;
+  const Rect scrolled = PlaceOnForm(bench.On->picRow[3]);
+  EXPECT_EQ(DragTargetAt(*bench.On, scrolled.X + 5, scrolled.Y + 5), &bench.On->picRow[3]);
+}
+
+TEST(DragTarget, IsTheFormOutsideItsPanelsAndNothingOutsideTheForm) {
+  Dragging bench;
+  bench.NoteDrags(*bench.On);
+  EXPECT_EQ(DragTargetAt(*bench.On, 50, 50), bench.On.get());
+  EXPECT_EQ(DragTargetAt(*bench.On, 10001, 50), nullptr);
+}
+
+constexpr int kLeft = 37;
+constexpr int kUp = 38;
+constexpr int kRight = 39;
+constexpr int kDown = 40;
+constexpr int kSpace = 32;
+constexpr int kEscape = 27;
+
+TEST(KeyboardDrag, WalksTheTargetsAndDropsWithTheSameNotifications) {
+  Dragging bench;
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  EXPECT_TRUE(bench.Drag().Active());
+  bench.KeyOn(bench.On->cmdSource, kDown);
+  bench.KeyOn(bench.On->cmdSource, kDown);
+  bench.KeyOn(bench.On->cmdSource, kUp);
+  bench.KeyOn(bench.On->cmdSource, kUp);
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  EXPECT_EQ(bench.Notes,
+            (Lines{"picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250", "picRow(0) leave cmdSource 1000,250",
+                   "picRow(1) enter cmdSource 1000,250", "picRow(1) over cmdSource 1000,250", "picRow(1) leave cmdSource 1000,250",
+                   "picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250", "picRow(0) over cmdSource 1000,250",
+                   "picRow(0) drop cmdSource 1000,250"}));
+}
+
+TEST(KeyboardDrag, BeginsAtTheLastTargetByTheUpKey) {
+  Dragging bench;
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kUp);
+  EXPECT_EQ(bench.Notes[0], "picRow(3) enter cmdSource 1000,250");
+}
+
+TEST(KeyboardDrag, GoesAcrossToTheTargetsOfAnotherContainer) {
+  Dragging bench;
+  PictureBox other(*bench.On, &bench.On->picPanel[0], "picOther");
+  Place(other, 8000, 2000, 500, 500);
+  bench.NoteDrags(other);
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kDown);
+  const String first = bench.Drag().Target()->Name;
+  bench.KeyOn(bench.On->cmdSource, kRight);
+  EXPECT_NE(bench.Drag().Target()->Name, first);
+}
+
+TEST(KeyboardDrag, IsGivenUpByEscape) {
+  Dragging bench;
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kDown);
+  bench.TakeNotes();
+  bench.KeyOn(bench.On->cmdSource, kEscape);
+  EXPECT_EQ(bench.Notes, Lines{"picRow(0) leave cmdSource 1000,250"});
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(KeyboardDrag, IsGivenUpByTab) {
+  Dragging bench;
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  TypeKey(*bench.On, 9, 9, 0);
+  EXPECT_FALSE(bench.Drag().Active());
+}
+
+TEST(KeyboardDrag, MovesAHandleByOneUnitOrTen) {
+  Dragging bench;
+  bench.NoteDrags(bench.On->picChart);
+  PictureBox& handle = bench.On->picHandle[0];
+  Place(handle, 100, 60, 6, 6);
+  bench.KeyOn(handle, kSpace);
+  bench.KeyOn(handle, kRight);
+  bench.KeyOn(handle, kDown, 1);
+  bench.KeyOn(handle, kLeft, 1);
+  bench.KeyOn(handle, kUp);
+  EXPECT_EQ(bench.Notes, (Lines{"picChart enter picHandle(0) 104,63", "picChart over picHandle(0) 104,63",
+                                "picChart over picHandle(0) 104,73", "picChart over picHandle(0) 94,73",
+                                "picChart over picHandle(0) 94,72"}));
+}
+
+TEST(KeyboardDrag, KeepsAHandleOnItsChart) {
+  Dragging bench;
+  bench.NoteDrags(bench.On->picChart);
+  PictureBox& handle = bench.On->picHandle[0];
+  Place(handle, 1, 244, 6, 6);
+  bench.KeyOn(handle, kSpace);
+  bench.KeyOn(handle, kLeft, 1);
+  bench.KeyOn(handle, kDown, 1);
+  EXPECT_EQ(bench.Notes.back(), "picChart over picHandle(0) 0,252");
+}
+
+}  // namespace
+}  // namespace Tarnwise

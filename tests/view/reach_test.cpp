@@ -1,0 +1,149 @@
+// Where controls stand, what covers them, and which form takes input.
+#include "view/Bench.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarnwise {
+namespace {
+
+TEST(Place, AddsUpItsContainersInTheirScales) {
+  const Bench bench;
+  Place(bench.On->picHandle[0], 100, 50.5F, 6, 6);
+  const Rect place = PlaceOnForm(bench.On->picHandle[0]);
+  EXPECT_EQ(place.X, 3000.0F + 150.0F + 1500.0F);
+  EXPECT_EQ(place.Y, 2500.0F + 150.0F + 757.5F);
+  EXPECT_EQ(place.W, 90.0F);
+}
+
+TEST(Place, IsSeenAsFarAsTheViewportsLetIt) {
+  const Bench bench;
+  EXPECT_EQ(VisiblePlace(bench.On->picRow[0]).H, 500.0F);
+  EXPECT_EQ(VisiblePlace(bench.On->picRow[3]).H, 0.0F);
+  bench.On->picContent.Top = -300;
+  EXPECT_EQ(VisiblePlace(bench.On->picRow[0]).H, 200.0F);
+}
+
+TEST(Refusal, SaysWhyAPersonCannot) {
+  Bench bench;
+  CommandButton& button = bench.On->cmdGo;
+  EXPECT_EQ(Refusal(button), "");
+  button.Enabled = false;
+  EXPECT_EQ(Refusal(button), "disabled");
+  button.Enabled = true;
+  bench.On->picPanel[0].Enabled = false;
+  EXPECT_EQ(Refusal(button), "disabled");
+  bench.On->picPanel[0].Enabled = true;
+  bench.On->picPanel[0].Visible = false;
+  EXPECT_EQ(Refusal(button), "hidden");
+  bench.On->picPanel[0].Visible = true;
+  bench.On->picPanel[1].ZOrder();
+  EXPECT_EQ(Refusal(button), "covered");
+  EXPECT_EQ(Refusal(bench.On->picRow[0]), "covered");
+  bench.On->picPanel[0].ZOrder();
+  EXPECT_EQ(Refusal(button), "");
+}
+
+TEST(Covering, NeedsAPanelInFrontOfTheWhole) {
+  Bench bench;
+  bench.On->picPanel[1].ZOrder();
+  bench.On->picPanel[1].Visible = false;
+  EXPECT_FALSE(IsCovered(bench.On->cmdGo));
+  bench.On->picPanel[1].Visible = true;
+  bench.On->picPanel[1].Width = 8000;
+  EXPECT_FALSE(IsCovered(bench.On->cmdGo));
+  bench.On->picPanel[1].Width = 9000;
+  EXPECT_TRUE(IsCovered(bench.On->cmdGo));
+}
+
+TEST(Covering, IsNotDoneByLabelsButtonsOrHandles) {
+  Bench bench;
+  Label label(*bench.On, &bench.On->picPanel[0], "lblOver");
+  CommandButton button(*bench.On, &bench.On->picPanel[0], "cmdOver");
+  Place(label, 0, 0, 9000, 6000);
+  Place(button, 0, 0, 9000, 6000);
+  EXPECT_FALSE(IsCovered(bench.On->cmdGo));
+  Place(bench.On->picHandle[0], 10, 10, 6, 6);
+  Place(bench.On->picHandle[1], 0, 0, 100, 100);
+  EXPECT_FALSE(IsCovered(bench.On->picHandle[0]));
+}
+
+TEST(ActiveForm, IsTheInnermostVisibleModalOne) {
+  Bench bench;
+  const auto inner = std::make_shared<BenchForm>(bench.Screen);
+  bench.Screen->Created(*inner);
+  bool asked = false;
+  bench.Run({[&] { bench.Screen->ShowModal(*inner); },
+             [&] {
+               asked = true;
+               EXPECT_EQ(bench.Screen->ActiveForm(), inner.get());
+               EXPECT_EQ(Refusal(bench.On->cmdGo), "blocked by a modal form");
+               EXPECT_TRUE(bench.Screen->IsModal(*inner));
+               EXPECT_FALSE(bench.Screen->IsModal(*bench.On));
+               bench.Screen->Hide(*inner);
+             },
+             [&] {
+               EXPECT_EQ(bench.Screen->ActiveForm(), bench.On.get());
+               EXPECT_FALSE(bench.Screen->IsModal(*inner));
+               EXPECT_EQ(Refusal(bench.On->cmdGo), "");
+             }});
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(bench.StepsLeft());
+  EXPECT_EQ(bench.Notes, (Lines{"show frmBench modal", "hide frmBench"}));
+}
+
+TEST(ModalCall, GoesOnBlockingForAFormThatIsMadeVisibleAgain) {
+  Bench bench;
+  const auto inner = std::make_shared<BenchForm>(bench.Screen);
+  bench.Screen->Created(*inner);
+  bool returned = false;
+  bench.Run({[&] {
+               bench.Screen->ShowModal(*inner);
+               returned = true;
+             },
+             [&] {
+               bench.Screen->Hide(*inner);
+               bench.Screen->Show(*inner);
+             },
+             [&] {
+               EXPECT_FALSE(returned);
+               bench.Screen->Hide(*inner);
+             },
+             [&] { EXPECT_TRUE(returned); }});
+  EXPECT_TRUE(returned);
+  EXPECT_FALSE(bench.StepsLeft());
+}
+
+TEST(Showing, AVisibleFormAgainOrHidingAHiddenOneTellsNothing) {
+  Bench bench;
+  bench.Screen->Show(*bench.On);
+  EXPECT_EQ(bench.Notes, Lines{});
+  bench.Screen->Hide(*bench.On);
+  bench.Screen->Hide(*bench.On);
+  bench.Screen->Release(*bench.On);
+  bench.Screen->Release(*bench.On);
+  EXPECT_EQ(bench.Notes, (Lines{"hide frmBench", "release frmBench"}));
+  EXPECT_EQ(bench.Forms(), Lines{});
+}
+
+TEST(Release, InsideAHandlerOfTheFormLetsTheHandlerEnd) {
+  Bench bench;
+  BenchForm* const form = bench.On.get();
+  form->cmdGo.Click = [&bench, form] {
+    bench.Screen->Release(*form);
+    bench.On.reset();
+    form->lblText.Caption = "still there";
+    bench.Notes.push_back(form->lblText.Caption);
+  };
+  bench.Click("cmdGo");
+  EXPECT_EQ(bench.Notes, (Lines{"hide frmBench", "release frmBench", "still there"}));
+}
+
+TEST(TextWidth, IsNinetyTwipsACharacterWithoutAScreen) {
+  Bench bench;
+  EXPECT_EQ(bench.Screen->TextWidth("Weights"), 630.0F);
+  EXPECT_EQ(bench.Screen->TextWidth("é¼"), 180.0F);
+  EXPECT_EQ(bench.Screen->TextWidth(""), 0.0F);
+}
+
+}  // namespace
+}  // namespace Tarnwise

@@ -5,8 +5,8 @@
 
 #include <tarnwise/TRN_DEA.h>
 
-#include <QApplication>
 #include <benchmark/benchmark.h>
+#include <QApplication>
 
 namespace {
 

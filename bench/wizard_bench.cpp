@@ -226,4 +226,3 @@ void TradeOffCommitAbove(benchmark::State& state) {
 BENCHMARK(TradeOffCommitAbove)->Name("TradeOff/CommitWith15Peers/AboveOne")->Unit(benchmark::kMillisecond);
 
 }  // namespace
-

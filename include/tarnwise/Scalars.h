@@ -12,7 +12,7 @@ using Long = std::int32_t;
 using Single = float;
 using Double = double;
 using Boolean = bool;
-using String = std::string;  // UTF-8
+using String = std::string;    // UTF-8
 using Colour = std::uint32_t;  // blue, green, red from the high byte down; 0x80000000 + n is a system colour
 
 // A numeric or subscript fault. It ends the handler in which it arises; from a host's own call it reaches the host.

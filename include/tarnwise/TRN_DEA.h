@@ -29,8 +29,9 @@ struct TRN_DEA_Events {
   // The wizard ends: answer by the method UnloadTarnwise. WeightsDone is false when the user cancelled.
   std::function<void(Integer fIndex, Boolean WeightsDone)> UnloadTarnwise;
 
-  // The judgments. RJType is "DEA_DIRECT" or "DEA_TRADEOFFS". Element j of the arrays is Wj/Wr, r being the reference of
-  // j's group; RefAttWR is W(CRefAttID)/W(BRefAttID). The arrays belong to the wizard: use them during the event only.
+  // The judgments. RJType is "DEA_DIRECT" or "DEA_TRADEOFFS". Element j of the arrays is Wj/Wr, r being the reference
+  // of j's group; RefAttWR is W(CRefAttID)/W(BRefAttID). The arrays belong to the wizard: use them during the event
+  // only.
   std::function<void(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
                      VariantArray& Weights, VariantArray& WeightsH, VariantArray& WeightsL)>
       ExportDirectBW;
@@ -41,9 +42,8 @@ struct TRN_DEA_Events {
       ExportTradeOffsBW;
 
   // The points of the trade-offs, after ExportDirectBW.
-  std::function<void(VariantArray& AX, VariantArray& AY, VariantArray& BX, VariantArray& BY,
-                     VariantArray& AOrientation, VariantArray& ALX, VariantArray& ALY, VariantArray& AUX,
-                     VariantArray& AUY)>
+  std::function<void(VariantArray& AX, VariantArray& AY, VariantArray& BX, VariantArray& BY, VariantArray& AOrientation,
+                     VariantArray& ALX, VariantArray& ALY, VariantArray& AUX, VariantArray& AUY)>
       ExportABScores;
 
   // A prompt of the step that begins, for a status line.

@@ -71,9 +71,9 @@ void frmDirectB::CheckEntry(TextBox& box) {
   Screen().SetFocus(box);
   box.SelStart = 0;
   box.SelLength = Length(box.Text());
-  Screen().MessageBox("The weight ratio you entered should be greater than zero and less than or equal to " +
-                          NumberText(hi) + "!",
-                      kExclamation, kKesta);
+  Screen().MessageBox(
+      "The weight ratio you entered should be greater than zero and less than or equal to " + NumberText(hi) + "!",
+      kExclamation, kKesta);
 }
 
 // Ready for use, but no event calls it: an upper value below the lower one is let through, and the chart sorts the two.

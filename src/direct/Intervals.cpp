@@ -48,9 +48,7 @@ void SetDefaultIntervals(WizardData& data) {
   }
 }
 
-Interval IntervalOf(const WizardData& data, int att) {
-  return {LowOf(data, att), MidOf(data, att), HighOf(data, att)};
-}
+Interval IntervalOf(const WizardData& data, int att) { return {LowOf(data, att), MidOf(data, att), HighOf(data, att)}; }
 
 void StoreInterval(WizardData& data, int att, const Interval& interval) {
   data.WeightsL[att] = interval.Low;

@@ -6,9 +6,7 @@ bool InGroup(const WizardData& data, int att, Group g) {
   return g == Group::Benefit ? data.IsBenefit(att) : data.IsCost(att);
 }
 
-Integer GroupSize(const WizardData& data, Group g) {
-  return g == Group::Benefit ? data.BRankCount : data.CRankCount;
-}
+Integer GroupSize(const WizardData& data, Group g) { return g == Group::Benefit ? data.BRankCount : data.CRankCount; }
 
 Integer ReferenceOf(const WizardData& data, int att) { return data.IsBenefit(att) ? data.BRefAttID : data.CRefAttID; }
 

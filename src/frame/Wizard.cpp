@@ -78,9 +78,8 @@ void TRN_DEA::Wizard::RelayUnloadTarnwise(Integer fIndex, Boolean WeightsDone) {
   Raise(Events.UnloadTarnwise, fIndex, WeightsDone);
 }
 
-void TRN_DEA::Wizard::RelayExportDirectBW(const String& RJType, Integer BRefAttID, Integer CRefAttID,
-                                          Variant& RefAttWR, Array<Variant>& Weights, Array<Variant>& WeightsH,
-                                          Array<Variant>& WeightsL) {
+void TRN_DEA::Wizard::RelayExportDirectBW(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
+                                          Array<Variant>& Weights, Array<Variant>& WeightsH, Array<Variant>& WeightsL) {
   Raise(Events.ExportDirectBW, RJType, BRefAttID, CRefAttID, RefAttWR, Weights.Items(), WeightsH.Items(),
         WeightsL.Items());
 }
@@ -92,8 +91,7 @@ void TRN_DEA::Wizard::mTRNTradeOffsB_ExportABScores(ABScores& scores) {
 
 void TRN_DEA::Wizard::mSelMethod_ShowTRNIniImpOrder() {
   HideForm(mSelMethod);
-  if (!mIniImpOrder &&
-      !CreateForm(mIniImpOrder, Screen, Data, mSelMethod, [this] { ConnectIniImpOrder(); })) {
+  if (!mIniImpOrder && !CreateForm(mIniImpOrder, Screen, Data, mSelMethod, [this] { ConnectIniImpOrder(); })) {
     return;
   }
   Screen->ShowModal(*std::shared_ptr<Form>(mIniImpOrder));
@@ -107,8 +105,7 @@ void TRN_DEA::Wizard::mIniImpOrder_ShowTRNDirectB() {
 
 void TRN_DEA::Wizard::mIniImpOrder_ShowTRNTradeOffsB() {
   HideForm(mIniImpOrder);
-  if (!mTRNTradeOffsB &&
-      !CreateForm(mTRNTradeOffsB, Screen, Data, mIniImpOrder, [this] { ConnectTradeOffsB(); })) {
+  if (!mTRNTradeOffsB && !CreateForm(mTRNTradeOffsB, Screen, Data, mIniImpOrder, [this] { ConnectTradeOffsB(); })) {
     return;
   }
   Screen->ShowModal(*std::shared_ptr<Form>(mTRNTradeOffsB));

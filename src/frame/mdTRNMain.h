@@ -71,8 +71,8 @@ struct AttValueData {
   Array<Double> BestScore;
   std::vector<std::uint8_t> Unused2;  // 64 bytes
   Array<Integer> ValuePointCount;
-  Matrix<Variant> ValuePointX;  // 31 x 11: scores, ascending
-  Matrix<Variant> ValuePointY;  // values, 0 to 1
+  Matrix<Variant> ValuePointX;   // 31 x 11: scores, ascending
+  Matrix<Variant> ValuePointY;   // values, 0 to 1
   Array<Integer> ValueFuncType;  // 0 linear, 1 non-linear
   Array<Double> ValueFuncA;
   Array<Double> ValueFuncB;
@@ -110,8 +110,8 @@ struct WizardData {
   String PathAndFileName;
 
   // Switches that one step leaves for the next.
-  Integer MethodIndex = 0;   // 0 direct, 1 trade-offs
-  Integer IncnsistCtrl = 0;  // 1: consistency is checked
+  Integer MethodIndex = 0;       // 0 direct, 1 trade-offs
+  Integer IncnsistCtrl = 0;      // 1: consistency is checked
   Boolean OrderChanged = false;  // ranks or references differ from those stored in the file
 
   // The ranking, written by the ordering step.

@@ -25,10 +25,14 @@ Json PointsJson(const Array<ABPoint>& points) {
 
 using Reader = std::function<Json(const WizardData&)>;
 
-#define FIELD(record, name) \
-  { #name, [](const WizardData& d) { return ToJson(d.record.name); } }
-#define VARIABLE(name) \
-  { #name, [](const WizardData& d) { return ToJson(d.name); } }
+#define FIELD(record, name)                                          \
+  {                                                                  \
+#name, [](const WizardData& d) { return ToJson(d.record.name); } \
+  }
+#define VARIABLE(name)                                        \
+  {                                                           \
+#name, [](const WizardData& d) { return ToJson(d.name); } \
+  }
 
 const std::map<String, Reader>& Readers() {
   static const std::map<String, Reader> readers = {

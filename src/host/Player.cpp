@@ -196,9 +196,8 @@ void Player::HostPoints(const std::vector<String>& words) {
   Json points;
   if (words[2] == "zero") {
     const VariantArray zeros = ZerosFor(mdTRNMain());
-    HostCall("TRN_DEA.TranferABCoordinates", [&] {
-      dea_->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros);
-    });
+    HostCall("TRN_DEA.TranferABCoordinates",
+             [&] { dea_->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros); });
     return;
   }
   VariantArray a[9];

@@ -1,5 +1,6 @@
 // The session player: a small host that carries out a script's lines one after the other and prints what the wizard
-// did as JSON, one object a line. A script can do only what a person could. docs/session-scripts.md describes the lines.
+// did as JSON, one object a line. A script can do only what a person could. docs/session-scripts.md describes the
+// lines.
 #pragma once
 
 #include "host/Driver.h"

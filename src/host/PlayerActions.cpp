@@ -56,11 +56,11 @@ Spot NamedSpot(Control& named, Control& target, Single x, Single y) {
 
 std::optional<KeyStroke> StrokeOf(const String& name) {
   static const std::map<String, KeyStroke> strokes = {
-      {"Return", {13, 13, 0}},      {"Backspace", {8, 8, 0}}, {"Delete", {46, 0, 0}}, {"Left", {37, 0, 0}},
-      {"Right", {39, 0, 0}},        {"Up", {38, 0, 0}},       {"Down", {40, 0, 0}},   {"Home", {36, 0, 0}},
-      {"End", {35, 0, 0}},          {"Tab", {9, 9, 0}},       {"Shift+Tab", {9, 9, 1}}, {"Shift+Insert", {45, 0, 1}},
-      {"Ctrl+V", {86, 22, 2}},      {"Ctrl+A", {65, 1, 2}},   {"Escape", {27, 27, 0}}, {"Space", {32, 32, 0}},
-      {"Shift+Left", {37, 0, 1}},   {"Shift+Right", {39, 0, 1}}, {"Shift+Up", {38, 0, 1}}, {"Shift+Down", {40, 0, 1}}};
+      {"Return", {13, 13, 0}},    {"Backspace", {8, 8, 0}},    {"Delete", {46, 0, 0}},   {"Left", {37, 0, 0}},
+      {"Right", {39, 0, 0}},      {"Up", {38, 0, 0}},          {"Down", {40, 0, 0}},     {"Home", {36, 0, 0}},
+      {"End", {35, 0, 0}},        {"Tab", {9, 9, 0}},          {"Shift+Tab", {9, 9, 1}}, {"Shift+Insert", {45, 0, 1}},
+      {"Ctrl+V", {86, 22, 2}},    {"Ctrl+A", {65, 1, 2}},      {"Escape", {27, 27, 0}},  {"Space", {32, 32, 0}},
+      {"Shift+Left", {37, 0, 1}}, {"Shift+Right", {39, 0, 1}}, {"Shift+Up", {38, 0, 1}}, {"Shift+Down", {40, 0, 1}}};
   const auto found = strokes.find(name);
   return found == strokes.end() ? std::nullopt : std::optional<KeyStroke>(found->second);
 }
@@ -102,6 +102,17 @@ std::optional<std::pair<int, int>> RowsOf(const Control& control) {
   }
 }
 
+// What lies in the middle of a list, a bar or a toolbar is another thing on every screen.
+bool HasOneMeaningToAClick(const Control& control) {
+  switch (control.Type) {
+    case Kind::Line:
+    case Kind::Timer:
+    case Kind::VScrollBar:
+    case Kind::Toolbar: return false;
+    default: return !RowsOf(control);
+  }
+}
+
 }  // namespace
 
 Control& Player::Usable(const String& name) {
@@ -118,7 +129,7 @@ void Player::RefuseDuringDrag() const {
 void Player::Click(const String& name) {
   RefuseDuringDrag();
   Control& control = Usable(name);
-  if (control.Type == Kind::Line || control.Type == Kind::Timer) throw Refused(name + ": can't be clicked");
+  if (!HasOneMeaningToAClick(control)) throw Refused(name + ": can't be clicked");
   driver_.Click(control);
 }
 
@@ -193,7 +204,8 @@ void Player::Over(const std::vector<String>& words, std::size_t first) {
 }
 
 void Player::Drag(const std::vector<String>& words) {
-  if (words.size() != 3 && words.size() != 5) throw ScriptFault("\"drag\" wants a source, a target and maybe its X and Y");
+  if (words.size() != 3 && words.size() != 5)
+    throw ScriptFault("\"drag\" wants a source, a target and maybe its X and Y");
   Usable(words[2]);
   Grab(words[1]);
   try {

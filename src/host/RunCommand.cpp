@@ -45,9 +45,9 @@ Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
                  {"attributes", attributes}};
   if (judgments.TradeOffs) {
     const Points& p = *judgments.TradeOffs;
-    object["points"] = {{"AX", ToJson(p[0])},           {"AY", ToJson(p[1])},  {"BX", ToJson(p[2])},
-                        {"BY", ToJson(p[3])},           {"AOrientation", ToJson(p[4])}, {"ALX", ToJson(p[5])},
-                        {"ALY", ToJson(p[6])},          {"AUX", ToJson(p[7])}, {"AUY", ToJson(p[8])}};
+    object["points"] = {{"AX", ToJson(p[0])},  {"AY", ToJson(p[1])},           {"BX", ToJson(p[2])},
+                        {"BY", ToJson(p[3])},  {"AOrientation", ToJson(p[4])}, {"ALX", ToJson(p[5])},
+                        {"ALY", ToJson(p[6])}, {"AUX", ToJson(p[7])},          {"AUY", ToJson(p[8])}};
   }
   return object;
 }

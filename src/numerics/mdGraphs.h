@@ -11,9 +11,7 @@ namespace Tarnwise {
 // the interpolated value at Xp, which is set by the search only.
 using Coefs = std::array<Double, 5>;
 
-inline Double EvaluateCubic(const Coefs& k, Double d) {
-  return k[0] + d * k[1] + (d * d) * k[2] + (d * d * d) * k[3];
-}
+inline Double EvaluateCubic(const Coefs& k, Double d) { return k[0] + d * k[1] + (d * d) * k[2] + (d * d * d) * k[3]; }
 
 // The points of a curve as numbers. At most 11, abscissae ascending (nobody checks: equal ones divide by zero).
 struct Curve {

@@ -22,7 +22,9 @@ void frmIniImpOrder::ConnectDrags(Group g) {
   c.picOrder.Wire([this, g](PictureBox& row) {
     row.Click = [this, g, &row] { SelectRank(g, static_cast<int>(Val(row.Tag()))); };
     row.DragDrop = [this, g, &row](Control& source, Single, Single) { DropOnRow(g, row, source); };
-    row.DragOver = [this, g, &row](Control& source, Single, Single, DragState state) { OverRow(g, row, source, state); };
+    row.DragOver = [this, g, &row](Control& source, Single, Single, DragState state) {
+      OverRow(g, row, source, state);
+    };
   });
   c.cmdAttB.Wire([this, g](CommandButton& button) {
     button.Click = [this, g, &button] { SelectRank(g, RankOfButton(button)); };

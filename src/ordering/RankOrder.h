@@ -34,7 +34,7 @@ void OpenRankOrder(RankOrder& order, WizardData& data);
 // True when the group has as many rows as attributes: no further row can be made.
 bool AtRowLimit(RankOrder& order, const WizardData& data, Group g);
 
-void AddRank(RankOrder& order, Group g);                            // an empty row at the end, selected
+void AddRank(RankOrder& order, Group g);                             // an empty row at the end, selected
 void InsertRank(RankOrder& order, const WizardData& data, Group g);  // an empty row at the selected rank
 void PlaceAttribute(RankOrder& order, WizardData& data, Group g, int att, int rank);
 // False when the attribute stands there already; then nothing changes.

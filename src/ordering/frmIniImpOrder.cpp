@@ -62,9 +62,8 @@ void frmIniImpOrder::ConnectGroup(Group g) {
   rank.lblOrderID.Wire([this, g](Label& label) {
     label.Click = [this, g, &label] { SelectRank(g, static_cast<int>(Val(label.Tag()))); };
   });
-  reference.Rows.cmdAttButtons.Wire([this, g](CommandButton& button) {
-    button.Click = [this, g, &button] { ChooseReference(g, button); };
-  });
+  reference.Rows.cmdAttButtons.Wire(
+      [this, g](CommandButton& button) { button.Click = [this, g, &button] { ChooseReference(g, button); }; });
 }
 
 void frmIniImpOrder::Load() {

@@ -31,8 +31,7 @@ void frmTradeOffsB::ConnectChart() {
   }
   Chart.picPCGraph.DragDrop = [this](Control&, Single x, Single y) {
     const PictureBox& plot = Chart.picTradeOffsRange;
-    const bool inside =
-        x >= plot.Left && x <= plot.Left + plot.Width && y >= plot.Top && y <= plot.Top + plot.Height;
+    const bool inside = x >= plot.Left && x <= plot.Left + plot.Width && y >= plot.Top && y <= plot.Top + plot.Height;
     if (!inside) Screen().Beep();
   };
   Lights.Timer1.Tick = [this] { Timer1_Timer(); };

@@ -29,7 +29,7 @@ void frmTradeOffsB::ConnectScores() {
     };
     box->KeyPress = [this, box](KeyEvent& key) { ScoreKey(key, *box); };
     box->LostFocus = [this] {
-      if (mScoresDirty == kYes) CommitScores();
+      if (mScoresDirty == kYes && !takingFocusBack_) CommitScores();
     };
   }
   Scores.tbScoreChanger.Wire([this](Toolbar& toolbar) {
@@ -80,12 +80,14 @@ bool frmTradeOffsB::CheckScore(TextBox& box, Single low, Single high) {
   if (v >= low && v <= high) return true;
   mScoresBad = kYes;
   Screen().Beep();
+  takingFocusBack_ = true;
   Screen().SetFocus(box);
+  takingFocusBack_ = false;
   box.SelStart = 0;
   box.SelLength = Length(box.Text());
-  Screen().MessageBox("The data you entered should be in the relevant score range [" + NumberText(low) + ", " +
-                          NumberText(high) + "]!",
-                      kExclamation, kKesta);
+  Screen().MessageBox(
+      "The data you entered should be in the relevant score range [" + NumberText(low) + ", " + NumberText(high) + "]!",
+      kExclamation, kKesta);
   return false;
 }
 

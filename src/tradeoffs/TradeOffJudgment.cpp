@@ -12,9 +12,7 @@ namespace {
 
 String Shown(Double ratio) { return Format(ratio, "0.00"); }
 
-String IntervalCaption(Double a, Double b) {
-  return Shown(std::min(a, b)) + "/1,    " + Shown(std::max(a, b)) + "/1";
-}
+String IntervalCaption(Double a, Double b) { return Shown(std::min(a, b)) + "/1,    " + Shown(std::max(a, b)) + "/1"; }
 
 bool IsRatio(const String& text) { return text != kInfinity && Val(text) > 0.0; }
 
@@ -73,8 +71,8 @@ TradeOffVerdict DecideRefPairState(const String& ratio) {
 }
 
 TradeOffRatios RatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& p) {
-  return {PointRatio(data, xAtt, yAtt, p.ALX, p.ALY, p.BX, p.BY), PointRatio(data, xAtt, yAtt, p.AUX, p.AUY, p.BX, p.BY),
-          PointRatio(data, xAtt, yAtt, p.AX, p.AY, p.BX, p.BY)};
+  return {PointRatio(data, xAtt, yAtt, p.ALX, p.ALY, p.BX, p.BY),
+          PointRatio(data, xAtt, yAtt, p.AUX, p.AUY, p.BX, p.BY), PointRatio(data, xAtt, yAtt, p.AX, p.AY, p.BX, p.BY)};
 }
 
 std::vector<int> CommitTradeOff(WizardData& data, int target, const TradeOffRatios& ratios) {

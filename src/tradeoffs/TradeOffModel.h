@@ -10,8 +10,8 @@ namespace Tarnwise {
 
 constexpr const char* kInfinity = "Infinity!";
 
-// W(x)/W(y) for A at (x1, y1) and B at (x2, y2), in scores of the two attributes. "Infinity!" when the first scores have
-// the same value.
+// W(x)/W(y) for A at (x1, y1) and B at (x2, y2), in scores of the two attributes. "Infinity!" when the first scores
+// have the same value.
 String PointRatio(const WizardData& data, int xAtt, int yAtt, Single x1, Single y1, Single x2, Single y2);
 
 // The same for the two references, of which one is cost and one benefit: its sign is the other way round.

@@ -53,8 +53,8 @@ void frmTradeOffsB::ConnectUncertainty() {
 
 // The pair of both references is never uncertain.
 void frmTradeOffsB::EnableToolbars() {
-  for (Toolbar* toolbar : {&Uncertainty.tbCertain, &Uncertainty.tbMovDown, &Uncertainty.tbMovUp,
-                           &Uncertainty.tbMovLeft, &Uncertainty.tbMovRight}) {
+  for (Toolbar* toolbar : {&Uncertainty.tbCertain, &Uncertainty.tbMovDown, &Uncertainty.tbMovUp, &Uncertainty.tbMovLeft,
+                           &Uncertainty.tbMovRight}) {
     toolbar->Enabled = !IsRefPair();
   }
 }

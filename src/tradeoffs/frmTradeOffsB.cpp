@@ -181,8 +181,7 @@ void frmTradeOffsB::cmdEnter_Click() {
   Screen().SetPointer(kHourglass);
   data_.ABPoints2[mTargetAtt] = Points;
   if (IsRefPair()) {
-    data_.RefAttWR =
-        StrictNumber(RefPairRatio(data_, mTargetAtt, mRefAtt, Points.AX, Points.AY, Points.BX, Points.BY));
+    data_.RefAttWR = StrictNumber(RefPairRatio(data_, mTargetAtt, mRefAtt, Points.AX, Points.AY, Points.BX, Points.BY));
   } else {
     CommitJudgment(mTargetAtt);
   }
@@ -258,9 +257,7 @@ void frmTradeOffsB::cmdFinish_Click() {
 
 void frmTradeOffsB::cmdCancel_Click() { Raise(UnloadTarnwise, data_.FileIndex, false); }
 
-void frmTradeOffsB::cmdTarnwiseHelp_Click() {
-  Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext);
-}
+void frmTradeOffsB::cmdTarnwiseHelp_Click() { Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext); }
 
 // Nothing goes to a printer; a print command may be added between the two halves.
 void frmTradeOffsB::cmdTarnwisePrint_Click() {

@@ -108,6 +108,7 @@ struct frmTradeOffsB : TradeOffsBForm {
   void ShowPage(int page);
   void Timer1_Timer();
 
+  bool takingFocusBack_ = false;  // from the box that Return was pressed in to the wrong one: one message is enough
   WizardData& data_;
 };
 

@@ -79,10 +79,10 @@ struct Control {
   Property<String> Tag{*this, {}};
   Property<String> ToolTipText{*this, {}};
   Property<int> MousePointer{*this, 0};
-  Property<int> Order{*this, 0};  // the larger one stands in front
+  Property<int> Order{*this, 0};               // the larger one stands in front
   Property<String> AccessibleName{*this, {}};  // for a screen reader, where the caption does not say it
-  ScaleMode Scale = ScaleMode::Twips;  // of what it contains
-  int TabIndex = -1;  // place in the tab order; -1: not in it
+  ScaleMode Scale = ScaleMode::Twips;          // of what it contains
+  int TabIndex = -1;                           // place in the tab order; -1: not in it
 
   bool DragAutomatic = false;  // a press and a move drag it
   DragBy KeyboardDrag = DragBy::Targets;
@@ -123,10 +123,10 @@ struct KeyEvent {
 
 struct TextBox : Control {
   TextBox(Form& form, Control* parent, String name);
-  void SetText(const String& text);  // the caret goes to the start; Change is raised when the text differs
+  void SetText(const String& text);     // the caret goes to the start; Change is raised when the text differs
   void SetSelText(const String& text);  // replaces the selection, the caret stands behind what came
   Property<String> Text{*this, {}};
-  Property<int> SelStart{*this, 0};   // in characters
+  Property<int> SelStart{*this, 0};  // in characters
   Property<int> SelLength{*this, 0};
   std::function<void()> Change;
   std::function<void(KeyEvent&)> KeyDown;
@@ -265,7 +265,7 @@ struct ComboBox : Control {
 
 struct Grid : Control {
   Grid(Form& form, Control* parent, String name);
-  void Shape(int rows, int cols);  // empties all cells
+  void Shape(int rows, int cols);                      // empties all cells
   void SetCell(int row, int col, const String& text);  // error 9 outside
   void SetColWidth(int col, int width);
   std::vector<std::vector<String>> TextMatrix;

@@ -17,9 +17,9 @@ struct Form : Control, std::enable_shared_from_this<Form> {
 
   Platform& Screen() const { return *platform_; }
 
-  virtual void Load() {}      // once, before it is shown; a fault in it ends the creation
-  virtual void Activate() {}  // each time it is shown
-  virtual void CloseBox() {}  // the window's own close button
+  virtual void Load() {}        // once, before it is shown; a fault in it ends the creation
+  virtual void Activate() {}    // each time it is shown
+  virtual void CloseBox() {}    // the window's own close button
   virtual void Disconnect() {}  // its events reach nobody from now on
 
   // The control of that name; of an array the element `index`. Null when there is none.

@@ -90,7 +90,9 @@ void Platform::Release(Form& form) {
   toolkit_->Release(form);
 }
 
-bool Platform::IsModal(const Form& form) const { return std::find(modal_.begin(), modal_.end(), &form) != modal_.end(); }
+bool Platform::IsModal(const Form& form) const {
+  return std::find(modal_.begin(), modal_.end(), &form) != modal_.end();
+}
 
 Form* Platform::ActiveForm() const {
   for (auto form = modal_.rbegin(); form != modal_.rend(); ++form) {

@@ -27,10 +27,10 @@ class Toolkit {
   virtual void Beep() = 0;
   virtual void SetPointer(int pointer) = 0;
   virtual void Help(Form& form, const String& path, int command, int context) = 0;
-  virtual void Focus(Control& control) = 0;  // the tree's focus has gone there
+  virtual void Focus(Control& control) = 0;           // the tree's focus has gone there
   virtual void AnnounceChange(Control& control) = 0;  // a verdict changed: tell a screen reader
-  virtual Single TextWidth(const String& text) = 0;    // twips, in a grid's font
-  virtual Single ScreenWidth() = 0;                    // twips
+  virtual Single TextWidth(const String& text) = 0;   // twips, in a grid's font
+  virtual Single ScreenWidth() = 0;                   // twips
   virtual Single ScreenHeight() = 0;
 };
 
@@ -62,7 +62,7 @@ class Platform {
   void Release(Form& form);
 
   const std::vector<Form*>& Forms() const { return forms_; }  // in the order in which they were created
-  bool IsModal(const Form& form) const;                        // its modal call is running
+  bool IsModal(const Form& form) const;                       // its modal call is running
   Form* ActiveForm() const;  // the one that takes input: the innermost visible modal one, else the last one shown
 
   void MessageBox(const String& text, int style, const String& title);

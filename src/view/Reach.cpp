@@ -97,7 +97,7 @@ bool TakesFocus(const Control& control) {
     case Kind::ImageCombo:
     case Kind::ComboBox:
     case Kind::Grid: return true;
-    case Kind::Toolbar: return false;  // its buttons are pressed without taking the focus from where it is
+    case Kind::Toolbar: return false;       // its buttons are pressed without taking the focus from where it is
     default: return control.DragAutomatic;  // so that the keyboard can pick it up
   }
 }

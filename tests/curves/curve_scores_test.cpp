@@ -26,7 +26,8 @@ Single PlainWalk(const WizardData& model, Single value) {
 ::testing::AssertionResult IsTheWalk(const WizardData& model, Single value) {
   const Single expected = PlainWalk(model, value);
   const Single found = GetAttScore(model, 0, value);
-  if (std::bit_cast<std::uint32_t>(found) == std::bit_cast<std::uint32_t>(expected)) return ::testing::AssertionSuccess();
+  if (std::bit_cast<std::uint32_t>(found) == std::bit_cast<std::uint32_t>(expected))
+    return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure() << found << " and not " << expected << " for the value " << value;
 }
 

@@ -182,7 +182,8 @@ TEST(CurveAbscissae, TwoEqualOnesDivideByZeroToo) {
 }
 
 TEST(CurveAbscissae, EqualOnesFarFromTheScoreAreNotLookedAt) {
-  const Curve curve = CurveThrough({0, 1, 2, 3, 4, 5, 6, 7, 7, 8, 9}, {0, 0.1, 0.3, 0.4, 0.5, 0.55, 0.6, 0.7, 0.8, 0.9, 1});
+  const Curve curve =
+      CurveThrough({0, 1, 2, 3, 4, 5, 6, 7, 7, 8, 9}, {0, 0.1, 0.3, 0.4, 0.5, 0.55, 0.6, 0.7, 0.8, 0.9, 1});
   EXPECT_EQ(ErrorNumber([&] { return AkimaInterpolate(curve, -1, 0.5); }), 0);
   EXPECT_EQ(ErrorNumber([&] { return AkimaInterpolate(curve, -1, 6.5); }), 11);
 }

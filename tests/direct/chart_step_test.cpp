@@ -14,17 +14,20 @@ const char* const kOut = "8421504";
 const char* const kLit = "2147483662";
 
 TEST(Dragging, PutsTheHandlesMiddleUnderThePointerAndItsRayOnIt) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(1) picTradeOffsRange 100.5 72.25\nget picHandle(1).Left\nget picHandle(1).Top\n"
-                       "get BorderL(1).X2\nget BorderL(1).Y2\nget BorderL(1).X1\nget BorderL(1).Y1\nget picHandle(0).Left\n"
-                       "get BorderL(0).X2"),
-            (Lines{"97.5", "69.25", "100.5", "72.25", "0", "250", "144", "147"}));
+  EXPECT_EQ(
+      Ward().Ask("drag picHandle(1) picTradeOffsRange 100.5 72.25\nget picHandle(1).Left\nget picHandle(1).Top\n"
+                 "get BorderL(1).X2\nget BorderL(1).Y2\nget BorderL(1).X1\nget BorderL(1).Y1\nget picHandle(0).Left\n"
+                 "get BorderL(0).X2"),
+      (Lines{"97.5", "69.25", "100.5", "72.25", "0", "250", "144", "147"}));
 }
 
 TEST(Dragging, FillsTheBoxesAndTheRegionAtEveryStep) {
-  EXPECT_EQ(Ward().Ask("grab picHandle(1)\nover picTradeOffsRange 100 102\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing\n"
-                       "over picTradeOffsRange 50 102\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing"),
-            (Lines{R"("1.50")", R"([{"polygon":[[0,250],[147,76],[100,102]],"fill":12640511}])", R"("3.00")",
-                   R"([{"polygon":[[0,250],[147,76],[50,102]],"fill":12640511}])"}));
+  EXPECT_EQ(
+      Ward().Ask(
+          "grab picHandle(1)\nover picTradeOffsRange 100 102\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing\n"
+          "over picTradeOffsRange 50 102\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing"),
+      (Lines{R"("1.50")", R"([{"polygon":[[0,250],[147,76],[100,102]],"fill":12640511}])", R"("3.00")",
+             R"([{"polygon":[[0,250],[147,76],[50,102]],"fill":12640511}])"}));
 }
 
 TEST(Dragging, FollowsThePointerToTheEdgesAndBeyondAnyLimit) {
@@ -36,38 +39,44 @@ TEST(Dragging, FollowsThePointerToTheEdgesAndBeyondAnyLimit) {
 }
 
 TEST(Dragging, LeavesTheChartWithoutMovingAnything) {
-  EXPECT_EQ(Ward().Ask("grab picHandle(1)\nover picTradeOffsRange 100 102\nover framePCChart 10 10\nget picHandle(1).Left\n"
-                       "get BorderL(1).X2\nget txtWRUpper.Text\nover frmDirectB\nget picHandle(1).Left\ndrop\n"
-                       "get picHandle(1).Left"),
-            (Lines{"97", "100", R"("1.50")", "97", "97"}));
+  EXPECT_EQ(
+      Ward().Ask("grab picHandle(1)\nover picTradeOffsRange 100 102\nover framePCChart 10 10\nget picHandle(1).Left\n"
+                 "get BorderL(1).X2\nget txtWRUpper.Text\nover frmDirectB\nget picHandle(1).Left\ndrop\n"
+                 "get picHandle(1).Left"),
+      (Lines{"97", "100", R"("1.50")", "97", "97"}));
 }
 
 TEST(Dragging, ShowsTheNoDropPointerByTwoHandlersThatAreNotAlike) {
   // Chart, stage, form, stage, chart.
-  EXPECT_EQ(Ward().Ask("grab picHandle(0)\nover picTradeOffsRange\nget picHandle(0).MousePointer\nover picPanel(0) 5 5\n"
-                       "get picHandle(0).MousePointer\nover frmDirectB 10 10\nget picHandle(0).MousePointer\nover picPanel(0) 5 5\n"
-                       "get picHandle(0).MousePointer\nover picTradeOffsRange\nget picHandle(0).MousePointer"),
-            (Lines{"0", "12", "0", "12", "0"}));
+  EXPECT_EQ(
+      Ward().Ask(
+          "grab picHandle(0)\nover picTradeOffsRange\nget picHandle(0).MousePointer\nover picPanel(0) 5 5\n"
+          "get picHandle(0).MousePointer\nover frmDirectB 10 10\nget picHandle(0).MousePointer\nover picPanel(0) 5 5\n"
+          "get picHandle(0).MousePointer\nover picTradeOffsRange\nget picHandle(0).MousePointer"),
+      (Lines{"0", "12", "0", "12", "0"}));
 }
 
 TEST(Dragging, FromTheFormToTheChartLeavesTheNoDropPointerOfTheForm) {
-  EXPECT_EQ(Ward().Ask("grab picHandle(0)\nover frmDirectB 10 10\nover picTradeOffsRange\nget picHandle(0).MousePointer"),
-            Lines{"12"});
+  EXPECT_EQ(
+      Ward().Ask("grab picHandle(0)\nover frmDirectB 10 10\nover picTradeOffsRange\nget picHandle(0).MousePointer"),
+      Lines{"12"});
 }
 
 TEST(Dragging, AcrossTheOtherHandleKeepsTheSmallerSlopeInTheLowerBox) {
-  EXPECT_EQ(Ward().Ask(Choose(kCare) + Wedge(125, 150) + "drag picHandle(0) picTradeOffsRange 100 52\nget txtWRLower.Text\n"
-                                                         "get txtWRUpper.Text\nget picHandle(1).Top"),
+  EXPECT_EQ(Ward().Ask(Choose(kCare) + Wedge(125, 150) +
+                       "drag picHandle(0) picTradeOffsRange 100 52\nget txtWRLower.Text\n"
+                       "get txtWRUpper.Text\nget picHandle(1).Top"),
             (Lines{R"("1.50")", R"("2.00")", "99"}));
 }
 
 TEST(Dragging, ThePairOfReferencesTakesTheOtherHandleAndBothRaysAlong) {
-  EXPECT_EQ(Ward().Ask(Choose(kBeds) + "drag picHandle(1) picTradeOffsRange 100.5 51\nget picHandle(0).Left\n"
-                                       "get picHandle(0).Top\nget picHandle(1).Left\nget BorderL(0).X2\nget BorderL(0).Y2\n"
-                                       "get BorderL(1).X2\nget txtWRLower.Text\nget txtWRUpper.Text\n"
-                                       "get picTradeOffsRange.Drawing\nget cmdEnter.Enabled"),
-            (Lines{"97.5", "48", "97.5", "100.5", "51", "100.5", R"("2.00")", R"("2.00")",
-                   R"([{"polygon":[[0,250],[100,51],[100,51]],"fill":12640511}])", "true"}));
+  EXPECT_EQ(
+      Ward().Ask(Choose(kBeds) + "drag picHandle(1) picTradeOffsRange 100.5 51\nget picHandle(0).Left\n"
+                                 "get picHandle(0).Top\nget picHandle(1).Left\nget BorderL(0).X2\nget BorderL(0).Y2\n"
+                                 "get BorderL(1).X2\nget txtWRLower.Text\nget txtWRUpper.Text\n"
+                                 "get picTradeOffsRange.Drawing\nget cmdEnter.Enabled"),
+      (Lines{"97.5", "48", "97.5", "100.5", "51", "100.5", R"("2.00")", R"("2.00")",
+             R"([{"polygon":[[0,250],[100,51],[100,51]],"fill":12640511}])", "true"}));
 }
 
 TEST(Lights, OfAShownTargetSayConsistentAtRest) {
@@ -75,13 +84,15 @@ TEST(Lights, OfAShownTargetSayConsistentAtRest) {
 }
 
 TEST(Lights, HaveTheirCaptionsAndAllThreeVisible) {
-  EXPECT_EQ(Ward().Ask("get lblAlarm(0).Caption\nget lblAlarm(1).Caption\nget lblAlarm(2).Caption\nget shpAlarm(0).Visible\n"
-                       "get lblAlarm(0).Visible\nget shpAlarm(1).Visible\nget shpAlarm(2).Visible\nget lblAlarm(2).Visible"),
-            (Lines{R"("Consistent")", R"("Invalid")", R"("Inconsistent")", "true", "true", "true", "true", "true"}));
+  EXPECT_EQ(
+      Ward().Ask("get lblAlarm(0).Caption\nget lblAlarm(1).Caption\nget lblAlarm(2).Caption\nget shpAlarm(0).Visible\n"
+                 "get lblAlarm(0).Visible\nget shpAlarm(1).Visible\nget shpAlarm(2).Visible\nget lblAlarm(2).Visible"),
+      (Lines{R"("Consistent")", R"("Invalid")", R"("Inconsistent")", "true", "true", "true", "true", "true"}));
 }
 
 TEST(Lights, SayConsistentAfterAGoodDrag) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 3 3\ndrag picHandle(0) picTradeOffsRange 100 100\n" + String(kLights)),
+  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 3 3\ndrag picHandle(0) picTradeOffsRange 100 100\n" +
+                       String(kLights)),
             (Lines{"65280", kOut, kOut, kLit, "0", "0", "true", "0"}));
 }
 
@@ -95,31 +106,36 @@ TEST(Lights, SayInvalidNearerThanSixUnitsToTheLeftOrTheBottomAndTheBoxesKeepThei
         << place;
   }
   EXPECT_EQ(session.Ask("drag picHandle(0) picTradeOffsRange 6 100\nget shpAlarm(0).FillColor"), Lines{"65280"});
-  EXPECT_EQ(session.Ask(Choose(kNight) + "drag picHandle(0) picTradeOffsRange 100 246\nget shpAlarm(0).FillColor"), Lines{"65280"});
+  EXPECT_EQ(session.Ask(Choose(kNight) + "drag picHandle(0) picTradeOffsRange 100 246\nget shpAlarm(0).FillColor"),
+            Lines{"65280"});
 }
 
 TEST(Lights, SayInconsistentAcrossTheReferenceAndTheBoxesFollow) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 200 102\n" + String(kLights) + "get txtWRLower.Text\nget txtWRUpper.Text"),
+  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 200 102\n" + String(kLights) +
+                       "get txtWRLower.Text\nget txtWRUpper.Text"),
             (Lines{kOut, kOut, "16512", "0", "0", kLit, "false", "100", R"("0.75")", R"("1.20")"}));
 }
 
 TEST(Lights, OfThePairOfReferencesNeverSayInconsistent) {
-  EXPECT_EQ(Ward().Ask(JudgeAll() + Choose(kBeds) + "drag picHandle(0) picTradeOffsRange 10 10\n" + kLights +
-                       "drag picHandle(0) picTradeOffsRange 5 10\n" + kLights),
-            (Lines{"65280", kOut, kOut, kLit, "0", "0", "true", "0", kOut, "2056", kOut, "0", kLit, "0", "false", "300"}));
+  EXPECT_EQ(
+      Ward().Ask(JudgeAll() + Choose(kBeds) + "drag picHandle(0) picTradeOffsRange 10 10\n" + kLights +
+                 "drag picHandle(0) picTradeOffsRange 5 10\n" + kLights),
+      (Lines{"65280", kOut, kOut, kLit, "0", "0", "true", "0", kOut, "2056", kOut, "0", kLit, "0", "false", "300"}));
 }
 
 TEST(Blinking, OfInvalidAlternatesYellowAndWhite) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 3 100\ntick Timer1\nget shpAlarm(1).FillColor\ntick Timer1\n"
-                       "get shpAlarm(1).FillColor\ntick Timer1 2\nget shpAlarm(1).FillColor\nget shpAlarm(0).FillColor\n"
-                       "get shpAlarm(2).FillColor\nget lblAlarm(1).ForeColor"),
-            (Lines{"65535", "16777215", "16777215", kOut, kOut, kLit}));
+  EXPECT_EQ(
+      Ward().Ask("drag picHandle(0) picTradeOffsRange 3 100\ntick Timer1\nget shpAlarm(1).FillColor\ntick Timer1\n"
+                 "get shpAlarm(1).FillColor\ntick Timer1 2\nget shpAlarm(1).FillColor\nget shpAlarm(0).FillColor\n"
+                 "get shpAlarm(2).FillColor\nget lblAlarm(1).ForeColor"),
+      (Lines{"65535", "16777215", "16777215", kOut, kOut, kLit}));
 }
 
 TEST(Blinking, OfInconsistentAlternatesOrangeAndWhite) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 200 102\ntick Timer1\nget shpAlarm(2).FillColor\ntick Timer1\n"
-                       "get shpAlarm(2).FillColor\ntick Timer1\nget shpAlarm(2).FillColor\nget shpAlarm(1).FillColor"),
-            (Lines{"33023", "16777215", "33023", kOut}));
+  EXPECT_EQ(
+      Ward().Ask("drag picHandle(0) picTradeOffsRange 200 102\ntick Timer1\nget shpAlarm(2).FillColor\ntick Timer1\n"
+                 "get shpAlarm(2).FillColor\ntick Timer1\nget shpAlarm(2).FillColor\nget shpAlarm(1).FillColor"),
+      (Lines{"33023", "16777215", "33023", kOut}));
 }
 
 TEST(Blinking, StopsWithAGoodRegionOrAnotherTarget) {
@@ -134,9 +150,10 @@ TEST(Blinking, StopsWithAGoodRegionOrAnotherTarget) {
 }
 
 TEST(ControlOff, ShowsTheInvalidLightAlone) {
-  EXPECT_EQ(Ward(false).Ask("data IncnsistCtrl\nget shpAlarm(0).Visible\nget lblAlarm(0).Visible\nget shpAlarm(1).Visible\n"
-                            "get lblAlarm(1).Visible\nget shpAlarm(2).Visible\nget lblAlarm(2).Visible"),
-            (Lines{"0", "false", "false", "true", "true", "false", "false"}));
+  EXPECT_EQ(
+      Ward(false).Ask("data IncnsistCtrl\nget shpAlarm(0).Visible\nget lblAlarm(0).Visible\nget shpAlarm(1).Visible\n"
+                      "get lblAlarm(1).Visible\nget shpAlarm(2).Visible\nget lblAlarm(2).Visible"),
+      (Lines{"0", "false", "false", "true", "true", "false", "false"}));
 }
 
 TEST(ControlOff, NeverShowsConsistentEvenAfterEnter) {
@@ -145,8 +162,8 @@ TEST(ControlOff, NeverShowsConsistentEvenAfterEnter) {
 }
 
 TEST(ControlOff, TakesARegionThatPassesItsNeighboursWithoutALight) {
-  EXPECT_EQ(Ward(false).Ask("drag picHandle(0) picTradeOffsRange 200 102\nget txtWRLower.Text\nget txtWRUpper.Text\n" + String(kLights) +
-                            "click cmdEnter\ndata WeightsL"),
+  EXPECT_EQ(Ward(false).Ask("drag picHandle(0) picTradeOffsRange 200 102\nget txtWRLower.Text\nget txtWRUpper.Text\n" +
+                            String(kLights) + "click cmdEnter\ndata WeightsL"),
             (Lines{R"("0.75")", R"("1.20")", "65280", kOut, kOut, kLit, "0", "0", "true", "0",
                    "[1,0.75,1.2,1,0.8,0.8,0.8]"}));
 }
@@ -162,7 +179,8 @@ TEST(ControlOff, DraggingBackFromInvalidRestoresNeitherVerdictNorEnter) {
 }
 
 TEST(ControlOn, DraggingBackFromInvalidRestoresTheVerdict) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 3 100\ndrag picHandle(0) picTradeOffsRange 100 100\nget cmdEnter.Enabled"),
+  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 3 100\ndrag picHandle(0) picTradeOffsRange 100 100\nget "
+                       "cmdEnter.Enabled"),
             Lines{"true"});
 }
 

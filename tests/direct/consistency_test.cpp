@@ -10,9 +10,7 @@ namespace {
 // A handle whose ray has this slope: at x, so far above the lower edge.
 HandlePoints Rays(Single x0, Single up0, Single x1, Single up1) { return {x0, 252.0F - up0, x1, 252.0F - up1}; }
 
-WizardData SevenRanks() {
-  return RankedData({B(1), B(2), B(3), B(4), B(5), B(6), B(7), C(1), C(2)}, 3, 7);
-}
+WizardData SevenRanks() { return RankedData({B(1), B(2), B(3), B(4), B(5), B(6), B(7), C(1), C(2)}, 3, 7); }
 
 TEST(Limits, AreZeroAndAHundredWhereNothingIsJudgedOnThatSide) {
   const WizardData data = SevenRanks();
@@ -107,18 +105,17 @@ const Single kFar = std::nextafter(252.0F, 300.0F);
 
 INSTANTIATE_TEST_SUITE_P(
     Edges, OnChart,
-    testing::Values(Edge{"Inside", {100, 100, 120, 120}, true}, Edge{"FirstLeft", {6, 100, 120, 120}, true},
-                    Edge{"FirstTooFarLeft", {kNear, 100, 120, 120}, false}, Edge{"FirstRight", {252, 100, 120, 120}, true},
-                    Edge{"FirstTooFarRight", {kFar, 100, 120, 120}, false}, Edge{"FirstTop", {100, 0, 120, 120}, true},
-                    Edge{"FirstAboveTheTop", {100, -0.001F, 120, 120}, false},
-                    Edge{"FirstBottom", {100, 246, 120, 120}, true},
-                    Edge{"FirstTooLow", {100, std::nextafter(246.0F, 300.0F), 120, 120}, false},
-                    Edge{"SecondLeft", {100, 100, 6, 120}, true}, Edge{"SecondTooFarLeft", {100, 100, kNear, 120}, false},
-                    Edge{"SecondRight", {100, 100, 252, 120}, true},
-                    Edge{"SecondTooFarRight", {100, 100, kFar, 120}, false}, Edge{"SecondTop", {100, 100, 120, 0}, true},
-                    Edge{"SecondAboveTheTop", {100, 100, 120, -0.001F}, false},
-                    Edge{"SecondBottom", {100, 100, 120, 246}, true},
-                    Edge{"SecondTooLow", {100, 100, 120, std::nextafter(246.0F, 300.0F)}, false}),
+    testing::Values(
+        Edge{"Inside", {100, 100, 120, 120}, true}, Edge{"FirstLeft", {6, 100, 120, 120}, true},
+        Edge{"FirstTooFarLeft", {kNear, 100, 120, 120}, false}, Edge{"FirstRight", {252, 100, 120, 120}, true},
+        Edge{"FirstTooFarRight", {kFar, 100, 120, 120}, false}, Edge{"FirstTop", {100, 0, 120, 120}, true},
+        Edge{"FirstAboveTheTop", {100, -0.001F, 120, 120}, false}, Edge{"FirstBottom", {100, 246, 120, 120}, true},
+        Edge{"FirstTooLow", {100, std::nextafter(246.0F, 300.0F), 120, 120}, false},
+        Edge{"SecondLeft", {100, 100, 6, 120}, true}, Edge{"SecondTooFarLeft", {100, 100, kNear, 120}, false},
+        Edge{"SecondRight", {100, 100, 252, 120}, true}, Edge{"SecondTooFarRight", {100, 100, kFar, 120}, false},
+        Edge{"SecondTop", {100, 100, 120, 0}, true}, Edge{"SecondAboveTheTop", {100, 100, 120, -0.001F}, false},
+        Edge{"SecondBottom", {100, 100, 120, 246}, true},
+        Edge{"SecondTooLow", {100, 100, 120, std::nextafter(246.0F, 300.0F)}, false}),
     [](const auto& edge) { return String(edge.param.Name); });
 
 TEST(Judging, TakesARegionThatTouchesItsLimits) {

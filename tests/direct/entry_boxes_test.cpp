@@ -41,8 +41,9 @@ TEST(EntryKeys, SwallowPasting) {
 }
 
 TEST(EntryKeys, PassControlKeysUntouched) {
-  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.37\nkey Backspace\nkey Left\nkey Delete\nget txtWRLower.Text\n"
-                                                 "get txtWRLower.SelStart\nkey Home\nkey Delete\nkey Escape\nget txtWRLower.Text"),
+  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") +
+                       "type 1.37\nkey Backspace\nkey Left\nkey Delete\nget txtWRLower.Text\n"
+                       "get txtWRLower.SelStart\nkey Home\nkey Delete\nkey Escape\nget txtWRLower.Text"),
             (Lines{R"("1.")", "2", R"(".")"}));
 }
 
@@ -54,33 +55,40 @@ TEST(EntryKeys, RemoveASecondPointAsItsKeyComesUp) {
 }
 
 TEST(EntryKeys, RemoveTheNewPointWhereverItWasTyped) {
-  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Home\ntype .\nget txtWRLower.Text\nget txtWRLower.SelStart"),
-            (Lines{R"("1.3")", "0"}));
+  EXPECT_EQ(
+      Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Home\ntype .\nget txtWRLower.Text\nget txtWRLower.SelStart"),
+      (Lines{R"("1.3")", "0"}));
 }
 
 TEST(EntryKeys, KeepAPointThatReplacesTheOnlyOne) {
-  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Ctrl+A\ntype .5\nget txtWRLower.Text"), Lines{R"(".5")"});
+  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Ctrl+A\ntype .5\nget txtWRLower.Text"),
+            Lines{R"(".5")"});
 }
 
 TEST(LeavingABox, AppliesAPassedValueToItsHandle) {
-  const Lines printed = Ward().Play(InEmptied("txtWRLower") + "type 1.2\nkey Tab\nget picHandle(0).Left\nget picHandle(0).Top\n"
-                                    "get picHandle(1).Left\nget txtWRLower.Text\nget txtWRUpper.Text\nget BorderL(0).X2\n"
-                                    "get BorderL(0).Y2");
+  const Lines printed =
+      Ward().Play(InEmptied("txtWRLower") +
+                  "type 1.2\nkey Tab\nget picHandle(0).Left\nget picHandle(0).Top\n"
+                  "get picHandle(1).Left\nget txtWRLower.Text\nget txtWRUpper.Text\nget BorderL(0).X2\n"
+                  "get BorderL(0).Y2");
   EXPECT_EQ(Values(printed), (Lines{"144", "72.6", "97", R"("1.20")", R"("1.50")", "147", "75.6"}));
   EXPECT_EQ(Only(printed, "beep"), Lines{});
 }
 
 TEST(LeavingABox, AppliesAPassedValueToTheOtherHandleForTheUpperBox) {
-  EXPECT_EQ(Ward().Ask(InEmptied("txtWRUpper") + "type 2\nfocus txtWRLower\nget picHandle(0).Left\nget picHandle(1).Left\n"
-                                                 "get picHandle(1).Top\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing"),
-            (Lines{"97", "85.2", "72.6", R"("2.00")", R"([{"polygon":[[0,250],[100,127],[88,76]],"fill":12640511}])"}));
+  EXPECT_EQ(
+      Ward().Ask(InEmptied("txtWRUpper") + "type 2\nfocus txtWRLower\nget picHandle(0).Left\nget picHandle(1).Left\n"
+                                           "get picHandle(1).Top\nget txtWRUpper.Text\nget picTradeOffsRange.Drawing"),
+      (Lines{"97", "85.2", "72.6", R"("2.00")", R"([{"polygon":[[0,250],[100,127],[88,76]],"fill":12640511}])"}));
 }
 
 TEST(LeavingABox, EmptyIsRefusedAndTakesTheFocusBack) {
-  const Lines printed = Ward().Play(InEmptied("txtWRLower") + "key Tab\nget txtWRLower.Text\nget picHandle(0).Left\ntype 1.3\n"
+  const Lines printed = Ward().Play(InEmptied("txtWRLower") +
+                                    "key Tab\nget txtWRLower.Text\nget picHandle(0).Left\ntype 1.3\n"
                                     "get txtWRLower.Text");
-  EXPECT_EQ(printed, (Lines{kBeep, kToLower, TooLarge("1.5"), R"({"get":"txtWRLower.Text","value":""})",
-                            R"({"get":"picHandle(0).Left","value":97})", R"({"get":"txtWRLower.Text","value":"1.3"})"}));
+  EXPECT_EQ(printed,
+            (Lines{kBeep, kToLower, TooLarge("1.5"), R"({"get":"txtWRLower.Text","value":""})",
+                   R"({"get":"picHandle(0).Left","value":97})", R"({"get":"txtWRLower.Text","value":"1.3"})"}));
 }
 
 TEST(LeavingABox, OfTheUpperValueEmptySaysZero) {
@@ -89,8 +97,10 @@ TEST(LeavingABox, OfTheUpperValueEmptySaysZero) {
 }
 
 TEST(LeavingABox, WithALowerValueAboveTheUpperIsRefusedWithTheTextSelected) {
-  const Lines printed = Ward().Play(InEmptied("txtWRLower") + "type 1.51\nclick cmdEnter\nget txtWRLower.Text\n"
-                                    "get txtWRLower.SelStart\nget txtWRLower.SelLength\nget picHandle(0).Left\ndata WeightDone");
+  const Lines printed =
+      Ward().Play(InEmptied("txtWRLower") +
+                  "type 1.51\nclick cmdEnter\nget txtWRLower.Text\n"
+                  "get txtWRLower.SelStart\nget txtWRLower.SelLength\nget picHandle(0).Left\ndata WeightDone");
   EXPECT_EQ(printed, (Lines{kBeep, kToLower, TooLarge("1.5"), R"({"get":"txtWRLower.Text","value":"1.51"})",
                             R"({"get":"txtWRLower.SelStart","value":0})", R"({"get":"txtWRLower.SelLength","value":4})",
                             R"({"get":"picHandle(0).Left","value":97})",
@@ -98,8 +108,8 @@ TEST(LeavingABox, WithALowerValueAboveTheUpperIsRefusedWithTheTextSelected) {
 }
 
 TEST(LeavingABox, OneMistakeGivesOneMessageWhereverTheFocusGoes) {
-  for (const char* leave : {"focus txtWRUpper", "click txtWRUpper", "click cmdReStart", "select imgcmbTargetAtt 5", "select tsTab 2",
-                            "click cmdCancel", "key Tab", "key Shift+Tab"}) {
+  for (const char* leave : {"focus txtWRUpper", "click txtWRUpper", "click cmdReStart", "select imgcmbTargetAtt 5",
+                            "select tsTab 2", "click cmdCancel", "key Tab", "key Shift+Tab"}) {
     Ward session;
     const Lines printed = session.Play(InEmptied("txtWRLower") + "type 0\n" + leave +
                                        "\nget imgcmbTargetAtt.SelectedItem\nget tsTab.SelectedItem\nforms");
@@ -113,12 +123,14 @@ TEST(LeavingABox, OneMistakeGivesOneMessageWhereverTheFocusGoes) {
 
 TEST(LeavingABox, RaisesTheClickOnlyAfterThePassedValueWasApplied) {
   Ward session;
-  EXPECT_EQ(session.Ask(InEmptied("txtWRLower") + "type 1.1\nclick cmdEnter\ndata WeightsL"), Lines{"[1,1.2,1.1,1,0.8,0.8,0.8]"});
+  EXPECT_EQ(session.Ask(InEmptied("txtWRLower") + "type 1.1\nclick cmdEnter\ndata WeightsL"),
+            Lines{"[1,1.2,1.1,1,0.8,0.8,0.8]"});
 }
 
 TEST(LeavingABox, ByAButtonThatTheVerdictDisablesDoesNotClickIt) {
   Ward session;
-  const Lines printed = session.Play(InEmptied("txtWRLower") + "type 0.9\nclick cmdEnter\nget cmdEnter.Enabled\ndata WeightDone");
+  const Lines printed =
+      session.Play(InEmptied("txtWRLower") + "type 0.9\nclick cmdEnter\nget cmdEnter.Enabled\ndata WeightDone");
   EXPECT_EQ(Values(printed), (Lines{"false", "[true,false,false,true,false,false,false]"}));
   EXPECT_EQ(session.Status(), 0);
 }
@@ -131,9 +143,10 @@ TEST(LeavingABox, WithAnUpperValueBelowTheLowerOneSwapsTheTwo) {
 
 TEST(LeavingABox, OfThePairOfReferencesMovesOneHandleAndPassesTheOrdinaryCheck) {
   // The cost reference has rank 2: Doctors above is not judged yet, Night below neither.
-  EXPECT_EQ(Ward().Ask(Choose(kNurses) + "focus txtWRUpper\nkey Ctrl+A\nkey Backspace\ntype 2\nkey Tab\nget txtWRLower.Text\n"
-                                         "get txtWRUpper.Text\nget picHandle(0).Left\nget picHandle(1).Left"),
-            (Lines{R"("1.00")", R"("2.00")", "85.2", "123"}));
+  EXPECT_EQ(
+      Ward().Ask(Choose(kNurses) + "focus txtWRUpper\nkey Ctrl+A\nkey Backspace\ntype 2\nkey Tab\nget txtWRLower.Text\n"
+                                   "get txtWRUpper.Text\nget picHandle(0).Left\nget picHandle(1).Left"),
+      (Lines{R"("1.00")", R"("2.00")", "85.2", "123"}));
   EXPECT_EQ(Ward().Ask(Enter(kDoctors, 150, 160) + Choose(kNurses) +
                        "focus txtWRUpper\nkey Ctrl+A\nkey Backspace\ntype 2\nkey Tab\nget shpAlarm(2).FillColor\n"
                        "get cmdEnter.Enabled"),
@@ -141,7 +154,8 @@ TEST(LeavingABox, OfThePairOfReferencesMovesOneHandleAndPassesTheOrdinaryCheck) 
 }
 
 TEST(Return, MovesTheHandleAndLeavesTheFocusOnReStart) {
-  const Lines printed = Ward().Play(InEmptied("txtWRLower") + "type 1.2\nkey Return\nget txtWRLower.Text\nget picHandle(0).Left");
+  const Lines printed =
+      Ward().Play(InEmptied("txtWRLower") + "type 1.2\nkey Return\nget txtWRLower.Text\nget picHandle(0).Left");
   EXPECT_EQ(printed[0], kToReStart);
   EXPECT_EQ(Values(printed), (Lines{R"("1.20")", "144"}));
   EXPECT_EQ(Only(printed, "focus").size(), 1U);
@@ -160,15 +174,18 @@ TEST(Return, OnAFailedCheckKeepsTheWholeTextSelected) {
 
 TEST(Return, LeavesTheTextWholeWhereverTheCaretStands) {
   // Off the chart the boxes keep what was typed.
-  EXPECT_EQ(Ward().Ask(InEmptied("txtWRUpper") + "type 31.5\nkey Left\nkey Return\nget txtWRUpper.Text\nget shpAlarm(1).FillColor"),
+  EXPECT_EQ(Ward().Ask(InEmptied("txtWRUpper") +
+                       "type 31.5\nkey Left\nkey Return\nget txtWRUpper.Text\nget shpAlarm(1).FillColor"),
             (Lines{R"("31.5")", "2056"}));
 }
 
 TEST(Return, AfterReStartHasNoButtonToGoToAndDoesTheRest) {
-  const String before = "click cmdReStart\n" + Choose(kCare) + Wedge(125, 150) + "focus txtWRLower\nkey Ctrl+A\nkey Backspace\n";
+  const String before =
+      "click cmdReStart\n" + Choose(kCare) + Wedge(125, 150) + "focus txtWRLower\nkey Ctrl+A\nkey Backspace\n";
   Ward session;
-  const Lines printed = session.Play(before + "type 1.2\nkey Return\nget picHandle(0).Left\nget txtWRLower.Text\n"
-                                              "get cmdReStart.Enabled\ntype 7\nget txtWRLower.Text");
+  const Lines printed = session.Play(before +
+                                     "type 1.2\nkey Return\nget picHandle(0).Left\nget txtWRLower.Text\n"
+                                     "get cmdReStart.Enabled\ntype 7\nget txtWRLower.Text");
   EXPECT_EQ(Only(printed, R"({"focus")"), Lines{});
   EXPECT_EQ(Values(printed), (Lines{"144", R"("1.20")", "false", R"("71.20")"}));
   const Lines refused = session.Play(before + "type 9\nkey Return");
@@ -176,14 +193,16 @@ TEST(Return, AfterReStartHasNoButtonToGoToAndDoesTheRest) {
 }
 
 TEST(Return, AfterTheNextCommitGoesToReStartAgain) {
-  const Lines printed = Ward().Play("click cmdReStart\nclick cmdEnter\n" + Choose(kCare) + "focus txtWRUpper\nkey Return");
+  const Lines printed =
+      Ward().Play("click cmdReStart\nclick cmdEnter\n" + Choose(kCare) + "focus txtWRUpper\nkey Return");
   EXPECT_EQ(Only(printed, R"({"focus")"), Lines{kToReStart});
 }
 
 TEST(TypedValue, OfTheOtherBoxJumpsOntoTheOtherHandleExactly) {
   Ward session;
-  EXPECT_EQ(session.Ask(InEmptied("txtWRUpper") + "type 1.25\nkey Return\nget picHandle(1).Left\nget picHandle(1).Top\n"
-                                                  "get picHandle(0).Left\nget BorderL(1).X2\nget BorderL(1).Y2\nget txtWRUpper.Text"),
+  EXPECT_EQ(session.Ask(InEmptied("txtWRUpper") +
+                        "type 1.25\nkey Return\nget picHandle(1).Left\nget picHandle(1).Top\n"
+                        "get picHandle(0).Left\nget BorderL(1).X2\nget BorderL(1).Y2\nget txtWRUpper.Text"),
             (Lines{"97", "124", "97", "100", "127", R"("1.25")"}));
   EXPECT_EQ(session.Ask(InEmptied("txtWRLower") + "type 1.5\nkey Return\nget picHandle(0).Left\nget picHandle(0).Top"),
             (Lines{"97", "99"}));
@@ -192,17 +211,22 @@ TEST(TypedValue, OfTheOtherBoxJumpsOntoTheOtherHandleExactly) {
 TEST(TypedValue, GoesToTheHandleThatIsLowerBySlope) {
   const String crossed = Choose(kCare) + Wedge(150, 125);
   Ward session;
-  EXPECT_EQ(session.Ask(crossed + "get txtWRLower.Text\nfocus txtWRLower\nkey Ctrl+A\ntype 1.2\nkey Return\n"
-                                  "get picHandle(0).Left\nget picHandle(1).Left\nget txtWRLower.Text\nget txtWRUpper.Text"),
-            (Lines{R"("1.25")", "97", "144", R"("1.20")", R"("1.50")"}));
-  EXPECT_EQ(session.Ask(crossed + "focus txtWRUpper\nkey Ctrl+A\ntype 2\nkey Return\nget picHandle(0).Left\nget picHandle(1).Left"),
-            (Lines{"85.2", "97"}));
+  EXPECT_EQ(
+      session.Ask(crossed + "get txtWRLower.Text\nfocus txtWRLower\nkey Ctrl+A\ntype 1.2\nkey Return\n"
+                            "get picHandle(0).Left\nget picHandle(1).Left\nget txtWRLower.Text\nget txtWRUpper.Text"),
+      (Lines{R"("1.25")", "97", "144", R"("1.20")", R"("1.50")"}));
+  EXPECT_EQ(
+      session.Ask(crossed +
+                  "focus txtWRUpper\nkey Ctrl+A\ntype 2\nkey Return\nget picHandle(0).Left\nget picHandle(1).Left"),
+      (Lines{"85.2", "97"}));
 }
 
 TEST(TypedValue, OnEqualSlopesTakesTheSecondHandleAsTheLowerOne) {
   Ward session;
-  EXPECT_EQ(session.Ask(Choose(kCare) + "focus txtWRLower\nkey Ctrl+A\ntype 1.1\nkey Return\nget picHandle(0).Left\nget picHandle(1).Left"),
-            (Lines{"144", "157.36363"}));
+  EXPECT_EQ(
+      session.Ask(Choose(kCare) +
+                  "focus txtWRLower\nkey Ctrl+A\ntype 1.1\nkey Return\nget picHandle(0).Left\nget picHandle(1).Left"),
+      (Lines{"144", "157.36363"}));
 }
 
 TEST(TypedValue, OfOneStandsInTheCentre) {
@@ -212,19 +236,22 @@ TEST(TypedValue, OfOneStandsInTheCentre) {
 
 TEST(TypedValue, BesideAHandleOnTheLeftEdgeDividesByZero) {
   Ward session;
-  const String edge = Choose(kCare) + "drag picHandle(0) picTradeOffsRange 0 100\nfocus txtWRLower\nkey Ctrl+A\ntype 1.1\n";
+  const String edge =
+      Choose(kCare) + "drag picHandle(0) picTradeOffsRange 0 100\nfocus txtWRLower\nkey Ctrl+A\ntype 1.1\n";
   EXPECT_EQ(Only(session.Play(edge + "key Return"), "runtime_error"),
             Lines{R"({"runtime_error":11,"description":"Division by zero","in":"frmDirectB.txtWRLower_KeyPress"})"});
   EXPECT_EQ(Only(session.Play(edge + "key Tab"), "runtime_error"),
             Lines{R"({"runtime_error":11,"description":"Division by zero","in":"frmDirectB.txtWRLower_LostFocus"})"});
-  const String corner = Choose(kCare) + "drag picHandle(0) picTradeOffsRange 0 252\nfocus txtWRLower\nkey Ctrl+A\ntype 1.1\n";
+  const String corner =
+      Choose(kCare) + "drag picHandle(0) picTradeOffsRange 0 252\nfocus txtWRLower\nkey Ctrl+A\ntype 1.1\n";
   EXPECT_EQ(Only(session.Play(corner + "key Return"), "runtime_error"),
             Lines{R"({"runtime_error":6,"description":"Overflow","in":"frmDirectB.txtWRLower_KeyPress"})"});
 }
 
 TEST(Check, NamesTheUpperValueInDefaultForm) {
-  EXPECT_EQ(Ward().Play(InEmptied("txtWRUpper") + "type 00000.50\nfocus txtWRLower\nkey Ctrl+A\ntype 7\nkey Return").back(),
-            TooLarge("1.25"));
+  EXPECT_EQ(
+      Ward().Play(InEmptied("txtWRUpper") + "type 00000.50\nfocus txtWRLower\nkey Ctrl+A\ntype 7\nkey Return").back(),
+      TooLarge("1.25"));
 }
 
 TEST(Check, LetsAValueEqualToTheUpperOnePass) {

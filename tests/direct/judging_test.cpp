@@ -7,25 +7,34 @@ namespace Tarnwise {
 namespace {
 
 TEST(Enter, StoresWhatTheBoxesShowAndNotTheHandlesFullPrecision) {
-  EXPECT_EQ(Ward().Ask("drag picHandle(0) picTradeOffsRange 99 126\ndrag picHandle(1) picTradeOffsRange 97 100\nclick cmdEnter\n"
-                       "data WeightsL\ndata Weights\ndata WeightsH"),
-            (Lines{"[1,1.27,1.2,1,0.8,0.8,0.8]", "[1,1.42,1.2,1,0.8,0.8,0.8]", "[1,1.57,1.2,1,0.8,0.8,0.8]"}));
+  EXPECT_EQ(
+      Ward().Ask(
+          "drag picHandle(0) picTradeOffsRange 99 126\ndrag picHandle(1) picTradeOffsRange 97 100\nclick cmdEnter\n"
+          "data WeightsL\ndata Weights\ndata WeightsH"),
+      (Lines{"[1,1.27,1.2,1,0.8,0.8,0.8]", "[1,1.42,1.2,1,0.8,0.8,0.8]", "[1,1.57,1.2,1,0.8,0.8,0.8]"}));
 }
 
 TEST(Enter, RunsUnderTheHourglassAndDisablesItself) {
-  EXPECT_EQ(Ward().Play("click cmdReStart\nclick cmdEnter\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled").back(),
-            R"({"get":"cmdNext.Enabled","value":false})");
-  EXPECT_EQ(Ward().Play("click cmdEnter\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled\nget cmdFinish.Enabled"),
-            (Lines{R"({"pointer":11})", R"({"pointer":0})", R"({"get":"cmdEnter.Enabled","value":false})",
-                   R"({"get":"cmdReStart.Enabled","value":true})", R"({"get":"cmdNext.Enabled","value":false})",
-                   R"({"get":"cmdFinish.Enabled","value":false})"}));
+  EXPECT_EQ(
+      Ward()
+          .Play("click cmdReStart\nclick cmdEnter\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled")
+          .back(),
+      R"({"get":"cmdNext.Enabled","value":false})");
+  EXPECT_EQ(
+      Ward().Play(
+          "click cmdEnter\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled\nget cmdFinish.Enabled"),
+      (Lines{R"({"pointer":11})", R"({"pointer":0})", R"({"get":"cmdEnter.Enabled","value":false})",
+             R"({"get":"cmdReStart.Enabled","value":true})", R"({"get":"cmdNext.Enabled","value":false})",
+             R"({"get":"cmdFinish.Enabled","value":false})"}));
 }
 
 TEST(Enter, MarksTheTargetAndItsPeersWithTheirNamesAsStored) {
-  EXPECT_EQ(Ward().Ask(Enter(kResearch, 30, 60) + "get imgcmbTargetAtt.Items\ndata WeightDone\ndata WeightsL\ndata WeightsH\n"
-                                                  "get imgcmbTargetAtt.SelectedItem"),
-            (Lines{R"(["Beds","Doctors","Care","Nurses"," ¤ Research","Night"," ¤ Rest "])",
-                   "[true,false,false,true,true,false,true]", "[1,1.2,1.2,1,0.3,0.8,0.3]", "[1,1.2,1.2,1,0.6,0.8,0.6]", "5"}));
+  EXPECT_EQ(
+      Ward().Ask(Enter(kResearch, 30, 60) + "get imgcmbTargetAtt.Items\ndata WeightDone\ndata WeightsL\ndata WeightsH\n"
+                                            "get imgcmbTargetAtt.SelectedItem"),
+      (Lines{R"(["Beds","Doctors","Care","Nurses"," ¤ Research","Night"," ¤ Rest "])",
+             "[true,false,false,true,true,false,true]", "[1,1.2,1.2,1,0.3,0.8,0.3]", "[1,1.2,1.2,1,0.6,0.8,0.6]",
+             "5"}));
 }
 
 TEST(Enter, OfTheLastRankEnablesNextAndFinish) {
@@ -38,9 +47,10 @@ TEST(Enter, OfTheLastRankEnablesNextAndFinish) {
 
 TEST(Enter, OnThePairOfReferencesSetsTheirRatioAndNothingElse) {
   Ward session;
-  EXPECT_EQ(session.Play("click cmdReStart\n" + Choose(kBeds) +
-                         "drag picHandle(0) picTradeOffsRange 100 51\nclick cmdEnter\ndata RefAttWR\ndata WeightDone\n"
-                         "get cmdEnter.Enabled\nget cmdReStart.Enabled\nget imgcmbTargetAtt.Items\ndata Weights")
+  EXPECT_EQ(session
+                .Play("click cmdReStart\n" + Choose(kBeds) +
+                      "drag picHandle(0) picTradeOffsRange 100 51\nclick cmdEnter\ndata RefAttWR\ndata WeightDone\n"
+                      "get cmdEnter.Enabled\nget cmdReStart.Enabled\nget imgcmbTargetAtt.Items\ndata Weights")
                 .back(),
             R"({"data":"Weights","value":[1,1.2,1.2,1,0.8,0.8,0.8]})");
   EXPECT_EQ(session.Ask("click cmdReStart\n" + Choose(kBeds) +
@@ -51,8 +61,9 @@ TEST(Enter, OnThePairOfReferencesSetsTheirRatioAndNothingElse) {
 }
 
 TEST(Enter, OnThePairOfReferencesReadsTheLowerBoxAlone) {
-  EXPECT_EQ(Ward().Ask(Choose(kBeds) + "focus txtWRUpper\nkey Ctrl+A\ntype 2\nkey Return\nget txtWRLower.Text\nget txtWRUpper.Text\n"
-                                       "click cmdEnter\ndata RefAttWR"),
+  EXPECT_EQ(Ward().Ask(Choose(kBeds) +
+                       "focus txtWRUpper\nkey Ctrl+A\ntype 2\nkey Return\nget txtWRLower.Text\nget txtWRUpper.Text\n"
+                       "click cmdEnter\ndata RefAttWR"),
             (Lines{R"("1.00")", R"("2.00")", "1"}));
 }
 
@@ -76,15 +87,16 @@ TEST(ReStart, SetsEverythingBackButTheRatioOfTheReferences) {
 }
 
 TEST(ReStart, EnablesEnterDisablesItselfAndNextAndLeavesFinish) {
-  EXPECT_EQ(Ward().Ask(JudgeAll() + "click cmdReStart\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled\n"
-                                    "get cmdFinish.Enabled"),
-            (Lines{"true", "false", "false", "true"}));
+  EXPECT_EQ(
+      Ward().Ask(JudgeAll() + "click cmdReStart\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdNext.Enabled\n"
+                              "get cmdFinish.Enabled"),
+      (Lines{"true", "false", "false", "true"}));
   EXPECT_EQ(Ward().Ask("click cmdReStart\nget cmdFinish.Enabled"), Lines{"false"});
 }
 
 TEST(ReStart, SendsThePromptAgainUnderTheHourglass) {
-  EXPECT_EQ(Ward().Play("click cmdReStart"), (Lines{R"({"pointer":11})", R"({"pointer":11})", kPrompt, R"({"pointer":0})",
-                                                    R"({"pointer":0})"}));
+  EXPECT_EQ(Ward().Play("click cmdReStart"),
+            (Lines{R"({"pointer":11})", R"({"pointer":11})", kPrompt, R"({"pointer":0})", R"({"pointer":0})"}));
 }
 
 TEST(ReStart, FromThePairOfReferencesShowsTheFirstTargetsOrderPanel) {
@@ -101,25 +113,31 @@ TEST(ReStart, NeedsAnotherCommitBeforeItCanBeClickedAgain) {
 }
 
 TEST(Next, ShowsTheResultsOfWhatIsStored) {
-  EXPECT_EQ(Ward().Ask(JudgeAll() + "click cmdNext\nget frmDirectB.Caption\nget cmdBack.Enabled\nget cmdNext.Enabled\n"
-                                    "get cmdFinish.Enabled\nget gridBRJ.TextMatrix\nget gridCRJ.TextMatrix\nget gridBRJ.Rows\n"
-                                    "get gridCRJ.Cols\nget tsWeightRatios.Items"),
-            (Lines{R"("Tarnwise: Results of the value judgments")", "true", "false", "true",
-                   R"([["ID","Attributes","Weights","Weight ratios","Ratio ranges"],["1","Beds","Wb1","Wb1/Wb1","1"],["2","Care","Wb2","Wb2/Wb1","1.20,     1.50"],["3","Research","Wb3","Wb3/Wb1","0.30,     0.60"],["4","Rest","Wb4","Wb4/Wb1","0.30,     0.60"]])",
-                   R"([["ID","Attributes","Weights","Weight ratios","Ratio ranges"],["1","Doctors","Wc1","Wc1/Wc2","1.30,     1.40"],["2","Nurses","Wc2","Wc2/Wc2","1"],["3","Night","Wc3","Wc3/Wc2","0.70,     0.70"]])",
-                   "5", "5", R"(["Benefit value judgments","Cost value judgments"])"}));
+  EXPECT_EQ(
+      Ward().Ask(JudgeAll() +
+                 "click cmdNext\nget frmDirectB.Caption\nget cmdBack.Enabled\nget cmdNext.Enabled\n"
+                 "get cmdFinish.Enabled\nget gridBRJ.TextMatrix\nget gridCRJ.TextMatrix\nget gridBRJ.Rows\n"
+                 "get gridCRJ.Cols\nget tsWeightRatios.Items"),
+      (Lines{
+          R"("Tarnwise: Results of the value judgments")", "true", "false", "true",
+          R"([["ID","Attributes","Weights","Weight ratios","Ratio ranges"],["1","Beds","Wb1","Wb1/Wb1","1"],["2","Care","Wb2","Wb2/Wb1","1.20,     1.50"],["3","Research","Wb3","Wb3/Wb1","0.30,     0.60"],["4","Rest","Wb4","Wb4/Wb1","0.30,     0.60"]])",
+          R"([["ID","Attributes","Weights","Weight ratios","Ratio ranges"],["1","Doctors","Wc1","Wc1/Wc2","1.30,     1.40"],["2","Nurses","Wc2","Wc2/Wc2","1"],["3","Night","Wc3","Wc3/Wc2","0.70,     0.70"]])",
+          "5", "5", R"(["Benefit value judgments","Cost value judgments"])"}));
 }
 
 TEST(Next, BringsTheResultsAndOnThemTheBenefitGridToTheFront) {
   Ward session;
-  EXPECT_EQ(Only(session.Play(JudgeAll() + "click cmdNext\nclick cmdEnter\nclick gridBRJ\nclick gridCRJ"), "refused").size(), 2U);
+  EXPECT_EQ(
+      Only(session.Play(JudgeAll() + "click cmdNext\nclick cmdEnter\nclick gridBRJ\nclick gridCRJ"), "refused").size(),
+      2U);
   EXPECT_EQ(Only(session.Play(JudgeAll() + "click cmdNext\nclick gridBRJ"), "refused"), Lines{});
 }
 
 TEST(Results, TabsShowOneGridAndHideTheOther) {
   const String shown = "get gridBRJ.Visible\nget gridCRJ.Visible\n";
-  EXPECT_EQ(Ward().Ask(JudgeAll() + "click cmdNext\nselect tsWeightRatios 2\n" + shown + "select tsWeightRatios 1\n" + shown),
-            (Lines{"false", "true", "true", "false"}));
+  EXPECT_EQ(
+      Ward().Ask(JudgeAll() + "click cmdNext\nselect tsWeightRatios 2\n" + shown + "select tsWeightRatios 1\n" + shown),
+      (Lines{"false", "true", "true", "false"}));
 }
 
 TEST(Results, KeepTheTabThatWasChosenOnAnEarlierVisit) {
@@ -129,22 +147,26 @@ TEST(Results, KeepTheTabThatWasChosenOnAnEarlierVisit) {
 }
 
 TEST(Back, FromTheResultsDisablesFinishAndEnablesNext) {
-  EXPECT_EQ(Ward().Ask(JudgeAll() + "click cmdNext\nclick cmdBack\nget frmDirectB.Caption\nget cmdFinish.Enabled\n"
-                                    "get cmdNext.Enabled\nget cmdBack.Enabled\nget cmdEnter.Enabled\n" + Choose(kCare) +
-                       "get txtWRUpper.Text"),
-            (Lines{R"("Tarnwise: Estimate intervals of the weight ratios")", "false", "true", "true", "false", R"("1.50")"}));
+  EXPECT_EQ(
+      Ward().Ask(JudgeAll() +
+                 "click cmdNext\nclick cmdBack\nget frmDirectB.Caption\nget cmdFinish.Enabled\n"
+                 "get cmdNext.Enabled\nget cmdBack.Enabled\nget cmdEnter.Enabled\n" +
+                 Choose(kCare) + "get txtWRUpper.Text"),
+      (Lines{R"("Tarnwise: Estimate intervals of the weight ratios")", "false", "true", "true", "false", R"("1.50")"}));
 }
 
 TEST(Back, FromTheJudgmentsGoesToTheOrderingStepAsItWasLeft) {
-  EXPECT_EQ(Ward().Play("click cmdBack\nget frmIniImpOrder.Caption\nget lblBRefAtt.Caption"),
-            (Lines{R"({"hide":"frmDirectB"})", R"({"show":"frmIniImpOrder","modal":false})", R"({"release":"frmDirectB"})",
-                   R"({"get":"frmIniImpOrder.Caption","value":"Tarnwise: Designate reference attributes"})",
-                   R"({"get":"lblBRefAtt.Caption","value":"Beds"})"}));
+  EXPECT_EQ(
+      Ward().Play("click cmdBack\nget frmIniImpOrder.Caption\nget lblBRefAtt.Caption"),
+      (Lines{R"({"hide":"frmDirectB"})", R"({"show":"frmIniImpOrder","modal":false})", R"({"release":"frmDirectB"})",
+             R"({"get":"frmIniImpOrder.Caption","value":"Tarnwise: Designate reference attributes"})",
+             R"({"get":"lblBRefAtt.Caption","value":"Beds"})"}));
 }
 
 TEST(Back, AndForwardAgainSeedsTheRatiosAnew) {
-  EXPECT_EQ(Ward().Ask(JudgeAll() + "click cmdBack\nclick cmdNext\ndata WeightsH\nget cmdNext.Enabled\nget cmdFinish.Enabled\n"
-                                    "get cmdReStart.Enabled"),
+  EXPECT_EQ(Ward().Ask(JudgeAll() +
+                       "click cmdBack\nclick cmdNext\ndata WeightsH\nget cmdNext.Enabled\nget cmdFinish.Enabled\n"
+                       "get cmdReStart.Enabled"),
             (Lines{"[1,1.2,1.2,1,0.8,0.8,0.8]", "false", "false", "true"}));
 }
 
@@ -157,16 +179,18 @@ TEST(Finish, ExportsUnderTheHourglassAndEndsTheWizard) {
     EXPECT_EQ(Lines(printed.end() - 9, printed.end()),
               (Lines{R"({"pointer":11})", kExport, R"({"pointer":0})",
                      R"({"event":"UnloadTarnwise","fIndex":3,"WeightsDone":true})", R"({"hide":"frmDirectB"})",
-                     R"({"release":"frmTRNSelMethod"})", R"({"release":"frmDirectB"})", R"({"release":"frmIniImpOrder"})",
-                     R"({"forms":[]})"}))
+                     R"({"release":"frmTRNSelMethod"})", R"({"release":"frmDirectB"})",
+                     R"({"release":"frmIniImpOrder"})", R"({"forms":[]})"}))
         << way;
   }
 }
 
 TEST(Finish, AfterReStartExportsTheDefaults) {
   const Lines printed = Ward().Play(JudgeAll() + "click cmdReStart\nclick cmdFinish");
-  EXPECT_EQ(Only(printed, "ExportDirectBW"),
-            Lines{R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":3,"RefAttWR":1,"Weights":[1,1.2,1.2,1,0.8,0.8,0.8],"WeightsH":[1,1.2,1.2,1,0.8,0.8,0.8],"WeightsL":[1,1.2,1.2,1,0.8,0.8,0.8]})"});
+  EXPECT_EQ(
+      Only(printed, "ExportDirectBW"),
+      Lines{
+          R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":3,"RefAttWR":1,"Weights":[1,1.2,1.2,1,0.8,0.8,0.8],"WeightsH":[1,1.2,1.2,1,0.8,0.8,0.8],"WeightsL":[1,1.2,1.2,1,0.8,0.8,0.8]})"});
 }
 
 TEST(Finish, OfAResumedSessionHandsBackWhatWasStored) {
@@ -174,12 +198,15 @@ TEST(Finish, OfAResumedSessionHandsBackWhatWasStored) {
   StoreJudgments(model, kDirectType, 0, 3, 0.37, {1.0, 2.0, 2.0, 1.0, 0.5, 0.5, 0.5});
   Session session(model);
   session.Given("host show\nclick cmdNext\nclick cmdNext\nclick cmdNext");
-  EXPECT_EQ(Only(session.Play("click cmdFinish"), "ExportDirectBW"),
-            Lines{R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":3,"RefAttWR":0.37,"Weights":[1,2,2,1,0.5,0.5,0.5],"WeightsH":[1.125,2.125,2.125,1.125,0.625,0.625,0.625],"WeightsL":[0.875,1.875,1.875,0.875,0.375,0.375,0.375]})"});
+  EXPECT_EQ(
+      Only(session.Play("click cmdFinish"), "ExportDirectBW"),
+      Lines{
+          R"({"event":"ExportDirectBW","RJType":"DEA_DIRECT","BRefAttID":0,"CRefAttID":3,"RefAttWR":0.37,"Weights":[1,2,2,1,0.5,0.5,0.5],"WeightsH":[1.125,2.125,2.125,1.125,0.625,0.625,0.625],"WeightsL":[0.875,1.875,1.875,0.875,0.375,0.375,0.375]})"});
 }
 
 TEST(Cancel, OnEitherPageOnlyUnloads) {
-  for (const String& way : {String("click cmdCancel"), String("close"), JudgeAll() + "click cmdNext\nclick cmdCancel"}) {
+  for (const String& way :
+       {String("click cmdCancel"), String("close"), JudgeAll() + "click cmdNext\nclick cmdCancel"}) {
     const Lines printed = Ward().Play("host answer off\n" + way + "\nget frmDirectB.Visible");
     EXPECT_EQ(Lines(printed.end() - 2, printed.end()),
               (Lines{R"({"event":"UnloadTarnwise","fIndex":3,"WeightsDone":false})",

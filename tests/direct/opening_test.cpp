@@ -20,10 +20,11 @@ TEST(Opening, SaysItsPromptUnderTheHourglassBeforeItIsShown) {
   Session session(WardModel());
   const String way = ToDirectStep(WardRanks(), 0, 3);
   session.Given(way.substr(0, way.rfind("click cmdNext")));
-  EXPECT_EQ(session.Play("click cmdNext"),
-            (Lines{R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})",
-                   R"({"event":"SendMasseges","Msg":" Indicate a value reference region on the two selected attributes."})",
-                   R"({"pointer":0})", R"({"show":"frmDirectB","modal":true})"}));
+  EXPECT_EQ(
+      session.Play("click cmdNext"),
+      (Lines{R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})",
+             R"({"event":"SendMasseges","Msg":" Indicate a value reference region on the two selected attributes."})",
+             R"({"pointer":0})", R"({"show":"frmDirectB","modal":true})"}));
 }
 
 TEST(Opening, ShowsTheFirstTargetWithItsDefaultAndAllButNextAndFinish) {
@@ -31,8 +32,8 @@ TEST(Opening, ShowsTheFirstTargetWithItsDefaultAndAllButNextAndFinish) {
                        "get txtWRUpper.Text\nget cmdEnter.Enabled\nget cmdReStart.Enabled\nget cmdBack.Enabled\n"
                        "get cmdNext.Enabled\nget cmdFinish.Enabled\nget cmdCancel.Enabled\nget cmdHelp.Enabled\n"
                        "get tsTab.SelectedItem\ndata BRankCount\ndata CRankCount"),
-            (Lines{R"("Tarnwise: Estimate intervals of the weight ratios")", "2", R"("1.20")", R"("1.20")", "true", "true",
-                   "true", "false", "false", "true", "true", "1", "4", "3"}));
+            (Lines{R"("Tarnwise: Estimate intervals of the weight ratios")", "2", R"("1.20")", R"("1.20")", "true",
+                   "true", "true", "false", "false", "true", "true", "1", "4", "3"}));
 }
 
 TEST(Opening, SizesTheChartToTwoHundredAndFiftyTwoUnits) {
@@ -60,10 +61,12 @@ TEST(Opening, HasTheWordsOfTheStage) {
 }
 
 TEST(Opening, LabelsTheBoxesAndTheRanges) {
-  Lines captions = Ward().Ask("get Label1(0).Caption\nget Label1(1).Caption\nget Label1(2).Caption\nget Label1(3).Caption");
+  Lines captions =
+      Ward().Ask("get Label1(0).Caption\nget Label1(1).Caption\nget Label1(2).Caption\nget Label1(3).Caption");
   std::sort(captions.begin(), captions.end());
   EXPECT_EQ(captions, (Lines{R"("/1")", R"("/1")", R"("From:")", R"("To:")"}));
-  Lines series = Ward().Ask("get lblseries(1).Caption\nget lblseries(3).Caption\nget lblseries(4).Caption\nget lblseries(5).Caption");
+  Lines series = Ward().Ask(
+      "get lblseries(1).Caption\nget lblseries(3).Caption\nget lblseries(4).Caption\nget lblseries(5).Caption");
   std::sort(series.begin(), series.end());
   EXPECT_EQ(series, (Lines{R"("From")", R"("From")", R"("to")", R"("to")"}));
 }
@@ -100,9 +103,10 @@ TEST(TargetList, NumbersEachGroupFromOneAndMarksTheReferencesByTheirPictures) {
   step.Open();
   Lines items;
   for (const auto& item : step.Form->imgcmbTargetAtt.Items) items.push_back(Show(item));
-  EXPECT_EQ(items, (Lines{"Benefit1|Beds|Smiling2|Smiling2", "Cost1|Doctors|Crying|Crying1", "Benefit2|Care|Smiling|Smiling1",
-                          "Cost2|Nurses|Crying2|Crying2", "Benefit3|Research|Smiling|Smiling1",
-                          "Cost3|Night|Crying|Crying1", "Benefit4|Rest|Smiling|Smiling1"}));
+  EXPECT_EQ(items,
+            (Lines{"Benefit1|Beds|Smiling2|Smiling2", "Cost1|Doctors|Crying|Crying1", "Benefit2|Care|Smiling|Smiling1",
+                   "Cost2|Nurses|Crying2|Crying2", "Benefit3|Research|Smiling|Smiling1", "Cost3|Night|Crying|Crying1",
+                   "Benefit4|Rest|Smiling|Smiling1"}));
 }
 
 TEST(TargetList, CountsAnAttributeOfNeitherGroupAsCost) {
@@ -160,10 +164,10 @@ TEST(Pair, ShowsNamesDescriptionsAndMarks) {
   const String ask =
       "get lblChartTarAtt.Caption\nget lblChartRefAtt.Caption\nget lblTargetAtt.Caption\nget lblRefAtt.Caption\n"
       "get imgTargetAtt.ToolTipText\nget imgRefAtt.ToolTipText";
-  EXPECT_EQ(session.Ask(Choose(kCare) + ask), (Lines{R"("Care")", R"("Beds")", R"("Care")", R"("Beds")",
-                                                      R"("All about Care")", R"("All about Beds")"}));
+  EXPECT_EQ(session.Ask(Choose(kCare) + ask),
+            (Lines{R"("Care")", R"("Beds")", R"("Care")", R"("Beds")", R"("All about Care")", R"("All about Beds")"}));
   EXPECT_EQ(session.Ask(Choose(kBeds) + ask), (Lines{R"("Nurses")", R"("Beds")", R"("Nurses")", R"("Beds")",
-                                                      R"("All about Nurses")", R"("All about Beds")"}));
+                                                     R"("All about Nurses")", R"("All about Beds")"}));
 }
 
 TEST(Pair, TakesItsMarksFromTheFourStoredPictures) {
@@ -189,11 +193,10 @@ TEST(Pair, TakesItsMarksFromTheFourStoredPictures) {
 TEST(Pair, ShowsRangesWorstFirstForABenefitTargetAndBestFirstForACostTarget) {
   Ward session;
   const String ask =
-      "get lblTarRangeLow.Caption\nget lblTarRangeHigh.Caption\nget lblRefRangeLow.Caption\nget lblRefRangeHigh.Caption";
-  EXPECT_EQ(session.Ask(Choose(kCare) + ask),
-            (Lines{R"("2.5")", R"("3000000.75")", R"("0.5")", R"("1000000.25")"}));
-  EXPECT_EQ(session.Ask(Choose(kNight) + ask),
-            (Lines{R"("6000001.5")", R"("5.5")", R"("4000001")", R"("3.5")"}));
+      "get lblTarRangeLow.Caption\nget lblTarRangeHigh.Caption\nget lblRefRangeLow.Caption\nget "
+      "lblRefRangeHigh.Caption";
+  EXPECT_EQ(session.Ask(Choose(kCare) + ask), (Lines{R"("2.5")", R"("3000000.75")", R"("0.5")", R"("1000000.25")"}));
+  EXPECT_EQ(session.Ask(Choose(kNight) + ask), (Lines{R"("6000001.5")", R"("5.5")", R"("4000001")", R"("3.5")"}));
 }
 
 TEST(Pair, OfTheReferencesShowsTheBenefitReferencesRangeBestFirstToo) {
@@ -212,11 +215,13 @@ TEST(Opening, OnAModelThatTiesEndsWithTheMessageOverTheOrderingStep) {
   Session session(ModelFor(tied));
   const String way = ToDirectStep(tied, 0, 2);
   session.Given(way.substr(0, way.rfind("click cmdNext")));
-  EXPECT_EQ(session.Play("click cmdNext\nforms"),
-            (Lines{R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})", R"({"release":"frmDirectB"})",
-                   R"({"show":"frmIniImpOrder","modal":false})", R"({"pointer":0})",
-                   R"({"runtime_error":9,"description":"Subscript out of range","in":"frmDirectB.Form_Load"})",
-                   R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})"}));
+  EXPECT_EQ(
+      session.Play("click cmdNext\nforms"),
+      (Lines{
+          R"({"hide":"frmIniImpOrder"})", R"({"pointer":11})", R"({"release":"frmDirectB"})",
+          R"({"show":"frmIniImpOrder","modal":false})", R"({"pointer":0})",
+          R"({"runtime_error":9,"description":"Subscript out of range","in":"frmDirectB.Form_Load"})",
+          R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})"}));
 }
 
 // Stored judgments.
@@ -235,17 +240,19 @@ struct Resumed : Session {
 
 TEST(Resuming, OpensWithEverythingDoneAndNextAndFinishEnabled) {
   for (const char* type : {kDirectType, kTradeOffsType}) {
-    EXPECT_EQ(Resumed(type).Ask("data WeightDone\nget cmdNext.Enabled\nget cmdFinish.Enabled\nget imgcmbTargetAtt.Items\n"
-                                "get cmdEnter.Enabled\ndata RefAttWR"),
-              (Lines{"[true,true,true,true,true,true,true]", "true", "true",
-                     R"(["Beds"," ¤ Doctors"," ¤  Care ","Nurses"," ¤ Research"," ¤ Night"," ¤ Rest "])", "true", "0.37"}));
+    EXPECT_EQ(
+        Resumed(type).Ask("data WeightDone\nget cmdNext.Enabled\nget cmdFinish.Enabled\nget imgcmbTargetAtt.Items\n"
+                          "get cmdEnter.Enabled\ndata RefAttWR"),
+        (Lines{"[true,true,true,true,true,true,true]", "true", "true",
+               R"(["Beds"," ¤ Doctors"," ¤  Care ","Nurses"," ¤ Research"," ¤ Night"," ¤ Rest "])", "true", "0.37"}));
   }
 }
 
 TEST(Resuming, ShowsTheStoredIntervalOfTheFirstTargetAndOfAnyOther) {
   Resumed session(kDirectType);
   EXPECT_EQ(session.Ask("get txtWRLower.Text\nget txtWRUpper.Text"), (Lines{R"("1.87")", R"("2.13")"}));
-  EXPECT_EQ(session.Ask(Choose(kNight) + "get txtWRLower.Text\nget txtWRUpper.Text\nget picHandle(0).Left\nget picHandle(0).Top"),
+  EXPECT_EQ(session.Ask(Choose(kNight) +
+                        "get txtWRLower.Text\nget txtWRUpper.Text\nget picHandle(0).Left\nget picHandle(0).Top"),
             (Lines{R"("0.37")", R"("0.63")", "173.4", "182.85"}));
 }
 
@@ -271,10 +278,11 @@ TEST(Resuming, GoesByTheStoredTypeAloneEvenWhenTheOrderHasChanged) {
   StoreJudgments(model, kDirectType, 0, 3, 0.37, {1.0, 2.0, 2.0, 1.0, 0.5, 0.5, 0.5});
   Session session(model);
   session.Given("host show\nclick cmdNext\nclick cmdNext\nclick cmdAttButtons(1)\nclick cmdNext");
-  EXPECT_EQ(session.Ask("data OrderChanged\ndata BRefAttID\nget cmdNext.Enabled\nget cmdFinish.Enabled\ndata WeightDone\n"
-                        "data Weights\ndata RefAttWR"),
-            (Lines{"true", "2", "true", "true", "[false,false,true,true,false,false,false]", "[0.8,1.2,1,1,0.8,0.8,0.8]",
-                   "1"}));
+  EXPECT_EQ(
+      session.Ask("data OrderChanged\ndata BRefAttID\nget cmdNext.Enabled\nget cmdFinish.Enabled\ndata WeightDone\n"
+                  "data Weights\ndata RefAttWR"),
+      (Lines{"true", "2", "true", "true", "[false,false,true,true,false,false,false]", "[0.8,1.2,1,1,0.8,0.8,0.8]",
+             "1"}));
 }
 
 // A group without attributes.
@@ -291,16 +299,18 @@ TEST(EmptyGroup, OffersNoPairOfReferences) {
 
 TEST(EmptyGroup, DoesNotTakeAttributeZeroForItsReference) {
   DirectSession session({B(1), B(2), B(3)}, 1, -1);
-  EXPECT_EQ(session.Ask(Wedge(120, 150) + "click cmdEnter\nget imgcmbTargetAtt.Items\ndata WeightsH\nselect imgcmbTargetAtt 1\n"
-                                          "get lblChartTarAtt.Caption\nget lblChartRefAtt.Caption"),
+  EXPECT_EQ(session.Ask(Wedge(120, 150) +
+                        "click cmdEnter\nget imgcmbTargetAtt.Items\ndata WeightsH\nselect imgcmbTargetAtt 1\n"
+                        "get lblChartTarAtt.Caption\nget lblChartRefAtt.Caption"),
             (Lines{R"([" ¤ Att 0","Att 1","Att 2"])", "[1.5,1,0.8]", R"("Att 0")", R"("Att 1")"}));
 }
 
 TEST(EmptyGroup, OfBenefitsLeavesTheCostGroupToBeJudgedAlone) {
   DirectSession session({C(1), C(2), C(3)}, -1, 1);
-  EXPECT_EQ(session.Ask(Wedge(120, 150) + "click cmdEnter\nselect imgcmbTargetAtt 3\nclick cmdEnter\nget cmdNext.Enabled\n"
-                                          "data Weights\nclick cmdNext\nget gridBRJ.Rows\nget gridCRJ.Rows"),
-            (Lines{"true", "[1.35,1,0.8]", "1", "4"}));
+  EXPECT_EQ(
+      session.Ask(Wedge(120, 150) + "click cmdEnter\nselect imgcmbTargetAtt 3\nclick cmdEnter\nget cmdNext.Enabled\n"
+                                    "data Weights\nclick cmdNext\nget gridBRJ.Rows\nget gridCRJ.Rows"),
+      (Lines{"true", "[1.35,1,0.8]", "1", "4"}));
 }
 
 }  // namespace

@@ -34,11 +34,11 @@ TEST(Selecting, AnotherTargetGoesBackToTheFirstTabAndItsGroupsPanel) {
 
 TEST(Selecting, AnAttributeOfTheReferencesRankIsRefusedAndTheFormerTargetChosenAgain) {
   DirectSession session({B(1), B(2), B(2), C(1)}, 1, 3);
-  EXPECT_EQ(session.Play("drag picHandle(0) picTradeOffsRange 100 100\nselect imgcmbTargetAtt 3\n"
-                         "get imgcmbTargetAtt.SelectedItem\nget lblChartTarAtt.Caption\nget txtWRUpper.Text"),
-            (Lines{R"({"beep":true})", kSameOrder, R"({"get":"imgcmbTargetAtt.SelectedItem","value":1})",
-                   R"({"get":"lblChartTarAtt.Caption","value":"Att 0"})",
-                   R"({"get":"txtWRUpper.Text","value":"1.52"})"}));
+  EXPECT_EQ(
+      session.Play("drag picHandle(0) picTradeOffsRange 100 100\nselect imgcmbTargetAtt 3\n"
+                   "get imgcmbTargetAtt.SelectedItem\nget lblChartTarAtt.Caption\nget txtWRUpper.Text"),
+      (Lines{R"({"beep":true})", kSameOrder, R"({"get":"imgcmbTargetAtt.SelectedItem","value":1})",
+             R"({"get":"lblChartTarAtt.Caption","value":"Att 0"})", R"({"get":"txtWRUpper.Text","value":"1.52"})"}));
 }
 
 TEST(Selecting, AfterARefusalOnThePairOfReferencesItIsTheCostReferencesItemThatComesBack) {
@@ -57,26 +57,31 @@ TEST(Selecting, ATargetNotJudgedYetShowsItsDefaultAndEnablesEnter) {
 
 TEST(Selecting, AJudgedTargetShowsThePointsThatItWasEnteredWith) {
   Ward session;
-  EXPECT_EQ(session.Ask(Choose(kCare) + "drag picHandle(0) picTradeOffsRange 50.5 177\n"
-                                        "drag picHandle(1) picTradeOffsRange 60 150\nclick cmdEnter\n" +
-                        Choose(kNight) + Choose(kCare) +
-                        "get picHandle(0).Left\nget picHandle(0).Top\nget BorderL(0).X2\nget BorderL(1).X2\n"
-                        "get BorderL(1).Y2\nget picTradeOffsRange.Drawing"),
-            (Lines{"47.5", "174", "50.5", "60", "150", R"([{"polygon":[[0,250],[50,177],[60,150]],"fill":12640511}])"}));
+  EXPECT_EQ(
+      session.Ask(Choose(kCare) +
+                  "drag picHandle(0) picTradeOffsRange 50.5 177\n"
+                  "drag picHandle(1) picTradeOffsRange 60 150\nclick cmdEnter\n" +
+                  Choose(kNight) + Choose(kCare) +
+                  "get picHandle(0).Left\nget picHandle(0).Top\nget BorderL(0).X2\nget BorderL(1).X2\n"
+                  "get BorderL(1).Y2\nget picTradeOffsRange.Drawing"),
+      (Lines{"47.5", "174", "50.5", "60", "150", R"([{"polygon":[[0,250],[50,177],[60,150]],"fill":12640511}])"}));
 }
 
 TEST(Selecting, APeerOfAJudgedTargetShowsTheSamePoints) {
   Ward session;
-  EXPECT_EQ(session.Ask(Choose(kResearch) + "drag picHandle(0) picTradeOffsRange 200.5 177\n"
-                                            "drag picHandle(1) picTradeOffsRange 210 150\nclick cmdEnter\n" +
-                        Choose(kRest) + "get picHandle(0).Left\nget picHandle(0).Top\nget picHandle(1).Left\nget picHandle(1).Top"),
+  EXPECT_EQ(session.Ask(Choose(kResearch) +
+                        "drag picHandle(0) picTradeOffsRange 200.5 177\n"
+                        "drag picHandle(1) picTradeOffsRange 210 150\nclick cmdEnter\n" +
+                        Choose(kRest) +
+                        "get picHandle(0).Left\nget picHandle(0).Top\nget picHandle(1).Left\nget picHandle(1).Top"),
             (Lines{"197.5", "174", "207", "147"}));
 }
 
 TEST(Selecting, APushedTargetShowsWhereItWasPushed) {
   DirectSession session({B(3), B(2), B(1), C(1)}, 0, 3);
-  EXPECT_EQ(session.Ask("select imgcmbTargetAtt 2\n" + Wedge(130, 130) +
-                        "click cmdEnter\nselect imgcmbTargetAtt 3\nget txtWRLower.Text\nget txtWRUpper.Text\ndata WeightDone"),
+  EXPECT_EQ(session.Ask(
+                "select imgcmbTargetAtt 2\n" + Wedge(130, 130) +
+                "click cmdEnter\nselect imgcmbTargetAtt 3\nget txtWRLower.Text\nget txtWRUpper.Text\ndata WeightDone"),
             (Lines{R"("1.30")", R"("1.30")", "[true,true,false,true]"}));
 }
 
@@ -88,13 +93,15 @@ TEST(Selecting, AStoredIntervalOutsideItsLimitsIsConsistentAndCanBeEnteredUntilT
   model.SavedJudgments.SavedWeightsH[2] = 1.3;
   Session session(model);
   session.Given("host show\nclick cmdNext\nclick cmdNext\nclick cmdNext");
-  const Lines shown = session.Ask("select imgcmbTargetAtt 3\nget cmdEnter.Enabled\nget shpAlarm(0).FillColor\n"
-                                  "get lblAlarm(0).ForeColor\nget shpAlarm(2).FillColor\nget Timer1.Interval\n"
-                                  "get txtWRLower.Text\nget txtWRUpper.Text");
+  const Lines shown = session.Ask(
+      "select imgcmbTargetAtt 3\nget cmdEnter.Enabled\nget shpAlarm(0).FillColor\n"
+      "get lblAlarm(0).ForeColor\nget shpAlarm(2).FillColor\nget Timer1.Interval\n"
+      "get txtWRLower.Text\nget txtWRUpper.Text");
   EXPECT_EQ(shown, (Lines{"true", "65280", "2147483662", "8421504", "0", R"("1.20")", R"("1.30")"}));
-  const Lines touched = session.Ask("select imgcmbTargetAtt 3\ndrag picHandle(0) picTradeOffsRange 100 132\n"
-                                    "get cmdEnter.Enabled\nget shpAlarm(0).FillColor\nget shpAlarm(2).FillColor\n"
-                                    "get Timer1.Interval");
+  const Lines touched = session.Ask(
+      "select imgcmbTargetAtt 3\ndrag picHandle(0) picTradeOffsRange 100 132\n"
+      "get cmdEnter.Enabled\nget shpAlarm(0).FillColor\nget shpAlarm(2).FillColor\n"
+      "get Timer1.Interval");
   EXPECT_EQ(touched, (Lines{"false", "8421504", "16512", "100"}));
 }
 
@@ -110,14 +117,16 @@ TEST(Tabs, BringTheRangesToTheFrontAndTheOrderPanelBack) {
 
 TEST(OrderPanel, StacksItsRowsWithTheirButtons) {
   Ward session;
-  EXPECT_EQ(session.Ask("get picO.Count\nget picO(0).Top\nget picO(0).Height\nget picO(1).Top\nget picO(2).Top\n"
-                        "get picO(2).Height\nget picO(2).Tag\nget lblOID(2).Caption\nget lblOID(2).Tag\nget lblOID(2).Top"),
-            (Lines{"3", "120", "515", "755", "1390", "890", R"("3")", R"("3")", R"("3")", "1390"}));
-  EXPECT_EQ(session.Ask("get cmdAttButtons.Count\nget cmdAttButtons(0).Caption\nget cmdAttButtons(0).Tag\n"
-                        "get cmdAttButtons(0).Top\nget cmdAttButtons(1).Caption\nget cmdAttButtons(1).Top\n"
-                        "get cmdAttButtons(2).Top\nget cmdAttButtons(3).Top\nget cmdAttButtons(3).Tag\n"
-                        "get cmdAttButtons(3).BackColor\nget cmdAttButtons(3).Height"),
-            (Lines{"4", R"("Beds")", R"("A0")", "815", R"("Care")", "180", "1450", "1825", R"("A6")", "12632319", "375"}));
+  EXPECT_EQ(
+      session.Ask("get picO.Count\nget picO(0).Top\nget picO(0).Height\nget picO(1).Top\nget picO(2).Top\n"
+                  "get picO(2).Height\nget picO(2).Tag\nget lblOID(2).Caption\nget lblOID(2).Tag\nget lblOID(2).Top"),
+      (Lines{"3", "120", "515", "755", "1390", "890", R"("3")", R"("3")", R"("3")", "1390"}));
+  EXPECT_EQ(
+      session.Ask("get cmdAttButtons.Count\nget cmdAttButtons(0).Caption\nget cmdAttButtons(0).Tag\n"
+                  "get cmdAttButtons(0).Top\nget cmdAttButtons(1).Caption\nget cmdAttButtons(1).Top\n"
+                  "get cmdAttButtons(2).Top\nget cmdAttButtons(3).Top\nget cmdAttButtons(3).Tag\n"
+                  "get cmdAttButtons(3).BackColor\nget cmdAttButtons(3).Height"),
+      (Lines{"4", R"("Beds")", R"("A0")", "815", R"("Care")", "180", "1450", "1825", R"("A6")", "12632319", "375"}));
   EXPECT_EQ(session.Ask("get picO1.Count\nget cmdAttButtons1.Count\nget cmdAttButtons1(0).Tag\n"
                         "get cmdAttButtons1(1).Tag\nget cmdAttButtons1(1).Top\nget cmdAttButtons1(2).Top\n"
                         "get cmdAttButtons1(2).BackColor\nget cmdAttButtons1(2).Caption"),
@@ -125,8 +134,9 @@ TEST(OrderPanel, StacksItsRowsWithTheirButtons) {
 }
 
 TEST(OrderPanel, HidesItsScrollBarWhereTheRowsFit) {
-  EXPECT_EQ(Ward().Ask("get vsrO.Visible\nget vsrO.Value\nget vsrO.Height\nget picOrderFrame.Height\nget vsrO1.Visible"),
-            (Lines{"false", "0", "2940", "3000", "false"}));
+  EXPECT_EQ(
+      Ward().Ask("get vsrO.Visible\nget vsrO.Value\nget vsrO.Height\nget picOrderFrame.Height\nget vsrO1.Visible"),
+      (Lines{"false", "0", "2940", "3000", "false"}));
 }
 
 TEST(OrderPanel, ShowsItsScrollBarWhereTheLastRowPassesTheFrame) {
@@ -155,8 +165,9 @@ TEST(OrderPanel, HoldsThirtyOneAttributesOfOneGroup) {
 }
 
 TEST(OrderPanel, OfAnEmptyGroupShowsNothing) {
-  EXPECT_EQ(DirectSession({B(1), B(2)}, 1, -1).Ask("get cmdAttButtons1(0).Visible\nget picO1(0).Visible\nget vsrO1.Visible"),
-            (Lines{"false", "false", "false"}));
+  EXPECT_EQ(
+      DirectSession({B(1), B(2)}, 1, -1).Ask("get cmdAttButtons1(0).Visible\nget picO1(0).Visible\nget vsrO1.Visible"),
+      (Lines{"false", "false", "false"}));
 }
 
 TEST(OrderPanel, OnlyShowsItsButtons) {

@@ -8,16 +8,19 @@
 namespace Tarnwise {
 namespace {
 
-const char* const kFirstPrompt = R"({"event":"SendMasseges","Msg":"Select a method to make value judgments between the attributes."})";
+const char* const kFirstPrompt =
+    R"({"event":"SendMasseges","Msg":"Select a method to make value judgments between the attributes."})";
 
 TEST(HostLoad, ReadsTheModelFromTheScriptsFolderAndDefaultsTheRest) {
   const TemporaryFolder folder;
   WriteModel(folder.Path("model.kst"), ModelOf(2, 2));
-  const Played played = PlayIn(folder.Path(), "host load model.kst\ndata KestaDir\ndata FileIndex\ndata PathAndFileName\ndata NumAtts");
-  EXPECT_EQ(played.Out, (Lines{R"({"pointer":11})", R"({"pointer":0})", R"({"data":"KestaDir","value":")" + folder.Path() + "\"}",
-                               R"({"data":"FileIndex","value":1})",
-                               R"({"data":"PathAndFileName","value":")" + folder.Path("model.kst") + "\"}",
-                               R"({"data":"NumAtts","value":4})"}));
+  const Played played =
+      PlayIn(folder.Path(), "host load model.kst\ndata KestaDir\ndata FileIndex\ndata PathAndFileName\ndata NumAtts");
+  EXPECT_EQ(played.Out,
+            (Lines{R"({"pointer":11})", R"({"pointer":0})", R"({"data":"KestaDir","value":")" + folder.Path() + "\"}",
+                   R"({"data":"FileIndex","value":1})",
+                   R"({"data":"PathAndFileName","value":")" + folder.Path("model.kst") + "\"}",
+                   R"({"data":"NumAtts","value":4})"}));
 }
 
 TEST(HostLoad, TakesAnAbsolutePathADirectoryAndAnIndex) {
@@ -33,10 +36,12 @@ TEST(HostLoad, TakesAnAbsolutePathADirectoryAndAnIndex) {
 TEST(HostLoad, OfAnIndexPastSixteenBitsOverflows) {
   for (const char* index : {"32768", "-32769", "70000"}) {
     const Played played = Play("host load model.kst C:/KESTA " + String(index));
-    EXPECT_EQ(played.Out, Lines{R"({"runtime_error":6,"description":"Overflow","in":"TRN_DEA.GetCurFileData"})"}) << index;
+    EXPECT_EQ(played.Out, Lines{R"({"runtime_error":6,"description":"Overflow","in":"TRN_DEA.GetCurFileData"})"})
+        << index;
     EXPECT_EQ(played.Status, 0) << index;
   }
-  EXPECT_EQ(Play("host load model.kst C:/KESTA 32767\ndata FileIndex").Out.back(), R"({"data":"FileIndex","value":32767})");
+  EXPECT_EQ(Play("host load model.kst C:/KESTA 32767\ndata FileIndex").Out.back(),
+            R"({"data":"FileIndex","value":32767})");
 }
 
 TEST(HostLoad, OfAMissingFileMakesItAndIsNoError) {
@@ -63,20 +68,21 @@ TEST(HostPoints, ZeroGivesNineArraysOfZeros) {
 TEST(HostPoints, TakesTheValuesOfItsJson) {
   const Played played = Play(
       "host load model.kst\nhost points { \"AX\": [0.1,2,3,4], \"AY\":[1,2,3,4],\"BX\":[5,6,7,8],\"BY\":[9,9,9,9],"
-      "\"AOrientation\":[0,1,2,1],\"ALX\":[\"1.5\",0,0,0],\"ALY\":[null,0,0,0],\"AUX\":[true,0,0,0],\"AUY\":[7,0,0,0], \"more\": 1 }\n"
+      "\"AOrientation\":[0,1,2,1],\"ALX\":[\"1.5\",0,0,0],\"ALY\":[null,0,0,0],\"AUX\":[true,0,0,0],\"AUY\":[7,0,0,0], "
+      "\"more\": 1 }\n"
       "data ABPoints1\ndata ABPoints2");
-  const String values =
-      R"([{"AX":0.1,"AY":1,"BX":5,"BY":9,"AOrientation":0,"ALX":1.5,"ALY":0,"AUX":-1,"AUY":7},)"
-      R"({"AX":2,"AY":2,"BX":6,"BY":9,"AOrientation":1,"ALX":0,"ALY":0,"AUX":0,"AUY":0},)"
-      R"({"AX":3,"AY":3,"BX":7,"BY":9,"AOrientation":2,"ALX":0,"ALY":0,"AUX":0,"AUY":0},)"
-      R"({"AX":4,"AY":4,"BX":8,"BY":9,"AOrientation":1,"ALX":0,"ALY":0,"AUX":0,"AUY":0}])";
+  const String values = R"([{"AX":0.1,"AY":1,"BX":5,"BY":9,"AOrientation":0,"ALX":1.5,"ALY":0,"AUX":-1,"AUY":7},)"
+                        R"({"AX":2,"AY":2,"BX":6,"BY":9,"AOrientation":1,"ALX":0,"ALY":0,"AUX":0,"AUY":0},)"
+                        R"({"AX":3,"AY":3,"BX":7,"BY":9,"AOrientation":2,"ALX":0,"ALY":0,"AUX":0,"AUY":0},)"
+                        R"({"AX":4,"AY":4,"BX":8,"BY":9,"AOrientation":1,"ALX":0,"ALY":0,"AUX":0,"AUY":0}])";
   ASSERT_EQ(played.Status, 0) << played.Errors;
-  EXPECT_EQ(Lines(played.Out.end() - 2, played.Out.end()),
-            (Lines{R"({"data":"ABPoints1","value":)" + values + "}", R"({"data":"ABPoints2","value":)" + values + "}"}));
+  EXPECT_EQ(Lines(played.Out.end() - 2, played.Out.end()), (Lines{R"({"data":"ABPoints1","value":)" + values + "}",
+                                                                  R"({"data":"ABPoints2","value":)" + values + "}"}));
 }
 
 TEST(HostPoints, RefusedByTheComponentChangeNothing) {
-  const String nine = R"("AY":[1,2,3,4],"BX":[1,2,3,4],"BY":[1,2,3,4],"AOrientation":[0,0,0,0],"ALX":[1,2,3,4],"ALY":[1,2,3,4],"AUX":[1,2,3,4],"AUY":[1,2,3,4]})";
+  const String nine =
+      R"("AY":[1,2,3,4],"BX":[1,2,3,4],"BY":[1,2,3,4],"AOrientation":[0,0,0,0],"ALX":[1,2,3,4],"ALY":[1,2,3,4],"AUX":[1,2,3,4],"AUY":[1,2,3,4]})";
   const auto fails = [&nine](const String& ax) {
     const Played played = Play("host load model.kst\nhost points zero\nhost points {" + ax + nine + "\ndata ABPoints2");
     EXPECT_EQ(played.Status, 0);
@@ -102,8 +108,8 @@ TEST(HostShow, ShowsTheFirstStepWithoutModalityAndAgainWithoutMakingItAnew) {
 TEST(HostUnload, HidesAndReleasesAllForms) {
   const Lines printed = OnFirstStep("click cmdNext\nhost unload\nforms");
   EXPECT_EQ(Lines(printed.end() - 4, printed.end()),
-            (Lines{R"({"hide":"frmIniImpOrder"})", R"({"release":"frmTRNSelMethod"})", R"({"release":"frmIniImpOrder"})",
-                   R"({"forms":[]})"}));
+            (Lines{R"({"hide":"frmIniImpOrder"})", R"({"release":"frmTRNSelMethod"})",
+                   R"({"release":"frmIniImpOrder"})", R"({"forms":[]})"}));
   EXPECT_EQ(Play("host unload\nforms").Out, Lines{R"({"forms":[]})"});
 }
 
@@ -129,23 +135,27 @@ TEST(HostAnswer, OffLeavesTheFormsInPlaceUntilTheHostUnloads) {
 
 TEST(HostNew, LetsTheObjectGoAndMakesAnother) {
   const Lines printed = OnFirstStep("click cmdNext\nhost new\nforms\nhost show\nclick cmdNext\nget cmdAttA(0).Caption");
-  EXPECT_EQ(Lines(printed.begin() + 3, printed.end()),
-            (Lines{R"({"hide":"frmIniImpOrder"})", R"({"release":"frmTRNSelMethod"})", R"({"release":"frmIniImpOrder"})",
-                   R"({"forms":[]})", kFirstPrompt, R"({"show":"frmTRNSelMethod","modal":false})",
-                   R"({"hide":"frmTRNSelMethod"})",
-                   R"({"event":"SendMasseges","Msg":"Rank the attributes according to their relative importance."})",
-                   R"({"show":"frmIniImpOrder","modal":true})", R"({"get":"cmdAttA(0).Caption","value":"Benefit 0"})"}));
+  EXPECT_EQ(
+      Lines(printed.begin() + 3, printed.end()),
+      (Lines{R"({"hide":"frmIniImpOrder"})", R"({"release":"frmTRNSelMethod"})", R"({"release":"frmIniImpOrder"})",
+             R"({"forms":[]})", kFirstPrompt, R"({"show":"frmTRNSelMethod","modal":false})",
+             R"({"hide":"frmTRNSelMethod"})",
+             R"({"event":"SendMasseges","Msg":"Rank the attributes according to their relative importance."})",
+             R"({"show":"frmIniImpOrder","modal":true})", R"({"get":"cmdAttA(0).Caption","value":"Benefit 0"})"}));
 }
 
 TEST(HostCalls, MayComeInsideModalStepsAndShowAgain) {
   const Lines printed = OnFirstStep("click cmdNext\nhost show\nforms");
-  EXPECT_EQ(Lines(printed.begin() + 3, printed.end()),
-            (Lines{R"({"show":"frmTRNSelMethod","modal":false})",
-                   R"({"forms":[{"name":"frmTRNSelMethod","visible":true,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})"}));
+  EXPECT_EQ(
+      Lines(printed.begin() + 3, printed.end()),
+      (Lines{
+          R"({"show":"frmTRNSelMethod","modal":false})",
+          R"({"forms":[{"name":"frmTRNSelMethod","visible":true,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})"}));
 }
 
 TEST(Calls, AskTheValueCurves) {
-  const Played played = Play("host load model.kst\ncall GetAttValue 0 25.5\ncall GetAttValueFunc 0 25\ncall GetAttScore 3 0.5");
+  const Played played =
+      Play("host load model.kst\ncall GetAttValue 0 25.5\ncall GetAttValueFunc 0 25\ncall GetAttScore 3 0.5");
   ASSERT_EQ(played.Status, 0) << played.Errors;
   EXPECT_EQ(played.Out[2], R"({"call":"GetAttValue","value":0.2549999952316284})");
   EXPECT_EQ(played.Out[3], R"({"call":"GetAttValueFunc","value":0.25})");

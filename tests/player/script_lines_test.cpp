@@ -54,13 +54,46 @@ TEST(Status, IsOneWhenALineWasRefusedAndTheOthersAreCarriedOut) {
 }
 
 TEST(Status, IsTwoWhenALineIsNoneAndNothingAfterItIsDone) {
-  for (const char* line :
-       {"jump", "click", "click cmdNext twice", "host", "host dance", "host answer maybe", "host show now", "host load",
-        "host load a b 1 more", "select lstMethods", "select lstMethods one", "select lstMethods 99999999999", "type a b",
-        "key Enter", "over", "over cmdNext 1", "over cmdNext 1 x", "drag cmdNext", "drop it", "scroll vsrO", "tick",
-        "tick Timer1 x", "close it", "get cmdNext", "data", "forms all", "call GetAttValue 0", "call Sin 0 1",
-        "call GetAttValue x 1", "call GetAttValue 0 nan", "shot", "press tbMovUp", "grab", "focus", "host points",
-        "host points [1", "host points [1]", "host points 5", "type \"a", "dump a b"}) {
+  for (const char* line : {"jump",
+                           "click",
+                           "click cmdNext twice",
+                           "host",
+                           "host dance",
+                           "host answer maybe",
+                           "host show now",
+                           "host load",
+                           "host load a b 1 more",
+                           "select lstMethods",
+                           "select lstMethods one",
+                           "select lstMethods 99999999999",
+                           "type a b",
+                           "key Enter",
+                           "over",
+                           "over cmdNext 1",
+                           "over cmdNext 1 x",
+                           "drag cmdNext",
+                           "drop it",
+                           "scroll vsrO",
+                           "tick",
+                           "tick Timer1 x",
+                           "close it",
+                           "get cmdNext",
+                           "data",
+                           "forms all",
+                           "call GetAttValue 0",
+                           "call Sin 0 1",
+                           "call GetAttValue x 1",
+                           "call GetAttValue 0 nan",
+                           "shot",
+                           "press tbMovUp",
+                           "grab",
+                           "focus",
+                           "host points",
+                           "host points [1",
+                           "host points [1]",
+                           "host points 5",
+                           "type \"a",
+                           "dump a b"}) {
     const Played played = Play("host load model.kst\n" + String(line) + "\ndata NumAtts");
     EXPECT_EQ(played.Status, 2) << line;
     EXPECT_EQ(played.Out.size(), 2U) << line;
@@ -82,8 +115,9 @@ TEST(Status, OfAFaultInsideAModalCallEndsTheScriptThere) {
 TEST(Script, MayEndInsideModalSteps) {
   const Played played = Play(kShown + "click cmdNext\nforms");
   EXPECT_EQ(played.Status, 0);
-  EXPECT_EQ(played.Out.back(),
-            R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})");
+  EXPECT_EQ(
+      played.Out.back(),
+      R"({"forms":[{"name":"frmTRNSelMethod","visible":false,"modal":false},{"name":"frmIniImpOrder","visible":true,"modal":true}]})");
 }
 
 TEST(Script, MayHaveLineEndsOfEitherKindAndNoneAtItsEnd) {
@@ -97,7 +131,8 @@ TEST(Script, CountsCommentsAndBlankLinesAsLines) {
 }
 
 TEST(Names, AreOfTheActiveFormOrOfTheFormThatIsNamed) {
-  EXPECT_EQ(OnFirstStep("click cmdNext\nget cmdAdd.Caption\nget frmTRNSelMethod.cmdNext.Caption\nget frmTRNSelMethod.Visible"),
+  EXPECT_EQ(OnFirstStep(
+                "click cmdNext\nget cmdAdd.Caption\nget frmTRNSelMethod.cmdNext.Caption\nget frmTRNSelMethod.Visible"),
             (Lines{R"({"hide":"frmTRNSelMethod"})",
                    R"({"event":"SendMasseges","Msg":"Rank the attributes according to their relative importance."})",
                    R"({"show":"frmIniImpOrder","modal":true})", R"({"get":"cmdAdd.Caption","value":"&Add"})",
@@ -114,8 +149,8 @@ TEST(Names, OfAnElementThatIsAloneMayLeaveItsNumberOut) {
 }
 
 TEST(Names, OfWhatDoesNotExistAreRefused) {
-  for (const char* name : {"cmdNone", "lstMethods(1)", "imgPicture(2)", "imgPicture(99999999999)", "imgPicture(-1)", "cmdNext()",
-                           "cmdNext(x)", "frmDirectB.cmdNext", "frmNone.cmdNext", "imgPicture(1"}) {
+  for (const char* name : {"cmdNone", "lstMethods(1)", "imgPicture(2)", "imgPicture(99999999999)", "imgPicture(-1)",
+                           "cmdNext()", "cmdNext(x)", "frmDirectB.cmdNext", "frmNone.cmdNext", "imgPicture(1"}) {
     const Played played = Play(kShown + "click " + name);
     EXPECT_EQ(played.Out.back(), R"({"refused":")" + String(name) + R"(: does not exist","line":3})");
     EXPECT_EQ(played.Status, 1) << name;
@@ -123,8 +158,8 @@ TEST(Names, OfWhatDoesNotExistAreRefused) {
 }
 
 TEST(Names, OfPropertiesAndVariablesThatDoNotExistAreRefused) {
-  for (const char* line : {"get cmdNext.Text", "get cmdNext.Count", "get cmdNext.caption", "get lstMethods.None", "data None",
-                           "data numatts", "dump frmDirectB", "get Timer9.Interval"}) {
+  for (const char* line : {"get cmdNext.Text", "get cmdNext.Count", "get cmdNext.caption", "get lstMethods.None",
+                           "data None", "data numatts", "dump frmDirectB", "get Timer9.Interval"}) {
     EXPECT_EQ(Play(kShown + line).Status, 1) << line;
   }
 }
@@ -204,13 +239,51 @@ TEST(Values, KeepTheirLineWhereATextIsNoUtf8) {
 
 TEST(Data, KnowsEveryVariableAndEveryFieldOfTheModel) {
   const WizardData data;
-  for (const char* name :
-       {"NumAtts", "AttName", "AttDescription", "AttOrientation", "RawScores", "Scores", "ScoreMin", "ScoreMax", "WorstScore",
-        "BestScore", "ValuePointCount", "ValuePointX", "ValuePointY", "ValueFuncType", "ValueFuncA", "ValueFuncB", "RJType",
-        "SavedBRefAttID", "SavedCRefAttID", "SavedRefAttWR", "SavedWeights", "SavedWeightsH", "SavedWeightsL", "KestaDir",
-        "FileIndex", "PathAndFileName", "MethodIndex", "IncnsistCtrl", "OrderChanged", "BAttCount", "CAttCount", "BOM", "COM",
-        "AttO", "BRefAttID", "CRefAttID", "BRankCount", "CRankCount", "WeightsL", "Weights", "WeightsH", "WeightDone",
-        "RefAttWR", "ABPoints1", "ABPoints2"}) {
+  for (const char* name : {"NumAtts",
+                           "AttName",
+                           "AttDescription",
+                           "AttOrientation",
+                           "RawScores",
+                           "Scores",
+                           "ScoreMin",
+                           "ScoreMax",
+                           "WorstScore",
+                           "BestScore",
+                           "ValuePointCount",
+                           "ValuePointX",
+                           "ValuePointY",
+                           "ValueFuncType",
+                           "ValueFuncA",
+                           "ValueFuncB",
+                           "RJType",
+                           "SavedBRefAttID",
+                           "SavedCRefAttID",
+                           "SavedRefAttWR",
+                           "SavedWeights",
+                           "SavedWeightsH",
+                           "SavedWeightsL",
+                           "KestaDir",
+                           "FileIndex",
+                           "PathAndFileName",
+                           "MethodIndex",
+                           "IncnsistCtrl",
+                           "OrderChanged",
+                           "BAttCount",
+                           "CAttCount",
+                           "BOM",
+                           "COM",
+                           "AttO",
+                           "BRefAttID",
+                           "CRefAttID",
+                           "BRankCount",
+                           "CRankCount",
+                           "WeightsL",
+                           "Weights",
+                           "WeightsH",
+                           "WeightDone",
+                           "RefAttWR",
+                           "ABPoints1",
+                           "ABPoints2"}) {
     EXPECT_TRUE(DataJson(data, name)) << name;
   }
   EXPECT_FALSE(DataJson(data, ""));
@@ -264,7 +337,8 @@ TEST(Properties, AreThereForEveryKindThatHasThem) {
   const auto has = [](const Control& control, const std::vector<const char*>& names) {
     for (const char* name : names) EXPECT_TRUE(PropertyJson(control, name)) << control.Name << '.' << name;
   };
-  const std::vector<const char*> common = {"Left", "Top", "Width", "Height", "Visible", "Enabled", "Tag", "ToolTipText", "MousePointer"};
+  const std::vector<const char*> common = {"Left",    "Top", "Width",       "Height",      "Visible",
+                                           "Enabled", "Tag", "ToolTipText", "MousePointer"};
   for (const Control* control : form->Controls()) {
     if (control->Type != Kind::Timer && control->Type != Kind::Line) has(*control, common);
     EXPECT_FALSE(PropertyJson(*control, "Nothing"));
@@ -295,7 +369,8 @@ TEST(Properties, PrintTheirValues) {
   const auto value = [](const Control& control, const char* name) { return JsonLine(*PropertyJson(control, name)); };
   form->list.List = Lines{"a", "b"};
   form->list.ListIndex = 1;
-  EXPECT_EQ(value(form->list, "List") + value(form->list, "ListCount") + value(form->list, "ListIndex"), R"(["a","b"]21)");
+  EXPECT_EQ(value(form->list, "List") + value(form->list, "ListCount") + value(form->list, "ListIndex"),
+            R"(["a","b"]21)");
   form->option.Value = true;
   form->check.Value = 1;
   EXPECT_EQ(value(form->option, "Value") + value(form->check, "Value"), "true1");
@@ -313,7 +388,8 @@ TEST(Properties, PrintTheirValues) {
   form->grid.Shape(2, 2);
   form->grid.SetCell(1, 0, "x");
   form->grid.SetColWidth(1, 630);
-  EXPECT_EQ(value(form->grid, "TextMatrix") + value(form->grid, "ColWidth") + value(form->grid, "Rows") + value(form->grid, "Cols"),
+  EXPECT_EQ(value(form->grid, "TextMatrix") + value(form->grid, "ColWidth") + value(form->grid, "Rows") +
+                value(form->grid, "Cols"),
             R"([["",""],["x",""]][0,630]22)");
 }
 
@@ -323,8 +399,9 @@ TEST(Properties, ListADrawingInTheOrderDrawnUntilItIsCleared) {
   form->picture.Draw({Drawn::What::Polygon, {0, 250, 126, 126, 118, 76}, 12640511, 1});
   form->picture.Draw({Drawn::What::Line, {100, 260.5F, 1900, 260}, 255, 2});
   form->picture.Draw({Drawn::What::Box, {1, 2, 3, 4}, 16711680, 1});
-  EXPECT_EQ(JsonLine(*PropertyJson(form->picture, "Drawing")),
-            R"([{"polygon":[[0,250],[126,126],[118,76]],"fill":12640511},{"line":[100,260.5,1900,260],"color":255,"width":2},{"box":[1,2,3,4],"color":16711680}])");
+  EXPECT_EQ(
+      JsonLine(*PropertyJson(form->picture, "Drawing")),
+      R"([{"polygon":[[0,250],[126,126],[118,76]],"fill":12640511},{"line":[100,260.5,1900,260],"color":255,"width":2},{"box":[1,2,3,4],"color":16711680}])");
   form->picture.Cls();
   EXPECT_EQ(JsonLine(*PropertyJson(form->picture, "Drawing")), "[]");
 }

@@ -32,7 +32,8 @@ TEST(Refused, IsWhatIsHiddenOrStandsInAHiddenForm) {
 }
 
 TEST(Refused, IsWhatIsBlockedByAModalForm) {
-  EXPECT_EQ(Why(Ordering("host show\nclick frmTRNSelMethod.cmdNext")), "frmTRNSelMethod.cmdNext: blocked by a modal form");
+  EXPECT_EQ(Why(Ordering("host show\nclick frmTRNSelMethod.cmdNext")),
+            "frmTRNSelMethod.cmdNext: blocked by a modal form");
 }
 
 TEST(Refused, IsWhatAStagePanelCovers) {
@@ -45,11 +46,11 @@ TEST(Refused, ChangesNothing) {
   Ward session;
   const String state = "dump\ndata WeightsH\nforms\n";
   const Lines before = session.Play(state);
-  for (const char* line : {"click cmdNext", "select tsWeightRatios 2", "select imgcmbTargetAtt 8", "select imgcmbTargetAtt 0",
-                           "scroll vsrO 1", "scroll vsrO 32001", "press cmdEnter up", "focus lblAlarm(0)", "grab cmdEnter", "drop",
-                           "over picTradeOffsRange 1 1", "drag cmdEnter picTradeOffsRange", "drag picHandle(0) gridBRJ",
-                           "tick Timer1", "tick cmdEnter", "click Timer1", "click BorderL(0)", "select cmdEnter 1",
-                           "drag picHandle(0) picNone"}) {
+  for (const char* line :
+       {"click cmdNext", "select tsWeightRatios 2", "select imgcmbTargetAtt 8", "select imgcmbTargetAtt 0",
+        "scroll vsrO 1", "scroll vsrO 32001", "press cmdEnter up", "focus lblAlarm(0)", "grab cmdEnter", "drop",
+        "over picTradeOffsRange 1 1", "drag cmdEnter picTradeOffsRange", "drag picHandle(0) gridBRJ", "tick Timer1",
+        "tick cmdEnter", "click Timer1", "click BorderL(0)", "select cmdEnter 1", "drag picHandle(0) picNone"}) {
     const Lines printed = session.Play(String(line) + "\n" + state);
     ASSERT_EQ(printed.size(), before.size() + 1) << line;
     EXPECT_EQ(printed[0].substr(0, 11), R"({"refused":)") << line;
@@ -75,17 +76,28 @@ TEST(Refused, NeverIsAClickWhoseFocusMoveRaisedAMessage) {
 TEST(Click, PressesChecksAndChooses) {
   Session session(ModelOf(2, 2));
   session.Given("host show");
-  EXPECT_EQ(session.Ask("get chkIncnsistCtrl.Value\nclick chkIncnsistCtrl\nget chkIncnsistCtrl.Value\nclick chkIncnsistCtrl\n"
-                        "get chkIncnsistCtrl.Value"),
-            (Lines{"1", "0", "1"}));
+  EXPECT_EQ(
+      session.Ask("get chkIncnsistCtrl.Value\nclick chkIncnsistCtrl\nget chkIncnsistCtrl.Value\nclick chkIncnsistCtrl\n"
+                  "get chkIncnsistCtrl.Value"),
+      (Lines{"1", "0", "1"}));
   session.Given("click cmdNext");
-  EXPECT_EQ(session.Ask("click optAttInfo(1)\nget optAttInfo(0).Value\nget optAttInfo(1).Value\nclick lblAttName(0)\n"
-                        "get optAttInfo(0).Value\nget optAttInfo(1).Value\nclick optAttInfo1(0)\nget optAttInfo(0).Value"),
-            (Lines{"false", "true", "true", "false", "true"}));
+  EXPECT_EQ(
+      session.Ask("click optAttInfo(1)\nget optAttInfo(0).Value\nget optAttInfo(1).Value\nclick lblAttName(0)\n"
+                  "get optAttInfo(0).Value\nget optAttInfo(1).Value\nclick optAttInfo1(0)\nget optAttInfo(0).Value"),
+      (Lines{"false", "true", "true", "false", "true"}));
 }
 
 TEST(Click, OnATextBoxGivesItTheFocus) {
   EXPECT_EQ(Ward().Ask("click txtWRUpper\ntype 5\nget txtWRUpper.Text"), Lines{R"("1.205")"});
+}
+
+TEST(Click, IsRefusedWhereItsMiddleMeansSomethingElseOnEveryScreen) {
+  for (const char* name : {"imgcmbTargetAtt", "tsTab", "frmDirectB.tsTab"}) {
+    EXPECT_EQ(Why(Ward().Play("click " + String(name))), String(name) + ": can't be clicked");
+  }
+  EXPECT_EQ(Why(OnFirstStep("click lstMethods")), "lstMethods: can't be clicked");
+  DirectSession session({B(1), B(2), B(3), B(4), B(5), C(1)}, 4, 5);
+  EXPECT_EQ(Why(session.Play("click vsrO")), "vsrO: can't be clicked");
 }
 
 TEST(Select, CountsAsEachControlCounts) {
@@ -96,8 +108,9 @@ TEST(Select, CountsAsEachControlCounts) {
             (Lines{"1", "0", "2"}));
   EXPECT_EQ(Why(session.Play("select lstMethods 2")), "lstMethods: has no such row");
   EXPECT_EQ(Why(session.Play("select lstMethods -1")), "lstMethods: has no such row");
-  EXPECT_EQ(Ward().Ask("select imgcmbTargetAtt 7\nget imgcmbTargetAtt.SelectedItem\nselect tsTab 2\nget tsTab.SelectedItem"),
-            (Lines{"7", "2"}));
+  EXPECT_EQ(
+      Ward().Ask("select imgcmbTargetAtt 7\nget imgcmbTargetAtt.SelectedItem\nselect tsTab 2\nget tsTab.SelectedItem"),
+      (Lines{"7", "2"}));
   EXPECT_EQ(Why(Ward().Play("select tsTab 3")), "tsTab: has no such row");
 }
 
@@ -140,8 +153,10 @@ TEST(Keys, GoToTheControlWithTheFocus) {
   Session session(ModelOf(2, 2));
   session.Given("host show");
   EXPECT_EQ(session.Ask("focus chkIncnsistCtrl\nkey Space\nget chkIncnsistCtrl.Value"), Lines{"0"});
-  EXPECT_EQ(Only(session.Play("focus cmdNext\nkey Space"), R"({"show")"), Lines{R"({"show":"frmIniImpOrder","modal":true})"});
-  EXPECT_EQ(Only(session.Play("focus cmdNext\nkey Return"), R"({"show")"), Lines{R"({"show":"frmIniImpOrder","modal":true})"});
+  EXPECT_EQ(Only(session.Play("focus cmdNext\nkey Space"), R"({"show")"),
+            Lines{R"({"show":"frmIniImpOrder","modal":true})"});
+  EXPECT_EQ(Only(session.Play("focus cmdNext\nkey Return"), R"({"show")"),
+            Lines{R"({"show":"frmIniImpOrder","modal":true})"});
 }
 
 TEST(Keys, NeedAFormToTakeThem) {
@@ -168,8 +183,8 @@ TEST(Type, OnAButtonPressesItByItsBlank) {
 
 TEST(Grab, NeedsASourceAndOnlyOneDragAtATime) {
   EXPECT_EQ(Why(Ordering("grab cmdAdd")), "cmdAdd: can't be dragged");
-  for (const char* line : {"grab cmdAttA(1)", "click cmdAdd", "focus cmdAdd", "select cmdAdd 1", "scroll vsrOrder 0", "press cmdAdd x",
-                           "close", "drag cmdAttA(1) picOrder(0)"}) {
+  for (const char* line : {"grab cmdAttA(1)", "click cmdAdd", "focus cmdAdd", "select cmdAdd 1", "scroll vsrOrder 0",
+                           "press cmdAdd x", "close", "drag cmdAttA(1) picOrder(0)"}) {
     EXPECT_EQ(Why(Ordering("grab cmdAttA(0)\n" + String(line))), "a drag is under way") << line;
   }
 }
@@ -179,8 +194,9 @@ TEST(Over, EntersATargetAndLeavesTheFormerOne) {
   const String second = "get picOrder(1).Drawing\n";
   Session session(ModelOf(2, 2));
   session.Given(String(kOpenOrdering) + "click cmdAdd");
-  const Lines drawings = session.Ask("grab cmdAttA(0)\n" + first + "over picOrder(0)\n" + first + "over picOrder(0)\n" + first +
-                                     "over picOrder(1)\n" + first + second + "drop\n" + second + "get cmdAttB(0).Top");
+  const Lines drawings =
+      session.Ask("grab cmdAttA(0)\n" + first + "over picOrder(0)\n" + first + "over picOrder(0)\n" + first +
+                  "over picOrder(1)\n" + first + second + "drop\n" + second + "get cmdAttB(0).Top");
   ASSERT_EQ(drawings.size(), 7U);
   EXPECT_EQ(drawings[0], "[]");
   EXPECT_EQ(Json::parse(drawings[1]).size(), 3U);
@@ -199,9 +215,10 @@ TEST(Over, NeedsADragAndATargetThatTakesOne) {
 }
 
 TEST(Over, BringsThePointerToThePointNamedInTheTargetsOwnScale) {
-  EXPECT_EQ(Ward().Ask("grab picHandle(0)\nover picTradeOffsRange 30.5 40.25\nget picHandle(0).Left\nget picHandle(0).Top\n"
-                       "over picTradeOffsRange\nget picHandle(0).Left\nget picHandle(0).Top"),
-            (Lines{"27.5", "37.25", "123", "123"}));
+  EXPECT_EQ(
+      Ward().Ask("grab picHandle(0)\nover picTradeOffsRange 30.5 40.25\nget picHandle(0).Left\nget picHandle(0).Top\n"
+                 "over picTradeOffsRange\nget picHandle(0).Left\nget picHandle(0).Top"),
+      (Lines{"27.5", "37.25", "123", "123"}));
 }
 
 TEST(Drop, OfAHandleEndsTheDrag) {
@@ -246,7 +263,8 @@ TEST(Dump, ListsEveryControlOfAFormWithItsProperties) {
   EXPECT_EQ(all["form"]["Caption"], "Tarnwise: Estimate intervals of the weight ratios");
   std::vector<String> names;
   for (const Json& control : all["controls"]) names.push_back(control["name"]);
-  for (const char* name : {"imgcmbTargetAtt", "picHandle(0)", "picHandle(1)", "cmdAttButtons1(2)", "Timer1", "gridCRJ", "labPCX(6)"}) {
+  for (const char* name :
+       {"imgcmbTargetAtt", "picHandle(0)", "picHandle(1)", "cmdAttButtons1(2)", "Timer1", "gridCRJ", "labPCX(6)"}) {
     EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
   }
   const Json other = Json::parse(Ward().Play("dump frmTRNSelMethod")[0]);

@@ -306,8 +306,9 @@ TEST(TradeOffCommit, PushesDownToTheFirstJudgedRank) {
 }
 
 TEST(TradeOffCommit, OfInfinityIsATypeMismatchAndStoresNothing) {
-  for (const TradeOffRatios& ratios : {TradeOffRatios{"Infinity!", "1.5", "1.5"}, TradeOffRatios{"1.5", "Infinity!", "1.5"},
-                                       TradeOffRatios{"1.5", "1.5", "Infinity!"}}) {
+  for (const TradeOffRatios& ratios :
+       {TradeOffRatios{"Infinity!", "1.5", "1.5"}, TradeOffRatios{"1.5", "Infinity!", "1.5"},
+        TradeOffRatios{"1.5", "1.5", "Infinity!"}}) {
     WizardData data = Ward();
     EXPECT_EQ(ErrorNumber([&] { return CommitTradeOff(data, 0, ratios); }), 13);
     EXPECT_EQ(Held(data, 0), (Interval{1.2, 1.2, 1.2}));

@@ -52,17 +52,11 @@ TEST(PointRatioOf, ARatioThatRoundsToZeroHasNoSign) {
   EXPECT_EQ(PointRatio(data, 0, 1, 0, 500000, 100, 500010), "0");
 }
 
-TEST(PointRatioOf, AToTheLeftOfBAndHigherIsPositive) {
-  EXPECT_EQ(PointRatio(Pair(), 0, 1, 40, 60, 50, 40), "2");
-}
+TEST(PointRatioOf, AToTheLeftOfBAndHigherIsPositive) { EXPECT_EQ(PointRatio(Pair(), 0, 1, 40, 60, 50, 40), "2"); }
 
-TEST(PointRatioOf, AToTheLeftOfBAndLowerIsNegative) {
-  EXPECT_EQ(PointRatio(Pair(), 0, 1, 40, 20, 50, 40), "-2");
-}
+TEST(PointRatioOf, AToTheLeftOfBAndLowerIsNegative) { EXPECT_EQ(PointRatio(Pair(), 0, 1, 40, 20, 50, 40), "-2"); }
 
-TEST(PointRatioOf, AToTheRightOfBAndLowerIsPositive) {
-  EXPECT_EQ(PointRatio(Pair(), 0, 1, 50, 40, 40, 60), "2");
-}
+TEST(PointRatioOf, AToTheRightOfBAndLowerIsPositive) { EXPECT_EQ(PointRatio(Pair(), 0, 1, 50, 40, 40, 60), "2"); }
 
 TEST(PointRatioOf, GoesThroughTheValueCurvesOfBothAttributes) {
   WizardData data = Pair();
@@ -77,9 +71,7 @@ TEST(RefPairRatioOf, IsTheNegativeOfThePointRatio) {
   EXPECT_EQ(PointRatio(Pair(), 2, 1, 50, 40, 40, 60), "2");
 }
 
-TEST(RefPairRatioOf, IsPositiveWithAUpAndToTheRightOfB) {
-  EXPECT_EQ(RefPairRatio(Pair(), 2, 1, 60, 70, 40, 30), "2");
-}
+TEST(RefPairRatioOf, IsPositiveWithAUpAndToTheRightOfB) { EXPECT_EQ(RefPairRatio(Pair(), 2, 1, 60, 70, 40, 30), "2"); }
 
 TEST(RefPairRatioOf, EqualFirstScoresIsInfinityAndEqualSecondOnesZero) {
   EXPECT_EQ(RefPairRatio(Pair(), 2, 1, 60, 70, 60, 30), "Infinity!");

@@ -282,6 +282,18 @@ TEST(ScoreCheck, StopsAtTheFirstOfBoxesOneThreeTwoFour) {
   EXPECT_EQ(put("50", "40", "50", "500"), "txtTradeOffBSecondScore");
 }
 
+TEST(ScoreCheck, ReturnInOneBoxTellsOnceThatAnotherOneIsWrong) {
+  ScoreStep step;
+  step.Fill(step.Box(3), "0.5");
+  step.Focus(step.Box(1));
+  step.Press(step.Form->Scores.tbScoreChanger[2], "Down");
+  step.TakeNotes();
+  step.Return();
+  EXPECT_EQ(step.Messages(), Lines{RangeMessage("[0, 100]")});
+  EXPECT_EQ(step.Form->ActiveControl, &step.Box(3));
+  EXPECT_EQ(step.Form->mScoresBad, -1);
+}
+
 TEST(ScoreCheck, AFailedSecondScoreIsForgottenWhenTheFirstOnesPassAgain) {
   ScoreStep step;
   step.Fill(step.Box(2), "500");

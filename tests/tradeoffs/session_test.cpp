@@ -33,9 +33,9 @@ Lines NamesOf(const std::vector<Json>& objects) {
   Lines names;
   for (const Json& object : objects) {
     const String first = object.begin().key();
-    names.push_back(object.contains("event")  ? String(object["event"])
-                    : object.contains("show") ? "show " + String(object["show"])
-                    : object.contains("hide") ? "hide " + String(object["hide"])
+    names.push_back(object.contains("event")     ? String(object["event"])
+                    : object.contains("show")    ? "show " + String(object["show"])
+                    : object.contains("hide")    ? "hide " + String(object["hide"])
                     : object.contains("pointer") ? "pointer " + object["pointer"].dump()
                     : object.contains("release") ? "release " + String(object["release"])
                                                  : first);
@@ -45,8 +45,8 @@ Lines NamesOf(const std::vector<Json>& objects) {
 
 TEST(TradeOffSessionOf, EnterOfEveryTargetLeadsToTheExports) {
   TradeOffSession session;
-  const std::vector<Json> printed = Parsed(session.Play(
-      "click cmdEnter\nselect imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdNext\nclick cmdFinish"));
+  const std::vector<Json> printed =
+      Parsed(session.Play("click cmdEnter\nselect imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdNext\nclick cmdFinish"));
   EXPECT_EQ(session.Status(), 0);
   const Lines names = NamesOf(printed);
   ASSERT_GE(names.size(), 5U);
@@ -89,8 +89,9 @@ TEST(TradeOffSessionOf, ANoteOfTheRangeIsTheOneMessageOfAMistake) {
       "click cmdEnter");
   const Lines messages = Only(printed, "msgbox");
   ASSERT_EQ(messages.size(), 2U) << "one for each attempt to leave";
-  EXPECT_EQ(messages[0],
-            R"({"msgbox":"The data you entered should be in the relevant score range [0, 100]!","style":48,"title":"KESTA"})");
+  EXPECT_EQ(
+      messages[0],
+      R"({"msgbox":"The data you entered should be in the relevant score range [0, 100]!","style":48,"title":"KESTA"})");
   EXPECT_TRUE(Only(printed, "refused").empty());
   EXPECT_TRUE(Only(printed, "pointer").empty()) << "the click on Enter does not happen";
 }

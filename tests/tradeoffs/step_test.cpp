@@ -104,8 +104,9 @@ TEST(OpeningFromDirect, AnIntervalOpensAsALine) {
   EXPECT_EQ(step.Points().ALY, step.Points().AY);
   EXPECT_NE(step.Points().ALX, step.Points().AUX);
   EXPECT_EQ(step.Form->Chart.picTradeOffsRange.Drawing.size(), 1U);
-  EXPECT_NEAR(Val(PointRatio(step.Data, 0, 1, step.Points().ALX, step.Points().ALY, step.Points().BX, step.Points().BY)),
-              2.0, 0.01);
+  EXPECT_NEAR(
+      Val(PointRatio(step.Data, 0, 1, step.Points().ALX, step.Points().ALY, step.Points().BX, step.Points().BY)), 2.0,
+      0.01);
   EXPECT_TRUE(step.Form->cmdNext.Enabled);
   EXPECT_TRUE(step.Form->cmdFinish.Enabled);
 }

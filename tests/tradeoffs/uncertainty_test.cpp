@@ -179,7 +179,9 @@ TEST(Movers, EachStopsAtItsLimitAndDisablesItsOwnButton) {
     EXPECT_EQ(step.Points().*c.Corner, c.Limit);
     EXPECT_FALSE(toolbar.Find(c.Key)->Enabled);
     for (const Toolbar::Button& button : toolbar.Buttons) {
-      if (button.Key != c.Key) { EXPECT_TRUE(button.Enabled) << button.Key; }
+      if (button.Key != c.Key) {
+        EXPECT_TRUE(button.Enabled) << button.Key;
+      }
     }
   }
 }

@@ -43,7 +43,8 @@ struct BenchForm : Form {
     for (int i = 1; i < 4; ++i) picRow.Load(i).Top = 600.0F * static_cast<Single>(i);
     cmdSource.DragAutomatic = true;
     int tab = 0;
-    for (Control* stop : std::vector<Control*>{&txtFirst, &txtSecond, &cmdGo, &cmdSource, &optOne, &optTwo, &chkBox, &lstRows}) {
+    for (Control* stop :
+         std::vector<Control*>{&txtFirst, &txtSecond, &cmdGo, &cmdSource, &optOne, &optTwo, &chkBox, &lstRows}) {
       stop->TabIndex = tab++;
     }
     lstRows.List = std::vector<String>{"a", "b", "c"};
@@ -95,7 +96,8 @@ struct Bench : TestScreen {
   void NoteDrags(Control& target) {
     target.DragOver = [this, &target](Control& source, Single x, Single y, DragState state) {
       const char* const states[] = {"enter", "leave", "over"};
-      Notes.push_back(target.FullName() + " " + states[static_cast<int>(state)] + " " + source.FullName() + " " + At(x, y));
+      Notes.push_back(target.FullName() + " " + states[static_cast<int>(state)] + " " + source.FullName() + " " +
+                      At(x, y));
     };
     target.DragDrop = [this, &target](Control& source, Single x, Single y) {
       Notes.push_back(target.FullName() + " drop " + source.FullName() + " " + At(x, y));

@@ -23,8 +23,9 @@ TEST(Drag, EntersThenIsOverAndLeavesTheFormerTargetFirst) {
   bench.Drag().Over(bench.On->picRow[0], 10, 20);
   bench.Drag().Over(bench.On->picRow[0], 11, 21);
   bench.Drag().Over(bench.On->picRow[1], 5, 6);
-  EXPECT_EQ(bench.Notes, (Lines{"picRow(0) enter cmdSource 10,20", "picRow(0) over cmdSource 10,20", "picRow(0) over cmdSource 11,21",
-                                "picRow(0) leave cmdSource 11,21", "picRow(1) enter cmdSource 5,6", "picRow(1) over cmdSource 5,6"}));
+  EXPECT_EQ(bench.Notes, (Lines{"picRow(0) enter cmdSource 10,20", "picRow(0) over cmdSource 10,20",
+                                "picRow(0) over cmdSource 11,21", "picRow(0) leave cmdSource 11,21",
+                                "picRow(1) enter cmdSource 5,6", "picRow(1) over cmdSource 5,6"}));
 }
 
 TEST(Drag, DropsWithoutALeave) {
@@ -153,11 +154,11 @@ TEST(KeyboardDrag, WalksTheTargetsAndDropsWithTheSameNotifications) {
   bench.KeyOn(bench.On->cmdSource, kUp);
   bench.KeyOn(bench.On->cmdSource, kUp);
   bench.KeyOn(bench.On->cmdSource, kSpace);
-  EXPECT_EQ(bench.Notes,
-            (Lines{"picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250", "picRow(0) leave cmdSource 1000,250",
-                   "picRow(1) enter cmdSource 1000,250", "picRow(1) over cmdSource 1000,250", "picRow(1) leave cmdSource 1000,250",
-                   "picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250", "picRow(0) over cmdSource 1000,250",
-                   "picRow(0) drop cmdSource 1000,250"}));
+  EXPECT_EQ(bench.Notes, (Lines{"picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250",
+                                "picRow(0) leave cmdSource 1000,250", "picRow(1) enter cmdSource 1000,250",
+                                "picRow(1) over cmdSource 1000,250", "picRow(1) leave cmdSource 1000,250",
+                                "picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250",
+                                "picRow(0) over cmdSource 1000,250", "picRow(0) drop cmdSource 1000,250"}));
 }
 
 TEST(KeyboardDrag, BeginsAtTheLastTargetByTheUpKey) {
@@ -167,16 +168,18 @@ TEST(KeyboardDrag, BeginsAtTheLastTargetByTheUpKey) {
   EXPECT_EQ(bench.Notes[0], "picRow(3) enter cmdSource 1000,250");
 }
 
-TEST(KeyboardDrag, GoesAcrossToTheTargetsOfAnotherContainer) {
+TEST(KeyboardDrag, GoesAcrossToTheFirstTargetOfAnotherContainer) {
   Dragging bench;
   PictureBox other(*bench.On, &bench.On->picPanel[0], "picOther");
   Place(other, 8000, 2000, 500, 500);
   bench.NoteDrags(other);
   bench.KeyOn(bench.On->cmdSource, kSpace);
-  bench.KeyOn(bench.On->cmdSource, kDown);
-  const String first = bench.Drag().Target()->Name;
+  bench.KeyOn(bench.On->cmdSource, kUp);
+  EXPECT_EQ(bench.Drag().Target(), &other);
   bench.KeyOn(bench.On->cmdSource, kRight);
-  EXPECT_NE(bench.Drag().Target()->Name, first);
+  EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
+  bench.KeyOn(bench.On->cmdSource, kLeft);
+  EXPECT_EQ(bench.Drag().Target(), &other);
 }
 
 TEST(KeyboardDrag, IsGivenUpByEscape) {

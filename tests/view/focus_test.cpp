@@ -142,8 +142,8 @@ TEST(Tabbing, GoesByTheLayoutAndRound) {
     TypeKey(*bench.On, 9, 9, 0);
     way.push_back(bench.On->ActiveControl->FullName());
   }
-  EXPECT_EQ(way, (Lines{"txtSecond", "cmdGo", "cmdSource", "optOne", "optTwo", "chkBox", "lstRows", "picHandle(0)", "picHandle(1)",
-                        "txtFirst", "txtSecond"}));
+  EXPECT_EQ(way, (Lines{"txtSecond", "cmdGo", "cmdSource", "optOne", "optTwo", "chkBox", "lstRows", "picHandle(0)",
+                        "picHandle(1)", "txtFirst", "txtSecond"}));
   TypeKey(*bench.On, 9, 9, 1);
   TypeKey(*bench.On, 9, 9, 1);
   EXPECT_EQ(bench.On->ActiveControl, &bench.On->picHandle[1]);
@@ -237,13 +237,16 @@ TEST(Keys, TypeCharactersBeyondAscii) {
 TEST(Keys, RaiseDownPressAndUpInThisOrder) {
   Typing typing;
   TextBox& box = typing.On->txtFirst;
-  box.KeyDown = [&](KeyEvent& key) { typing.Notes.push_back("down " + std::to_string(key.Code) + " " + std::to_string(key.Shift)); };
+  box.KeyDown = [&](KeyEvent& key) {
+    typing.Notes.push_back("down " + std::to_string(key.Code) + " " + std::to_string(key.Shift));
+  };
   box.KeyPress = [&](KeyEvent& key) { typing.Notes.push_back("press " + std::to_string(key.Code) + " " + box.Text()); };
   box.KeyUp = [&](KeyEvent& key) { typing.Notes.push_back("up " + std::to_string(key.Code) + " " + box.Text()); };
   typing.Type('7', '7');
   typing.Type(46);
   typing.Type(45, 0, 1);
-  EXPECT_EQ(typing.Notes, (Lines{"down 55 0", "press 55 12.5", "up 55 12.57", "down 46 0", "up 46 12.57", "down 45 1", "up 45 12.57"}));
+  EXPECT_EQ(typing.Notes, (Lines{"down 55 0", "press 55 12.5", "up 55 12.57", "down 46 0", "up 46 12.57", "down 45 1",
+                                 "up 45 12.57"}));
 }
 
 TEST(Keys, AreDroppedByEitherHandlerAndComeUpAllTheSame) {
@@ -304,6 +307,28 @@ TEST(Keys, PressWhatIsNoTextBox) {
   type(bench.On->optTwo, 32);
   type(bench.On->lstRows, 32);
   EXPECT_EQ(bench.Notes, (Lines{"cmdGo click", "cmdGo click", "chkBox click", "optTwo click"}));
+}
+
+TEST(Keys, ChooseTheRowsOfAList) {
+  Bench bench;
+  ListBox& list = bench.On->lstRows;
+  list.ListIndex = 0;
+  list.Click = [&] { bench.Notes.push_back(std::to_string(list.ListIndex())); };
+  Input::MoveFocus(list);
+  for (const int code : {40, 39, 40, 38, 36, 38, 35}) TypeKey(*bench.On, code, 0, 0);
+  EXPECT_EQ(bench.Notes, (Lines{"1", "2", "1", "0", "2"}));
+}
+
+TEST(Keys, ScrollABar) {
+  Bench bench;
+  VScrollBar& bar = bench.On->vsrBar;
+  bar.Max = 1000;
+  bar.SmallChange = 100;
+  bar.LargeChange = 500;
+  bar.Change = [&] { bench.Notes.push_back(std::to_string(bar.Value())); };
+  Input::MoveFocus(bar);
+  for (const int code : {40, 34, 34, 38, 33, 36, 36, 35}) TypeKey(*bench.On, code, 0, 0);
+  EXPECT_EQ(bench.Notes, (Lines{"100", "600", "1000", "900", "400", "0", "1000"}));
 }
 
 }  // namespace

@@ -21,10 +21,9 @@ void PutText(Label& label, const char* caption, Single left, Single top, Single 
 
 DirectBForm::DirectBForm(std::shared_ptr<Platform> platform)
     : WizardForm(std::move(platform), "frmDirectB", "cmdHelp"),
-      picPanel(*this, this, "picPanel",
-               [](PictureBox& panel) {
-                 Place(panel, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight);
-               }),
+      picPanel(
+          *this, this, "picPanel",
+          [](PictureBox& panel) { Place(panel, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight); }),
       Chart(*this, picPanel[0]),
       lblseries(*this, &picPanel[0], "lblseries", [](Label& /*label*/) {}),
       imgcmbTargetAtt(*this, &picPanel[0], "imgcmbTargetAtt"),

@@ -102,8 +102,7 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
 }
 
 ReferenceControls::ReferenceControls(Form& form, Control& stage, bool benefit)
-    : Rows(form, stage, benefit, TabPlace(benefit, 4)),
-      lblRefAtt(form, &stage, benefit ? "lblBRefAtt" : "lblCRefAtt") {
+    : Rows(form, stage, benefit, TabPlace(benefit, 4)), lblRefAtt(form, &stage, benefit ? "lblBRefAtt" : "lblCRefAtt") {
   PlaceDisplay(Rows, GroupLeft(benefit), 390.0F, kFrameWidth);
   Place(lblRefAtt, GroupLeft(benefit), kOrderFrameHeight + 1110.0F, kFrameWidth, 420.0F);
   lblRefAtt.Points = 12;
@@ -113,10 +112,9 @@ ReferenceControls::ReferenceControls(Form& form, Control& stage, bool benefit)
 
 IniImpOrderForm::IniImpOrderForm(std::shared_ptr<Platform> platform)
     : WizardForm(std::move(platform), "frmIniImpOrder", "cmdHelp"),
-      picPanel(*this, this, "picPanel",
-               [](PictureBox& panel) {
-                 Place(panel, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight);
-               }),
+      picPanel(
+          *this, this, "picPanel",
+          [](PictureBox& panel) { Place(panel, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight); }),
       BRank(*this, picPanel[0], true),
       CRank(*this, picPanel[0], false),
       BReference(*this, picPanel.Load(1), true),

@@ -15,7 +15,9 @@ void PlaceGrid(Grid& grid, const Control& stage, const char* name, int tabIndex)
 }  // namespace
 
 ResultsControls::ResultsControls(Form& form, Control& stage)
-    : tsWeightRatios(form, &stage, "tsWeightRatios"), gridBRJ(form, &stage, "gridBRJ"), gridCRJ(form, &stage, "gridCRJ") {
+    : tsWeightRatios(form, &stage, "tsWeightRatios"),
+      gridBRJ(form, &stage, "gridBRJ"),
+      gridCRJ(form, &stage, "gridCRJ") {
   Place(tsWeightRatios, 0.0F, kGap, stage.Width, kTabHeight);
   tsWeightRatios.Tabs = {{"Benefit value judgments", "Benefit"}, {"Cost value judgments", "Cost"}};
   tsWeightRatios.TabIndex = 500;

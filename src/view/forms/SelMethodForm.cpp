@@ -25,7 +25,8 @@ SelMethodForm::SelMethodForm(std::shared_ptr<Platform> platform)
 
   Place(chkIncnsistCtrl, listLeft, kHeadingHeight + kGap + 2910.0F, listWidth, 330.0F);
   chkIncnsistCtrl.Caption = "Check judgments for &inconsistency";
-  chkIncnsistCtrl.ToolTipText = "A judgment that contradicts the ranks or its neighbours is shown at once and not taken.";
+  chkIncnsistCtrl.ToolTipText =
+      "A judgment that contradicts the ranks or its neighbours is shown at once and not taken.";
   chkIncnsistCtrl.TabIndex = 1;
 
   imgPicture.Load(1);

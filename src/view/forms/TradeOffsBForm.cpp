@@ -23,9 +23,7 @@ void PutText(Label& label, const char* caption, Single left, Single top, Single 
 TradeOffsBForm::TradeOffsBForm(std::shared_ptr<Platform> platform)
     : WizardForm(std::move(platform), "frmTradeOffsB", "cmdTarnwiseHelp"),
       picTabs(*this, this, "picTabs",
-              [](PictureBox& page) {
-                Place(page, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight);
-              }),
+              [](PictureBox& page) { Place(page, kMargin, kHeadingHeight, kFormWidth - 2 * kMargin, kContentHeight); }),
       picTools(*this, &picTabs[0], "picTools"),
       Scores(*this, picTools),
       Uncertainty(*this, picTools),

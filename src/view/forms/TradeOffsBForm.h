@@ -15,10 +15,10 @@ struct AlternativesControls {
   PictureBox picTradeOffsRange;  // the plot
   ControlArray<Line> GridV;
   ControlArray<Line> GridH;
-  PictureBox shpPCA;             // Tag "PointA"
-  PictureBox shpPCB;             // Tag "PointB"
-  ControlArray<Label> labPCX;    // 0 to 6
-  ControlArray<Label> labPCY;    // 0 to 6
+  PictureBox shpPCA;           // Tag "PointA"
+  PictureBox shpPCB;           // Tag "PointB"
+  ControlArray<Label> labPCX;  // 0 to 6
+  ControlArray<Label> labPCY;  // 0 to 6
   Label lblTradeOffFirstAtt;
   Label lblTradeOffSecondAtt;
   Shape shpPCHighest;

@@ -170,9 +170,9 @@ UncertaintyControls::UncertaintyControls(Form& form, Control& tools)
   PutText(lblUncertainty, "Stretch A into a line, along one attribute:", 240.0F, 330.0F, 4500.0F);
   PlaceTools(tbMovUp, 1470.0F, 780.0F, "Upper end of A",
              {{"MovUp", "Move the upper end up", "up"}, {"MovUpBack", "Move the upper end back", "upback"}});
-  PlaceTools(tbMovLeft, 300.0F, 1500.0F, "Left end of A",
-             {{"MovLeft", "Move the left end to the left", "left"},
-              {"MovLeftBack", "Move the left end back", "leftback"}});
+  PlaceTools(
+      tbMovLeft, 300.0F, 1500.0F, "Left end of A",
+      {{"MovLeft", "Move the left end to the left", "left"}, {"MovLeftBack", "Move the left end back", "leftback"}});
   PlaceTools(tbCertain, 1710.0F, 1500.0F, "Undo", {{"Certain", "Back to what was entered last", "certain"}});
   PlaceTools(tbMovRight, 2700.0F, 1500.0F, "Right end of A",
              {{"MovRightBack", "Move the right end back", "rightback"},

@@ -74,8 +74,10 @@ void TypeIntoBox(TextBox& box, int code, int character, int shift) {
   }
   // Where the focus has gone elsewhere meanwhile, the key comes up there.
   Control* const now = box.Owner.ActiveControl;
-  if (now == &box) Input::KeyUp(box, {code, shift});
-  else if (now != nullptr && now->Type == Kind::TextBox) Input::KeyUp(*static_cast<TextBox*>(now), {code, shift});
+  if (now == &box)
+    Input::KeyUp(box, {code, shift});
+  else if (now != nullptr && now->Type == Kind::TextBox)
+    Input::KeyUp(*static_cast<TextBox*>(now), {code, shift});
 }
 
 }  // namespace

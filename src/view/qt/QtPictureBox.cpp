@@ -30,11 +30,15 @@ class BorderWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const QColor colour = palette().color(QPalette::Mid);
+    // Filled, not stroked: a line may fall between the pixels where the screen's scale is no whole number.
+    painter.fillRect(0, 0, width(), 1, colour);
+    painter.fillRect(0, height() - 1, width(), 1, colour);
+    painter.fillRect(0, 0, 1, height(), colour);
+    painter.fillRect(width() - 1, 0, 1, height(), colour);
   }
   void resizeEvent(QResizeEvent* /*event*/) override {
-    setMask(QRegion(rect()).subtracted(QRegion(rect().adjusted(1, 1, -1, -1))));
+    setMask(QRegion(rect()).subtracted(QRegion(rect().adjusted(2, 2, -2, -2))));
   }
 };
 

@@ -99,6 +99,8 @@ TEST_F(QtFocus, ALabelsMnemonicGoesToTheControlBehindIt) {
   Label label{*form, &form->picRows, "lblName"};
   TextBox box{*form, &form->picRows, "txtName"};
   label.Caption = "&Name:";
+  Place(label, 150, 1800, 900, 300);
+  Place(box, 1200, 1800, 900, 375);
   box.TabIndex = 30;
   Show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));

@@ -77,9 +77,11 @@ PictureShape RoundedBox(Single left, Single top, Single right, Single bottom, Si
   std::vector<Single> points;
   const Single centres[] = {right - radius, bottom - radius, left + radius,  bottom - radius,
                             left + radius,  top + radius,    right - radius, top + radius};
-  for (int corner = 0; corner < 4; ++corner) {
+  for (std::size_t corner = 0; corner < 4; ++corner) {
     const Single from = 90.0F * static_cast<Single>(corner);
-    for (const Single value : Arc(centres[2 * corner], centres[2 * corner + 1], radius, radius, from, from + 90.0F)) {
+    const Single x = centres[2 * corner];
+    const Single y = centres[2 * corner + 1];
+    for (const Single value : Arc(x, y, radius, radius, from, from + 90.0F)) {
       points.push_back(value);
     }
   }

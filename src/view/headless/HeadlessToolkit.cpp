@@ -1,5 +1,7 @@
 #include "view/headless/HeadlessToolkit.h"
 
+#include <tarnwise/TRN_DEA.h>
+
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -31,5 +33,9 @@ void HeadlessToolkit::AnnounceChange(Control& /*control*/) {}
 Single HeadlessToolkit::TextWidth(const String& text) { return kTwipsPerCharacter * static_cast<Single>(Length(text)); }
 Single HeadlessToolkit::ScreenWidth() { return 28800.0F; }
 Single HeadlessToolkit::ScreenHeight() { return 16200.0F; }
+
+std::shared_ptr<Platform> MakeHeadlessPlatform() {
+  return std::make_shared<Platform>(std::make_shared<HeadlessToolkit>());
+}
 
 }  // namespace Tarnwise

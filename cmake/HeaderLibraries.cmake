@@ -1,0 +1,16 @@
+# CLI11 and nlohmann-json, which are headers only. When compiling for another system the build machine's own copies
+# serve, reached by links so that no other header of it is found.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(nlohmann_json 3.9 REQUIRED)
+  find_package(CLI11 REQUIRED)
+else()
+  foreach(library CLI nlohmann)
+    find_path(${library}_HEADERS ${library} PATHS /usr/include /usr/local/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/headers)
+    file(CREATE_LINK ${${library}_HEADERS}/${library} ${PROJECT_BINARY_DIR}/headers/${library} SYMBOLIC)
+  endforeach()
+  foreach(target nlohmann_json::nlohmann_json CLI11::CLI11)
+    add_library(${target} INTERFACE IMPORTED)
+    target_include_directories(${target} SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/headers)
+  endforeach()
+endif()

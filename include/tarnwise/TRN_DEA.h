@@ -21,6 +21,7 @@ namespace Tarnwise {
 class Platform;  // the screen that the wizard is shown on
 
 std::shared_ptr<Platform> MakeQtPlatform();        // needs a QApplication; in the library Tarnwise::TRN_DEA_Qt
+std::shared_ptr<Platform> MakeWin32Platform();     // Windows only, on a thread with a message loop; in Tarnwise_DEA
 std::shared_ptr<Platform> MakeHeadlessPlatform();  // no screen: for tests and scripts
 
 using VariantArray = std::vector<Variant>;  // elements 0 to NumAtts - 1

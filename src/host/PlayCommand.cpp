@@ -9,6 +9,9 @@
 #ifdef TARNWISE_QT
 #include <QApplication>
 #endif
+#ifdef TARNWISE_WIN32
+#include "host/Win32Driver.h"
+#endif
 
 namespace Tarnwise {
 
@@ -40,6 +43,9 @@ int PlaySession(const PlayOptions& options, int& argc, char** argv) {
     const QApplication application(argc, argv);
     return Play(*MakeQtDriver(), options);
   }
+#endif
+#ifdef TARNWISE_WIN32
+  if (options.Toolkit == "win32") return Play(*MakeWin32Driver(MakeWin32Platform()), options);
 #endif
   (void)argc;
   (void)argv;

@@ -12,6 +12,7 @@ using namespace Tarnwise;
 
 int Main(int argc, char** argv) {
   CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
+  app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
 
 #ifdef TARNWISE_QT

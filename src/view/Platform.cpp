@@ -4,6 +4,7 @@
 #include "view/Reach.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Tarnwise {
 
@@ -30,6 +31,19 @@ class ModalCall {
  private:
   std::vector<Form*>& calls_;
   Form* const form_;
+};
+
+// A message box or a modal form inside a handler: handlers that run meanwhile bring their own changes to the screen.
+class FreshHandlers {
+ public:
+  explicit FreshHandlers(int& depth) : depth_(depth), outside_(std::exchange(depth, 0)) {}
+  FreshHandlers(const FreshHandlers&) = delete;
+  FreshHandlers& operator=(const FreshHandlers&) = delete;
+  ~FreshHandlers() { depth_ = outside_; }
+
+ private:
+  int& depth_;
+  const int outside_;
 };
 
 }  // namespace
@@ -68,6 +82,7 @@ void Platform::ShowModal(Form& form) {
   if (hidden && Trace.Shown) Trace.Shown(form, true);
   SyncAll();
   toolkit_->Show(form, true);
+  const FreshHandlers fresh(HandlerDepth);
   toolkit_->RunModal(form);
 }
 
@@ -105,6 +120,7 @@ void Platform::MessageBox(const String& text, int style, const String& title) {
   ++messagesShown_;
   if (Trace.MessageBox) Trace.MessageBox(text, style, title);
   SyncAll();
+  const FreshHandlers fresh(HandlerDepth);
   toolkit_->MessageBox(ActiveForm(), text, style, title);
 }
 

@@ -63,12 +63,6 @@ QtEntry::~QtEntry() {
   DigLater();
 }
 
-QtFreshHandlers::QtFreshHandlers(Platform& platform) : platform_(platform), depth_(platform.HandlerDepth) {
-  platform_.HandlerDepth = 0;
-}
-
-QtFreshHandlers::~QtFreshHandlers() { platform_.HandlerDepth = depth_; }
-
 void Bury(QObject* object) {
   Graves().push_back({object, std::max(depth, 1)});
   DigLater();

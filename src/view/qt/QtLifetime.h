@@ -21,19 +21,6 @@ class QtEntry {
   std::shared_ptr<Form> form_;
 };
 
-// A message box or a modal form inside a handler: handlers that run meanwhile bring their own changes to the screen.
-class QtFreshHandlers {
- public:
-  explicit QtFreshHandlers(Platform& platform);
-  ~QtFreshHandlers();
-  QtFreshHandlers(const QtFreshHandlers&) = delete;
-  QtFreshHandlers& operator=(const QtFreshHandlers&) = delete;
-
- private:
-  Platform& platform_;
-  const int depth_;
-};
-
 // Deletes the object once what runs now has returned.
 void Bury(QObject* object);
 

@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QUrl>
 #include <QWindow>
-#include <optional>
 
 namespace Tarnwise {
 
@@ -41,8 +40,6 @@ void PutOver(QMessageBox& box, QtForm& form) {
 void QtToolkit::MessageBox(Form* over, const String& text, int style, const String& title) {
   QtForm* const shown = over != nullptr ? FormOf(*over) : nullptr;
   const std::shared_ptr<Form> held = over != nullptr ? over->shared_from_this() : nullptr;
-  std::optional<QtFreshHandlers> fresh;
-  if (over != nullptr) fresh.emplace(over->Screen());
   QMessageBox box(IconFor(style), Text(title), Text(text), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
   box.setWindowIcon(PictureIcon("window"));

@@ -1,5 +1,6 @@
 #include "view/qt/QtPaint.h"
 
+#include "view/Captions.h"
 #include "view/Pictures.h"
 #include "view/Reach.h"
 
@@ -13,12 +14,6 @@ namespace Tarnwise {
 namespace {
 
 const QColor kDarkInk(31, 41, 55);
-
-bool BeginsMnemonic(const QString& caption, qsizetype at) {
-  if (at + 1 >= caption.size() || !caption[at + 1].isLetterOrNumber()) return false;
-  const bool insideWord = at > 0 && caption[at - 1].isLetterOrNumber();
-  return !insideWord || caption[at + 1].isLower();
-}
 
 QColor PictureColour(Colour colour) {
   return QColor(static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
@@ -43,24 +38,9 @@ void DrawShape(QPainter& painter, const PictureShape& shape) {
 
 }  // namespace
 
-QString Caption(const String& caption) {
-  const QString plain = Text(caption);
-  QString marked;
-  for (qsizetype i = 0; i < plain.size(); ++i) {
-    marked += plain[i];
-    if (plain[i] == '&' && !BeginsMnemonic(plain, i)) marked += '&';
-    if (plain[i] == '&' && i + 1 < plain.size() && plain[i + 1] == '&') ++i;
-  }
-  return marked;
-}
+QString Caption(const String& caption) { return Text(MarkedCaption(caption)); }
 
-QString PlainCaption(const String& caption) {
-  QString plain = Caption(caption);
-  for (qsizetype i = 0; i < plain.size(); ++i) {
-    if (plain[i] == '&') plain.remove(i, 1);
-  }
-  return plain;
-}
+QString PlainCaption(const String& caption) { return Text(UnmarkedCaption(caption)); }
 
 double PixelsPerUnit(const Control& container) { return static_cast<double>(UnitOf(container) / kTwipsPerPixel); }
 

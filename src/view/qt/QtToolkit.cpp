@@ -91,7 +91,6 @@ void QtToolkit::Sync(Form& form) {
 
 void QtToolkit::RunModal(Form& form) {
   const auto held = form.shared_from_this();
-  const QtFreshHandlers fresh(form.Screen());
   ModalCall call{&form};
   calls_.push_back(&call);
   while (form.Visible && !form.Released) {

@@ -1,0 +1,341 @@
+#include "view/win32/WinForm.h"
+
+#include "view/Platform.h"
+#include "view/Reach.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinLifetime.h"
+#include "view/win32/WinText.h"
+#include "view/win32/WinToolkit.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr DWORD kFormStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+constexpr DWORD kFormExStyle = WS_EX_CONTROLPARENT | WS_EX_APPWINDOW;
+constexpr UINT_PTR kSubclass = 1;
+
+LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR data) {
+  auto* const form = reinterpret_cast<WinForm*>(data);
+  const std::shared_ptr<WinForm> held = form->shared_from_this();
+  if (const auto answer = held->Handle(window, message, wParam, lParam)) return *answer;
+  return DefSubclassProc(window, message, wParam, lParam);
+}
+
+// The size of the whole window around a client area.
+SIZE OuterSize(SIZE client, double scale) {
+  RECT r{0, 0, client.cx, client.cy};
+  AdjustForDpi(r, kFormStyle, kFormExStyle, static_cast<UINT>(std::lround(scale * 96)));
+  return {r.right - r.left, r.bottom - r.top};
+}
+
+// Small screens: the form gets smaller as a whole rather than losing its buttons.
+double FittingScale(const Form& form, double wanted, const RECT& workArea) {
+  const SIZE whole = OuterSize({Scaled(static_cast<int>(form.Width / kTwipsPerPixel), wanted),
+                                Scaled(static_cast<int>(form.Height / kTwipsPerPixel), wanted)},
+                               wanted);
+  const double fit =
+      std::min(static_cast<double>(WidthOf(workArea)) / whole.cx, static_cast<double>(HeightOf(workArea)) / whole.cy);
+  return fit >= 1.0 ? wanted : std::max(wanted * fit, 0.5);
+}
+
+RECT WorkAreaOf(HWND window) {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  if (GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor) != 0) return monitor.rcWork;
+  return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+const wchar_t* FormClass() {
+  static const wchar_t* const name = [] {
+    WNDCLASSEXW type{};
+    type.cbSize = sizeof type;
+    type.lpfnWndProc = DefWindowProcW;
+    type.hInstance = OwnModule();
+    type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    type.lpszClassName = L"TarnwiseForm";
+    RegisterClassExW(&type);
+    return L"TarnwiseForm";
+  }();
+  return name;
+}
+
+}  // namespace
+
+WinForm::WinForm(Form& form, WinToolkit& toolkit) : form_(&form), toolkit_(toolkit) {}
+
+WinForm::~WinForm() {
+  form_ = nullptr;
+  if (window_ != nullptr) DestroyWindow(window_);
+}
+
+void WinForm::MakeWindow() {
+  if (window_ != nullptr) return;
+  const OwnLook look;
+  window_ = CreateWindowExW(kFormExStyle, FormClass(), Wide(form_->Caption).c_str(), kFormStyle, 0, 0, 100, 100,
+                            nullptr, nullptr, OwnModule(), nullptr);
+  if (window_ == nullptr) throw RuntimeError(7, "Windows has no room for another window");
+  tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0,
+                          window_, nullptr, OwnModule(), nullptr);
+  SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, 400);
+  SendMessageW(window_, WM_SETICON, ICON_SMALL,
+               reinterpret_cast<LPARAM>(toolkit_.WindowIcon(GetSystemMetrics(SM_CXSMICON))));
+  SendMessageW(window_, WM_SETICON, ICON_BIG,
+               reinterpret_cast<LPARAM>(toolkit_.WindowIcon(GetSystemMetrics(SM_CXICON))));
+  scale_ = FittingScale(*form_, DpiOf(window_) / 96.0, WorkAreaOf(window_));
+  Watch(window_, *form_);
+  SyncFormWindow();
+  for (Control* control : form_->Controls()) SyncControl(*control);
+  for (const Control* container : std::exchange(restack_, {})) Restack(*container);
+  SendMessageW(window_, WM_UPDATEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS), 0);
+}
+
+HWND WinForm::WindowOf(const Control& control) const {
+  if (form_ != nullptr && &control == form_) return window_;
+  const auto found = windows_.find(&control);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+Control* WinForm::ControlOf(HWND window) const {
+  const auto found = controls_.find(window);
+  return found == controls_.end() ? nullptr : found->second;
+}
+
+void WinForm::Watch(HWND window, Control& control) {
+  controls_[window] = &control;
+  SetWindowSubclass(window, OnMessage, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  CountWindow(1);
+}
+
+HBRUSH WinForm::BrushOf(COLORREF colour) {
+  Brush& brush = brushes_[colour];
+  if (!brush) brush.reset(CreateSolidBrush(colour));
+  return brush.get();
+}
+
+void WinForm::SetTip(HWND window, const std::wstring& text) {
+  std::wstring& shown = tipTexts_[window];
+  if (shown == text) return;
+  TTTOOLINFOW tool{};
+  tool.cbSize = sizeof tool;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = window_;
+  tool.uId = reinterpret_cast<UINT_PTR>(window);
+  if (!shown.empty()) SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  shown = text;
+  tool.lpszText = shown.data();
+  if (!shown.empty()) SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void WinForm::KeepImages(HWND window, Images images) { images_[window] = std::move(images); }
+
+void WinForm::Show(bool modal) {
+  MakeWindow();
+  Sync();
+  EnableWindow(window_, TRUE);
+  ShowWindow(window_, SW_SHOW);
+  SetForegroundWindow(window_);
+  if (modal) SetActiveWindow(window_);
+  FocusTree();
+}
+
+void WinForm::Make(Control& control) {
+  const WinKind* const kind = KindOf(control);
+  if (kind == nullptr) return;
+  if (WindowOf(*control.Parent) == nullptr) SyncControl(*control.Parent);
+  const HWND window = kind->Make(*this, control, WindowOf(*control.Parent));
+  if (window == nullptr) throw RuntimeError(7, "Windows has no room for another window");
+  windows_[&control] = window;
+  Watch(window, control);
+  SyncPlace(control, window);
+  kind->Sync(*this, control, window);
+  SyncLook(control, window);
+  restack_.push_back(control.Parent);
+}
+
+void WinForm::Sync() {
+  if (form_ == nullptr || window_ == nullptr) return;
+  const OwnLook look;
+  for (Control* control : std::vector<Control*>(form_->ChangedControls)) SyncControl(*control);
+  for (const Control* container : std::exchange(restack_, {})) Restack(*container);
+  FocusTree();
+}
+
+void WinForm::SyncControl(Control& control) {
+  if (window_ == nullptr) return;
+  if (&control == form_) {
+    SyncFormWindow();
+  } else if (control.Type == Kind::Timer) {
+    SyncTimer(control);
+  } else if (IsPainted(control)) {
+    SyncPainted(control);
+  } else if (const HWND window = WindowOf(control)) {
+    SyncPlace(control, window);
+    KindOf(control)->Sync(*this, control, window);
+    SyncLook(control, window);
+  } else {
+    Make(control);
+  }
+}
+
+void WinForm::SyncPlace(Control& control, HWND window) {
+  RECT place = PixelPlace(control, scale_);
+  const int margin = Scaled(kGrabMargin, scale_);
+  if (IsHandle(control)) InflateRect(&place, margin, margin);
+  // A drop list is as high as its list when it is open.
+  const bool combo = control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo;
+  if (combo) place.bottom += Scaled(320, scale_);
+  RECT now{};
+  GetWindowRect(window, &now);
+  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&now), 2);
+  const bool same = now.left == place.left && now.top == place.top && now.right == place.right &&
+                    (combo || now.bottom == place.bottom);
+  if (!same) MoveWindow(window, place.left, place.top, WidthOf(place), HeightOf(place), TRUE);
+  int& order = orders_[&control];
+  if (order == control.Order) return;
+  order = control.Order;
+  if (std::find(restack_.begin(), restack_.end(), control.Parent) == restack_.end()) restack_.push_back(control.Parent);
+}
+
+void WinForm::SyncLook(Control& control, HWND window) {
+  if (!control.ToolTipText().empty()) SetTip(window, Wide(control.ToolTipText));
+  if ((IsWindowEnabled(window) != 0) != control.Enabled) {
+    EnableWindow(window, control.Enabled ? TRUE : FALSE);
+    InvalidateRect(window, nullptr, FALSE);
+  }
+  const bool shown = (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (shown != control.Visible) ShowWindow(window, control.Visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void WinForm::SyncFormWindow() {
+  SetText(window_, Wide(form_->Caption));
+  const RECT place = PixelPlace(*form_, scale_);
+  const SIZE outer = OuterSize({WidthOf(place), HeightOf(place)}, DpiOf(window_) / 96.0);
+  RECT now{};
+  GetWindowRect(window_, &now);
+  if (WidthOf(now) != outer.cx || HeightOf(now) != outer.cy) {
+    SetWindowPos(window_, nullptr, 0, 0, outer.cx, outer.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  if (moved_ && place.left == placed_.x && place.top == placed_.y) return;
+  moved_ = true;
+  placed_ = {place.left, place.top};
+  const RECT area = WorkAreaOf(window_);
+  // The tree's place is that of a form of its full size; a frame and a small screen may need it moved.
+  const auto within = [](LONG at, LONG size, LONG from, LONG to) { return std::max(from, std::min(at, to - size)); };
+  const bool smaller = scale_ < DpiOf(window_) / 96.0;
+  const LONG left = smaller ? area.left + (WidthOf(area) - outer.cx) / 2 : placed_.x;
+  const LONG top = smaller ? area.top : placed_.y;
+  SetWindowPos(window_, nullptr, within(left, outer.cx, area.left, area.right),
+               within(top, outer.cy, area.top, area.bottom), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void WinForm::SyncPainted(const Control& control) {
+  const HWND container = WindowOf(*control.Parent);
+  if (container == nullptr) return;
+  RECT& place = painted_[&control];
+  RedrawWindow(container, &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+  place = PaintedPlace(control, scale_);
+  RedrawWindow(container, &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void WinForm::SyncTimer(Control& control) {
+  const auto& record = static_cast<const Timer&>(control);
+  UINT_PTR& id = timers_[&control];
+  if (id == 0) id = nextTimer_++;
+  if (record.Interval > 0 && record.Enabled && toolkit_.RealTimers)
+    SetTimer(window_, id, static_cast<UINT>(record.Interval()), nullptr);
+  else
+    KillTimer(window_, id);
+}
+
+void WinForm::StopTimer(const Control& control) {
+  const auto found = timers_.find(&control);
+  if (found == timers_.end()) return;
+  KillTimer(window_, found->second);
+  timers_.erase(found);
+}
+
+void WinForm::Restack(const Control& container) {
+  if (form_ == nullptr) return;
+  for (const Control* child : ChildrenOf(*form_, &container)) {
+    const HWND window = WindowOf(*child);
+    if (window != nullptr) SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+}
+
+void WinForm::FocusTree() {
+  if (form_ == nullptr || window_ == nullptr || GetActiveWindow() != window_) return;
+  const Control* const active = form_->ActiveControl;
+  HWND wanted = active != nullptr && IsUsable(*active) ? WindowOf(*active) : nullptr;
+  if (wanted == nullptr) wanted = window_;
+  const HWND now = GetFocus();
+  if (now == wanted || (wanted != window_ && IsChild(wanted, now) != 0)) return;
+  focusing_ = true;
+  SetFocus(wanted);
+  focusing_ = false;
+}
+
+void WinForm::Rescale(double scale) {
+  if (form_ == nullptr) return;
+  scale_ = FittingScale(*form_, scale, WorkAreaOf(window_));
+  moved_ = true;
+  placed_ = {PixelPlace(*form_, scale_).left, PixelPlace(*form_, scale_).top};
+  SyncFormWindow();
+  for (Control* control : form_->Controls()) SyncControl(*control);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void WinForm::Forget(const Control& control) {
+  StopTimer(control);
+  orders_.erase(&control);
+  const auto painted = painted_.find(&control);
+  if (painted != painted_.end()) {
+    if (const HWND container = WindowOf(*control.Parent)) {
+      RedrawWindow(container, &painted->second, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    }
+    painted_.erase(painted);
+  }
+  std::erase(restack_, &control);
+  std::erase_if(controls_, [&control](const auto& entry) { return entry.second == &control; });
+  if (press_.On == &control) press_ = {nullptr, -1, true, false};
+  const auto found = windows_.find(&control);
+  if (found == windows_.end()) return;
+  const HWND window = found->second;
+  windows_.erase(found);
+  SetTip(window, {});
+  tipTexts_.erase(window);
+  ShowWindow(window, SW_HIDE);
+  Bury(window);
+}
+
+void WinForm::Release() {
+  form_ = nullptr;
+  for (const auto& [control, timer] : timers_) KillTimer(window_, timer);
+  timers_.clear();
+  controls_.clear();
+  windows_.clear();
+  press_ = {};
+  if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
+}
+
+// Windows destroys it: by our own will, or because the host's thread or desktop ends.
+void WinForm::Lost(HWND window) {
+  RemoveWindowSubclass(window, OnMessage, kSubclass);
+  CountWindow(-1);
+  controls_.erase(window);
+  tipTexts_.erase(window);
+  images_.erase(window);
+  std::erase_if(windows_, [window](const auto& entry) { return entry.second == window; });
+  if (window != window_) return;
+  window_ = nullptr;
+  if (form_ == nullptr) return;
+  const WinEntry entry(*form_);
+  form_->Screen().Hide(*form_);
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,110 @@
+// Grids: a list view in report form to look at, the first row of the record its heading.
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinPaint.h"
+#include "view/win32/WinText.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kCellMargin = 16;  // pixels of the design
+constexpr int kDefaultWidth = 64;
+
+HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
+  const HWND window =
+      NewChild(form, WC_LISTVIEWW, LVS_REPORT | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0, parent);
+  ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+  SetWindowTextW(window, Wide(control.AccessibleName).c_str());
+  return window;
+}
+
+std::wstring CellText(HWND window, int row, int col) {
+  std::wstring text(512, L'\0');
+  LVITEMW item{};
+  item.iSubItem = col;
+  item.pszText = text.data();
+  item.cchTextMax = static_cast<int>(text.size());
+  const LRESULT length =
+      SendMessageW(window, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+void SetColumn(HWND window, int col, std::wstring heading, bool insert) {
+  LVCOLUMNW column{};
+  column.mask = LVCF_TEXT | LVCF_FMT;
+  column.fmt = LVCFMT_CENTER;
+  column.pszText = heading.data();
+  SendMessageW(window, insert ? LVM_INSERTCOLUMNW : LVM_SETCOLUMNW, static_cast<WPARAM>(col),
+               reinterpret_cast<LPARAM>(&column));
+}
+
+// A list view never centres the column that was its first: another one is that, and goes.
+void MakeColumns(HWND window, const Grid& grid) {
+  const HWND header = ListView_GetHeader(window);
+  if (Header_GetItemCount(header) == grid.Cols()) return;
+  while (Header_GetItemCount(header) > 0) ListView_DeleteColumn(window, 0);
+  SetColumn(window, 0, L"", true);
+  for (int col = 0; col < grid.Cols(); ++col) SetColumn(window, col + 1, L"", true);
+  ListView_DeleteColumn(window, 0);
+}
+
+void SetCell(HWND window, int row, int col, std::wstring text) {
+  LVITEMW item{};
+  item.iSubItem = col;
+  item.pszText = text.data();
+  SendMessageW(window, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+}
+
+void SyncGrid(WinForm& form, Control& control, HWND window) {
+  const auto& grid = static_cast<const Grid&>(control);
+  MakeColumns(window, grid);
+  const int rows = std::max(grid.Rows() - 1, 0);
+  while (ListView_GetItemCount(window) > rows) ListView_DeleteItem(window, rows);
+  while (ListView_GetItemCount(window) < rows) {
+    LVITEMW item{};
+    item.iItem = ListView_GetItemCount(window);
+    SendMessageW(window, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+  }
+  for (int row = 0; row < grid.Rows(); ++row) {
+    for (int col = 0; col < grid.Cols(); ++col) {
+      std::wstring text = Wide(grid.TextMatrix[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)]);
+      if (row == 0)
+        SetColumn(window, col, std::move(text), false);
+      else if (CellText(window, row - 1, col) != text)
+        SetCell(window, row - 1, col, std::move(text));
+    }
+  }
+  SpreadColumns(grid, window, form.Scale());
+}
+
+}  // namespace
+
+// Columns get the widths of the record, and share what room is left over.
+void SpreadColumns(const Grid& grid, HWND list, double scale) {
+  RECT client{};
+  GetClientRect(list, &client);
+  int sum = 0;
+  std::vector<int> widths;
+  for (const int width : grid.ColWidth) {
+    const int pixels = width == 0 ? kDefaultWidth : static_cast<int>(std::ceil(width / 15.0)) + kCellMargin;
+    widths.push_back(Scaled(pixels, scale));
+    sum += widths.back();
+  }
+  const int count = static_cast<int>(widths.size());
+  const int spare = std::max(static_cast<int>(client.right) - sum, 0);
+  for (int i = 0; i < count; ++i) {
+    const int wanted = widths[static_cast<std::size_t>(i)] + spare * (i + 1) / count - spare * i / count;
+    if (ListView_GetColumnWidth(list, i) != wanted) ListView_SetColumnWidth(list, i, wanted);
+  }
+}
+
+const WinKind kWinGrid{MakeGrid, SyncGrid, nullptr};
+
+}  // namespace Tarnwise

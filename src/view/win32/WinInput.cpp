@@ -1,0 +1,388 @@
+// What a person does with the mouse to the windows of a form, on its way to the tree. Windows follow the mouse
+// themselves only where their own behaviour is wanted; what they would choose or toggle by themselves is put to the
+// tree, which decides.
+#include "view/Dispatch.h"
+#include "view/Input.h"
+#include "view/Reach.h"
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinLifetime.h"
+#include "view/win32/WinToolkit.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr UINT kChoose = WM_APP + 1;  // a drop list has closed over a choice
+constexpr UINT kFocusCame = WM_APP + 2;
+constexpr UINT kDpiChanged = 0x02E0;
+
+// The window does the rest of a press by itself.
+bool FollowsMouse(const Control& control) {
+  if (control.DragAutomatic) return false;
+  switch (control.Type) {
+    case Kind::CommandButton:
+    case Kind::OptionButton:
+    case Kind::CheckBox:
+    case Kind::TextBox:
+    case Kind::VScrollBar:
+    case Kind::ComboBox:
+    case Kind::ImageCombo:
+    case Kind::Toolbar:
+    case Kind::Grid: return true;
+    default: return false;
+  }
+}
+
+bool HasRows(const Control& control) { return control.Type == Kind::ListBox || control.Type == Kind::TabStrip; }
+
+POINT PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
+
+POINT Mapped(HWND from, HWND to, POINT at) {
+  MapWindowPoints(from, to, &at, 1);
+  return at;
+}
+
+bool IsInside(HWND window, POINT at) {
+  RECT client{};
+  GetClientRect(window, &client);
+  return PtInRect(&client, at) != 0;
+}
+
+}  // namespace
+
+// What a click or key without a handler changed still has to be seen, and what the window did by itself to be undone.
+void WinForm::Settle(Control* control) {
+  if (form_ == nullptr) return;
+  if (form_->Screen().HandlerDepth == 0) form_->Screen().SyncAll();
+  if (form_ == nullptr) return;
+  if (control != nullptr && WindowOf(*control) != nullptr) SyncControl(*control);
+  FocusTree();
+  toolkit_.Drag().Show(*this);
+}
+
+std::optional<LRESULT> WinForm::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCDESTROY) {
+    Lost(window);
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+  Control* const control = ControlOf(window);
+  if (form_ == nullptr || control == nullptr) return std::nullopt;
+  if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) return Mouse(window, *control, message, wParam, lParam);
+  if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return Keyboard(window, *control, message, wParam, lParam);
+  if (IsContainer(*control)) {
+    if (auto answer = Parent(message, wParam, lParam)) return answer;
+  }
+  return Window(*control, window, message, wParam, lParam);
+}
+
+std::optional<LRESULT> WinForm::Mouse(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
+  const POINT at = PointOf(lParam);
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      if (Press(window, control, Mapped(window, window_, at))) return 0;
+      return std::nullopt;
+    case WM_MOUSEMOVE:
+      if (Move(window, at, (wParam & MK_LBUTTON) != 0)) return 0;
+      return std::nullopt;
+    case WM_LBUTTONUP:
+      if (LetGo(window, message, wParam, lParam)) return 0;
+      return std::nullopt;
+    case WM_MOUSEWHEEL:
+      if (Wheel(control, wParam)) return 0;
+      return std::nullopt;
+    default: return std::nullopt;
+  }
+}
+
+// True: the window itself must not see it.
+bool WinForm::Press(HWND window, Control& control, POINT inWindow) {
+  const auto held = shared_from_this();
+  const WinEntry entry(*form_);
+  const bool native = FollowsMouse(control);
+  press_ = {&control, -1, false, native};
+  toolkit_.Drag().Cancel();
+  if (form_->Screen().Drag.Active()) form_->Screen().Drag.Cancel();
+  if (!IsUsable(control)) {
+    press_.Refused = true;
+    return true;
+  }
+  if (HasRows(control)) press_.Row = RowAt(control, window, Mapped(window_, window, inWindow));
+  const bool good = Input::Press(control);
+  // The focus that has moved may have taken the control or the whole form away.
+  if (form_ == nullptr || press_.On != &control || !good) {
+    press_.Refused = true;
+    Settle(nullptr);
+    return true;
+  }
+  Settle(nullptr);
+  if (form_ == nullptr || press_.On != &control) return true;
+  if (control.DragAutomatic) toolkit_.Drag().Arm(*this, control, inWindow);
+  if (!native) SetCapture(window_);
+  return !native;
+}
+
+bool WinForm::Move(HWND window, POINT at, bool down) {
+  if (!down || press_.Refused) return press_.Refused && down;
+  if (press_.On == nullptr) return false;
+  const auto held = shared_from_this();
+  const WinEntry entry(*form_);
+  const POINT inWindow = Mapped(window, window_, at);
+  if (toolkit_.Drag().Move(inWindow.x, inWindow.y)) return true;
+  return !press_.Native;
+}
+
+bool WinForm::LetGo(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto held = shared_from_this();
+  const WinEntry entry(*form_);
+  const bool captured = GetCapture() == window_;
+  if (toolkit_.Drag().Release()) {
+    press_ = {};
+    if (captured) ReleaseCapture();
+    Settle(nullptr);
+    return true;
+  }
+  const WinPress press = press_;
+  if (press.Refused || press.On == nullptr) {
+    press_ = {};
+    if (captured) ReleaseCapture();
+    return press.Refused;
+  }
+  if (press.Native) {
+    // What it notifies comes from inside this call, so that a press can be told from anything else.
+    DefSubclassProc(window, message, wParam, lParam);
+    if (form_ != nullptr && press_.On != nullptr && press_.On->Type == Kind::TextBox) {
+      StoreCaret(static_cast<TextBox&>(*press_.On), WindowOf(*press_.On));
+    }
+    press_ = {};
+    return true;
+  }
+  press_ = {};
+  if (captured) ReleaseCapture();
+  FinishPress(press, Mapped(window, window_, PointOf(lParam)));
+  return true;
+}
+
+void WinForm::FinishPress(const WinPress& press, POINT inForm) {
+  Control& control = *press.On;
+  const HWND window = WindowOf(control);
+  const POINT at = Mapped(window_, window, inForm);
+  if (window == nullptr || !IsInside(window, at)) return;
+  if (HasRows(control)) {
+    const int row = RowAt(control, window, at);
+    if (row < 0 || row != press.Row) return;
+    Input::SelectRow(control, row);
+  } else {
+    Input::Activate(control);
+  }
+  Settle(ControlOf(window));
+}
+
+// The wheel turns the scroll bar of the viewport that the pointer is over.
+bool WinForm::Wheel(const Control& control, WPARAM wParam) {
+  if (control.Type == Kind::Grid || control.Type == Kind::ListBox) return false;
+  for (const Control* around = &control; around != nullptr; around = around->Parent) {
+    for (Control* child : ChildrenOf(*form_, around)) {
+      if (child->Type != Kind::VScrollBar || !IsUsable(*child)) continue;
+      const WinEntry entry(*form_);
+      auto& bar = static_cast<VScrollBar&>(*child);
+      const int steps = GET_WHEEL_DELTA_WPARAM(wParam) / (WHEEL_DELTA / 3);
+      Input::ScrollTo(bar, bar.Value - steps * bar.SmallChange, false);
+      Settle(&bar);
+      return true;
+    }
+  }
+  return true;
+}
+
+void WinForm::Clicked(Control& control) {
+  if (press_.On != &control) return;  // not by a person
+  const WinEntry entry(*form_);
+  press_ = {};
+  Input::Activate(control);
+  Settle(nullptr);
+}
+
+void WinForm::RowChosen(Control& control) {
+  const HWND window = WindowOf(control);
+  if (window == nullptr || !IsUsable(control)) return;
+  const WinEntry entry(*form_);
+  Input::SelectRow(control, ChosenRow(control, window));
+  Settle(ControlOf(window));
+}
+
+void WinForm::Scrolled(Control& control, HWND bar, int code) {
+  const WinEntry entry(*form_);
+  auto& record = static_cast<VScrollBar&>(control);
+  if (code == SB_ENDSCROLL) {
+    Settle(&control);
+    return;
+  }
+  const bool dragging = code == SB_THUMBTRACK;
+  const bool dragged = code == SB_THUMBPOSITION;
+  const int value = ScrolledValue(record, bar, code);
+  // What was dragged has told each step by Scroll; its end is a change, too.
+  if (dragged && value == record.Value && record.Change) {
+    Dispatch(record, "Change", [&record] { record.Change(); });
+  } else {
+    Input::ScrollTo(record, value, dragging);
+  }
+  Settle(dragging ? nullptr : ControlOf(bar));
+}
+
+// Messages that children send to what contains them.
+std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND: return Command(wParam, reinterpret_cast<HWND>(lParam));
+    case WM_VSCROLL: {
+      Control* const bar = ControlOf(reinterpret_cast<HWND>(lParam));
+      if (bar == nullptr || bar->Type != Kind::VScrollBar) return std::nullopt;
+      const auto held = shared_from_this();
+      Scrolled(*bar, reinterpret_cast<HWND>(lParam), LOWORD(wParam));
+      return 0;
+    }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      Control* const control = ControlOf(item.hwndItem);
+      const WinKind* const kind = control != nullptr ? KindOf(*control) : nullptr;
+      if (kind == nullptr || kind->Draw == nullptr) return std::nullopt;
+      kind->Draw(*this, *control, item);
+      return TRUE;
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN: {
+      const Control* const control = ControlOf(reinterpret_cast<HWND>(lParam));
+      if (control == nullptr || control->Type == Kind::TextBox) return std::nullopt;
+      const auto dc = reinterpret_cast<HDC>(wParam);
+      const COLORREF ground = GroundOf(*control);
+      SetBkColor(dc, ground);
+      SetTextColor(dc, InkOn(ground));
+      return reinterpret_cast<LRESULT>(BrushOf(ground));
+    }
+    default: return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
+  Control* const control = ControlOf(from);
+  if (control == nullptr) return std::nullopt;
+  const auto held = shared_from_this();
+  const int code = HIWORD(wParam);
+  switch (control->Type) {
+    case Kind::CommandButton:
+    case Kind::OptionButton:
+    case Kind::CheckBox:
+      if (code == BN_CLICKED) Clicked(*control);
+      return 0;
+    case Kind::ComboBox:
+    case Kind::ImageCombo:
+      if (code == CBN_SELENDOK) PostMessageW(window_, kChoose, 0, reinterpret_cast<LPARAM>(from));
+      return 0;
+    case Kind::Toolbar: {
+      const auto& bar = static_cast<Toolbar&>(*control);
+      const std::size_t button = LOWORD(wParam);
+      if (button == 0 || button > bar.Buttons.size() || press_.On != control) return 0;
+      const WinEntry entry(*form_);
+      press_ = {};
+      Input::PressToolButton(static_cast<Toolbar&>(*control), String(bar.Buttons[button - 1].Key));
+      Settle(nullptr);
+      return 0;
+    }
+    default: return std::nullopt;
+  }
+}
+
+// The rest: painting, the pointer's shape, focus, timers, the window's own buttons.
+std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto held = shared_from_this();
+  switch (message) {
+    case WM_PAINT:
+      if (!IsBox(control) && &control != form_) return std::nullopt;
+      PaintBoxWindow(*this, control, window);
+      return 0;
+    case WM_ERASEBKGND: return IsBox(control) || &control == form_ ? std::optional<LRESULT>(1) : std::nullopt;
+    case WM_SETCURSOR: {
+      if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
+      int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : control.MousePointer();
+      if (shape == 0 && control.DragAutomatic && control.Enabled) {
+        SetCursor(LoadCursorW(nullptr, IDC_HAND));
+        return TRUE;
+      }
+      if (shape == 0 && control.Type == Kind::TextBox) shape = 3;
+      SetCursor(CursorFor(shape));
+      return TRUE;
+    }
+    case WM_SETFOCUS:
+      if (window == window_)
+        FocusTree();
+      else if (!focusing_ && form_->ActiveControl != &control)
+        PostMessageW(window_, kFocusCame, 0, reinterpret_cast<LPARAM>(window));
+      if (IsBox(control)) InvalidateRect(window, nullptr, FALSE);
+      return std::nullopt;
+    case WM_KILLFOCUS:
+      if (IsBox(control)) InvalidateRect(window, nullptr, FALSE);
+      return std::nullopt;
+    case WM_CONTEXTMENU: return 0;
+    case WM_CAPTURECHANGED:
+      if (window == window_ && toolkit_.Drag().ByMouse()) toolkit_.Drag().Cancel();
+      return std::nullopt;
+    case WM_TIMER:
+      if (window != window_) return std::nullopt;
+      Ticked(wParam);
+      return 0;
+    case WM_CLOSE:
+      if (window != window_) return std::nullopt;
+      CloseWanted();
+      return 0;
+    case WM_SIZE:
+      if (control.Type == Kind::Grid) {
+        const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+        SpreadColumns(static_cast<Grid&>(control), window, scale_);
+        return answer;
+      }
+      return std::nullopt;
+    case kDpiChanged:
+      if (window != window_) return std::nullopt;
+      Rescale(HIWORD(wParam) / 96.0);
+      return 0;
+    case kChoose:
+      if (Control* const list = ControlOf(reinterpret_cast<HWND>(lParam))) RowChosen(*list);
+      return 0;
+    case kFocusCame: FocusCame(reinterpret_cast<HWND>(lParam)); return 0;
+    default: return std::nullopt;
+  }
+}
+
+void WinForm::CloseWanted() {
+  if (IsWindowEnabled(window_) == 0) return;
+  const WinEntry entry(*form_);
+  Input::CloseForm(*form_);
+  Settle(nullptr);
+}
+
+void WinForm::Ticked(UINT_PTR id) {
+  for (const auto& [control, timer] : timers_) {
+    if (timer != id) continue;
+    const WinEntry entry(*form_);
+    Input::Tick(const_cast<Timer&>(static_cast<const Timer&>(*control)));  // NOLINT: kept by its address only
+    Settle(nullptr);
+    return;
+  }
+}
+
+// The focus came by a way of the platform's own, a screen reader's for one: the tree follows where it can.
+void WinForm::FocusCame(HWND window) {
+  Control* const control = ControlOf(window);
+  if (control == nullptr || control == form_->ActiveControl) return;
+  const HWND now = GetFocus();
+  if (now != window && IsChild(window, now) == 0) return;
+  const WinEntry entry(*form_);
+  if (TakesFocus(*control) && Refusal(*control).empty()) Input::MoveFocus(*control);
+  Settle(nullptr);
+}
+
+}  // namespace Tarnwise

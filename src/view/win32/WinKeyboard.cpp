@@ -1,0 +1,201 @@
+// Keys on their way from Windows to the tree.
+#include "view/Captions.h"
+#include "view/Input.h"
+#include "view/Reach.h"
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinLifetime.h"
+#include "view/win32/WinText.h"
+#include "view/win32/WinToolkit.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+int ShiftNow() {
+  const auto down = [](int key) { return GetKeyState(key) < 0; };
+  return (down(VK_SHIFT) ? 1 : 0) | (down(VK_CONTROL) ? 2 : 0) | (down(VK_MENU) ? 4 : 0);
+}
+
+// Keys that the window may answer when the tree has no use for them.
+bool AnswersKeys(const Control& control) {
+  return control.Type == Kind::ListBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
+         control.Type == Kind::Grid;
+}
+
+bool IsModifier(WPARAM code) {
+  return code == VK_SHIFT || code == VK_CONTROL || code == VK_MENU || code == VK_LWIN || code == VK_RWIN ||
+         code == VK_CAPITAL || code == VK_NUMLOCK;
+}
+
+bool IsOpen(const Control& control, HWND window) {
+  if (control.Type != Kind::ComboBox && control.Type != Kind::ImageCombo) return false;
+  return SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+const String* CaptionOf(const Control& control) {
+  switch (control.Type) {
+    case Kind::CommandButton: return &static_cast<const CommandButton&>(control).Caption();
+    case Kind::OptionButton: return &static_cast<const OptionButton&>(control).Caption();
+    case Kind::CheckBox: return &static_cast<const CheckBox&>(control).Caption();
+    case Kind::Label: return &static_cast<const Label&>(control).Caption();
+    default: return nullptr;
+  }
+}
+
+// What a mnemonic leads to, now.
+Control* MeantBy(Control& control) {
+  if (!IsOnScreen(control) || IsCovered(control)) return nullptr;
+  Control* const meant = control.Type == Kind::Label ? LabelledBy(static_cast<Label&>(control)) : &control;
+  return meant != nullptr && Refusal(*meant).empty() ? meant : nullptr;
+}
+
+}  // namespace
+
+std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto held = shared_from_this();
+  bool taken = false;
+  switch (message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN: taken = KeyDown(window, control, message, wParam, lParam); break;
+    case WM_CHAR: taken = Character(window, wParam); break;
+    case WM_SYSCHAR: taken = Mnemonic(wParam); break;
+    case WM_KEYUP: KeyUp(static_cast<int>(wParam)); break;
+    default: break;
+  }
+  return taken ? std::optional<LRESULT>(0) : std::nullopt;
+}
+
+// True: the window itself must not see it.
+bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (IsModifier(wParam)) return false;
+  const int code = static_cast<int>(wParam);
+  const int shift = ShiftNow();
+  const WinEntry entry(*form_);
+  dropCharacter_ = false;
+  if (toolkit_.Drag().ByMouse()) {
+    if (code == VK_ESCAPE) toolkit_.Drag().Cancel();
+    dropCharacter_ = true;
+    Settle(nullptr);
+    return true;
+  }
+  if (message == WM_SYSKEYDOWN) return false;  // its character may be a mnemonic
+  Control* const active = form_->ActiveControl;
+  if (active != nullptr && WindowOf(*active) != nullptr && IsOpen(*active, WindowOf(*active))) return false;
+  if (code == VK_TAB && (shift & 6) == 0) {
+    dropCharacter_ = true;
+    Input::TabKey(*form_, (shift & 1) != 0);
+    Settle(nullptr);
+    return true;
+  }
+  // Keys of a control that can't answer now go nowhere.
+  if (active == nullptr || !IsUsable(*active)) {
+    dropCharacter_ = true;
+    return true;
+  }
+  if (active->Type == Kind::TextBox) {
+    auto& box = static_cast<TextBox&>(*active);
+    const HWND edit = WindowOf(box);
+    typing_ = code;
+    StoreCaret(box, edit);
+    KeyEvent down{code, shift};
+    const bool passes = Input::KeyDown(box, down);
+    if (form_ == nullptr || ControlOf(edit) != &box || !passes) {
+      dropCharacter_ = true;
+      Settle(nullptr);
+      return true;
+    }
+    SyncControl(box);
+    if (edit != window) return true;
+    DefSubclassProc(window, message, static_cast<WPARAM>(down.Code), lParam);
+    const std::wstring text = TextOf(edit);
+    if (Utf8(text) != box.Text())
+      Input::TextEdited(box, Utf8(text), CharactersBefore(text, CaretOf(edit)));
+    else
+      StoreCaret(box, edit);
+    Settle(form_ != nullptr ? ControlOf(edit) : nullptr);
+    return true;
+  }
+  if ((shift & 2) == 0 && Input::ControlKey(*active, code, shift)) {
+    dropCharacter_ = true;
+    Settle(form_ != nullptr ? form_->ActiveControl : nullptr);
+    return true;
+  }
+  if (AnswersKeys(control)) return false;
+  dropCharacter_ = true;
+  return true;
+}
+
+// What a key types; the form's key press event may drop it or put another in its place.
+bool WinForm::Character(HWND window, WPARAM unit) {
+  Control* const active = form_->ActiveControl;
+  if (std::exchange(dropCharacter_, false)) return true;
+  if (active == nullptr || active->Type != Kind::TextBox || !IsUsable(*active)) {
+    return ControlOf(window) == nullptr || !AnswersKeys(*ControlOf(window));
+  }
+  int character = static_cast<int>(unit);
+  if (unit >= 0xD800 && unit <= 0xDBFF) {
+    highSurrogate_ = static_cast<wchar_t>(unit);
+    return true;
+  }
+  if (unit >= 0xDC00 && unit <= 0xDFFF) {
+    character = 0x10000 + ((highSurrogate_ & 0x3FF) << 10) + (character & 0x3FF);
+    highSurrogate_ = 0;
+  }
+  auto& box = static_cast<TextBox&>(*active);
+  const HWND edit = WindowOf(box);
+  const WinEntry entry(*form_);
+  StoreCaret(box, edit);
+  KeyEvent press{character, ShiftNow()};
+  const bool types = Input::KeyPress(box, press);
+  if (form_ == nullptr || ControlOf(edit) != &box) {
+    Settle(nullptr);
+    return true;
+  }
+  SyncControl(box);
+  if (types) TypeCharacter(edit, press.Code);
+  const std::wstring text = TextOf(edit);
+  if (Utf8(text) != box.Text())
+    Input::TextEdited(box, Utf8(text), CharactersBefore(text, CaretOf(edit)));
+  else
+    StoreCaret(box, edit);
+  Settle(form_ != nullptr ? ControlOf(edit) : nullptr);
+  return true;
+}
+
+void WinForm::KeyUp(int code) {
+  if (typing_ != code || form_ == nullptr) return;
+  typing_ = 0;
+  const WinEntry entry(*form_);
+  Control* const active = form_->ActiveControl;
+  if (active == nullptr || active->Type != Kind::TextBox) return;
+  Input::KeyUp(static_cast<TextBox&>(*active), {code, ShiftNow()});
+  Settle(nullptr);
+}
+
+bool WinForm::Mnemonic(WPARAM character) {
+  const auto wanted = static_cast<char>(character < 128 ? character : 0);
+  const char lower = wanted >= 'A' && wanted <= 'Z' ? static_cast<char>(wanted - 'A' + 'a') : wanted;
+  if (lower <= ' ') return false;
+  std::vector<Control*> meant;
+  for (Control* control : form_->Controls()) {
+    const String* const caption = CaptionOf(*control);
+    if (caption == nullptr || MnemonicOf(*caption) != lower) continue;
+    if (Control* const found = MeantBy(*control)) meant.push_back(found);
+  }
+  if (meant.empty()) return false;
+  const WinEntry entry(*form_);
+  // Several with the same letter: the focus walks through them.
+  const auto present = std::find(meant.begin(), meant.end(), form_->ActiveControl);
+  Control& next = present == meant.end() || std::next(present) == meant.end() ? *meant.front() : **std::next(present);
+  const bool good = Input::Press(next);
+  if (form_ != nullptr && good && meant.size() == 1 && CaptionOf(next) != nullptr) Input::Activate(next);
+  Settle(nullptr);
+  return true;
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,75 @@
+// The native window of each kind of control: how it is made, brought to what its record says, and drawn where Windows
+// leaves that to us. Programmatic changes raise nothing.
+#pragma once
+
+#include "view/Controls.h"
+
+#include "view/win32/WinApi.h"
+
+namespace Tarnwise {
+
+class Canvas;
+class WinForm;
+
+struct WinKind {
+  HWND (*Make)(WinForm& form, Control& control, HWND parent);
+  void (*Sync)(WinForm& form, Control& control, HWND window);
+  void (*Draw)(WinForm& form, Control& control, const DRAWITEMSTRUCT& item);  // null: the window draws itself
+};
+
+// Null for kinds without a window of their own: timers, lines, and shapes that only stand there.
+const WinKind* KindOf(const Control& control);
+
+bool IsPainted(const Control& control);  // drawn by its container
+bool IsBox(const Control& control);      // a window of our own class, drawn by PaintBoxWindow
+bool IsContainer(const Control& control);
+
+extern const WinKind kWinLabel;
+extern const WinKind kWinBox;  // picture boxes, frames, images, and shapes that can be dragged
+extern const WinKind kWinCommandButton;
+extern const WinKind kWinOptionButton;
+extern const WinKind kWinCheckBox;
+extern const WinKind kWinToolbar;
+extern const WinKind kWinTextBox;
+extern const WinKind kWinListBox;
+extern const WinKind kWinTabStrip;
+extern const WinKind kWinComboBox;
+extern const WinKind kWinImageCombo;
+extern const WinKind kWinGrid;
+extern const WinKind kWinScrollBar;
+
+// A child window of the class; it gets the form's font.
+HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyle, HWND parent);
+
+// The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
+Control* LabelledBy(const Label& label);
+
+// The number of the row chosen in a native list, in the control's own numbers.
+int ChosenRow(const Control& control, HWND window);
+int RowAt(const Control& control, HWND window, POINT at);  // of a list box or a tab strip; -1 where there is none
+
+// Text boxes: keeps the tree's SelStart and SelLength equal to what the person sees.
+void StoreCaret(TextBox& box, HWND edit);
+int CaretOf(HWND edit);  // in UTF-16 units
+void TypeCharacter(HWND edit, int character);
+
+// Scroll bars: what the code of a WM_VSCROLL makes of the value.
+int ScrolledValue(const VScrollBar& bar, HWND window, int code);
+
+void SpreadColumns(const Grid& grid, HWND list, double scale);
+
+// --- what boxes and containers paint ---
+
+constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
+
+bool IsHandle(const Control& control);                    // a small drag source: drawn as a handle
+RECT PaintedPlace(const Control& control, double scale);  // of a line or a shape in its container
+
+// The area (pixels of the container) of what the container itself shows: ground, picture, drawing, lines and shapes.
+void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area);
+int FineFor(const Control& container);  // how finely its content wants to be drawn
+// What stands behind a control of the container, onto the control's own window.
+void PaintBehind(HDC dc, const WinForm& form, const Control& control, const RECT& client);
+void PaintBoxWindow(WinForm& form, Control& control, HWND window);
+
+}  // namespace Tarnwise

@@ -1,0 +1,93 @@
+// Labels: static controls that we draw, so that they are see-through, fitted to their room, and lit where they signal.
+#include "view/Captions.h"
+#include "view/Platform.h"
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinPaint.h"
+#include "view/win32/WinText.h"
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kSmooth = 3;
+constexpr int kLitPadding = 8;
+
+bool IsLit(const Label& label) { return label.ForeColor == kHighlightText; }
+
+COLORREF InkOf(const Label& label) {
+  const bool plain = label.BackColor == kButtonFace;
+  const COLORREF ground = plain ? GroundOf(label) : ToColorRef(label.BackColor);
+  const bool system = (label.ForeColor & 0x80000000U) != 0;
+  if (system && !IsLit(label) && ground != ToColorRef(kButtonFace)) return InkOn(ground);
+  return ToColorRef(label.ForeColor);
+}
+
+// A caption in the colour of highlighted text is a lit sign: it stands on the highlight's own colour.
+void PaintLit(HDC dc, const WinForm& form, const Label& label, const RECT& client) {
+  Canvas canvas(WidthOf(client), HeightOf(client), kSmooth);
+  RECT area = client;
+  MapWindowPoints(form.WindowOf(label), form.WindowOf(*label.Parent), reinterpret_cast<POINT*>(&area), 2);
+  PaintGround(canvas, form, *label.Parent, area);
+  const Brush brush(CreateSolidBrush(GetSysColor(COLOR_HIGHLIGHT)));
+  const Selected withBrush(canvas.Dc(), brush.get());
+  const Selected withPen(canvas.Dc(), GetStockObject(NULL_PEN));
+  const int corner = std::min(HeightOf(client), Scaled(12, form.Scale())) * kSmooth;
+  RoundRect(canvas.Dc(), 0, 0, WidthOf(client) * kSmooth, HeightOf(client) * kSmooth, corner, corner);
+  canvas.PutOnto(dc, 0, 0);
+}
+
+HWND MakeLabel(WinForm& form, Control& control, HWND parent) {
+  const DWORD notify = control.Click || control.DragAutomatic ? SS_NOTIFY : 0;
+  return NewChild(form, L"STATIC", SS_OWNERDRAW | notify, 0, parent);
+}
+
+bool IsMarked(const Label& label) {
+  return MnemonicOf(label.Caption) != 0 && UnmarkedCaption(label.Caption) != label.Caption();
+}
+
+void SyncLabel(WinForm& form, Control& control, HWND window) {
+  auto& label = static_cast<Label&>(control);
+  const std::wstring plain = Wide(UnmarkedCaption(label.Caption));
+  const bool news = label.Announces && IsLit(label) && TextOf(window) != plain;
+  SetText(window, plain);
+  RECT client{};
+  GetClientRect(window, &client);
+  const HFONT font = FittedFont(form.Scale(), label.Points, label.Bold, plain, client.right);
+  const bool cut = !label.WordWrap && TextWidthIn(font, plain) > client.right + 1;
+  if (label.ToolTipText().empty()) form.SetTip(window, cut ? plain : std::wstring());
+  InvalidateRect(window, nullptr, FALSE);
+  if (news) control.Owner.Screen().Tools().AnnounceChange(control);
+}
+
+void DrawLabel(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
+  const auto& label = static_cast<const Label&>(control);
+  RECT room = item.rcItem;
+  if (IsLit(label)) {
+    PaintLit(item.hDC, form, label, room);
+    InflateRect(&room, -Scaled(kLitPadding / 2, form.Scale()), 0);
+  } else if (label.BackColor == kButtonFace) {
+    PaintBehind(item.hDC, form, control, room);
+  } else {
+    FillRect(item.hDC, &room, form.BrushOf(ToColorRef(label.BackColor)));
+  }
+  const bool marked = IsMarked(label);
+  const std::wstring text = Wide(marked ? MarkedCaption(label.Caption) : label.Caption());
+  const std::wstring plain = Wide(UnmarkedCaption(label.Caption));
+  const HFONT font = label.WordWrap ? BaseFont(form.Scale(), label.Points, label.Bold)
+                                    : FittedFont(form.Scale(), label.Points, label.Bold, plain, WidthOf(room));
+  const Selected selected(item.hDC, font);
+  SetBkMode(item.hDC, TRANSPARENT);
+  SetTextColor(item.hDC, control.Enabled ? InkOf(label) : GetSysColor(COLOR_GRAYTEXT));
+  const UINT across = label.Alignment == Align::Left ? DT_LEFT : label.Alignment == Align::Right ? DT_RIGHT : DT_CENTER;
+  const UINT lines = label.WordWrap ? DT_WORDBREAK | DT_TOP : DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
+  DrawTextW(item.hDC, text.c_str(), -1, &room, across | lines | (marked ? 0U : DT_NOPREFIX));
+}
+
+}  // namespace
+
+const WinKind kWinLabel{MakeLabel, SyncLabel, DrawLabel};
+
+}  // namespace Tarnwise

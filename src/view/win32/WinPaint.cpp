@@ -1,0 +1,277 @@
+#include "view/win32/WinPaint.h"
+
+#include "view/Pictures.h"
+#include "view/Reach.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <tuple>
+#include <vector>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr COLORREF kDarkInk = RGB(31, 41, 55);
+constexpr int kSmooth = 4;  // how many times larger a picture is drawn
+
+LOGFONTW MessageFont() {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) != 0) return metrics.lfMessageFont;
+  LOGFONTW plain{};
+  plain.lfCharSet = DEFAULT_CHARSET;
+  return plain;
+}
+
+int AverageWidth(HFONT font) {
+  const HDC screen = GetDC(nullptr);
+  TEXTMETRICW metrics{};
+  {
+    const Selected selected(screen, font);
+    GetTextMetricsW(screen, &metrics);
+  }
+  ReleaseDC(nullptr, screen);
+  return metrics.tmAveCharWidth;
+}
+
+Font NewFont(double scale, int points, bool bold, int stretch) {
+  LOGFONTW look = MessageFont();
+  look.lfHeight = -static_cast<LONG>(std::lround((points * 4 + 1) / 3 * scale));
+  look.lfWidth = 0;
+  look.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+  look.lfQuality = CLEARTYPE_QUALITY;
+  Font font(CreateFontIndirectW(&look));
+  if (stretch == kNormalStretch) return font;
+  look.lfWidth = AverageWidth(font.get()) * stretch / kNormalStretch;
+  return Font(CreateFontIndirectW(&look));
+}
+
+COLORREF PictureColour(Colour colour) { return colour & 0xFFFFFFU; }
+
+void DrawShape(HDC dc, const PictureShape& shape, double scale, double left, double top) {
+  std::vector<POINT> points;
+  for (std::size_t i = 0; i + 1 < shape.Points.size(); i += 2) {
+    points.push_back({static_cast<LONG>(std::lround(left + static_cast<double>(shape.Points[i]) * scale)),
+                      static_cast<LONG>(std::lround(top + static_cast<double>(shape.Points[i + 1]) * scale))});
+  }
+  LOGBRUSH ink{BS_SOLID, shape.Stroke ? PictureColour(*shape.Stroke) : 0, 0};
+  const auto width = static_cast<DWORD>(std::max(1L, std::lround(static_cast<double>(shape.StrokeWidth) * scale)));
+  const Pen pen(shape.Stroke
+                    ? ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND, width, &ink, 0, nullptr)
+                    : CreatePen(PS_NULL, 0, 0));
+  const Brush brush(shape.Fill ? CreateSolidBrush(PictureColour(*shape.Fill)) : nullptr);
+  const Selected withPen(dc, pen.get());
+  const Selected withBrush(dc, brush ? brush.get() : GetStockObject(NULL_BRUSH));
+  const int count = static_cast<int>(points.size());
+  switch (shape.Shape) {
+    case PictureShape::What::Polygon: Polygon(dc, points.data(), count); break;
+    case PictureShape::What::Ellipse:
+      Ellipse(dc, points.front().x, points.front().y, points.back().x + 1, points.back().y + 1);
+      break;
+    case PictureShape::What::Polyline: Polyline(dc, points.data(), count); break;
+  }
+}
+
+}  // namespace
+
+double PixelsPerUnit(const Control& container, double scale) {
+  return static_cast<double>(UnitOf(container) / kTwipsPerPixel) * scale;
+}
+
+RECT PixelPlace(const Control& control, double scale) {
+  const double unit = control.Parent == nullptr ? scale / 15.0 : PixelsPerUnit(*control.Parent, scale);
+  const auto edge = [unit](Single at) { return static_cast<LONG>(std::lround(static_cast<double>(at) * unit)); };
+  return {edge(control.Left), edge(control.Top), edge(control.Left + control.Width),
+          edge(control.Top + control.Height)};
+}
+
+int Scaled(int pixels, double scale) { return static_cast<int>(std::lround(pixels * scale)); }
+
+COLORREF ToColorRef(Colour colour) {
+  // The form's own ground is the dialog's, whatever a theme makes of buttons.
+  if ((colour & 0x80000000U) == 0) return PictureColour(colour);
+  return GetSysColor(static_cast<int>(colour & 0xFFU));
+}
+
+COLORREF InkOn(COLORREF ground) {
+  const int grey = (GetRValue(ground) * 11 + GetGValue(ground) * 16 + GetBValue(ground) * 5) / 32;
+  return grey > 120 ? kDarkInk : RGB(255, 255, 255);
+}
+
+COLORREF GroundOf(const Control& control) {
+  for (const Control* around = control.Parent; around != nullptr; around = around->Parent) {
+    if (around->Type == Kind::PictureBox) return ToColorRef(static_cast<const PictureBox*>(around)->BackColor);
+  }
+  return ToColorRef(kButtonFace);
+}
+
+COLORREF Blend(COLORREF a, COLORREF b, int percentOfB) {
+  const auto mix = [percentOfB](int x, int y) { return (x * (100 - percentOfB) + y * percentOfB) / 100; };
+  return RGB(mix(GetRValue(a), GetRValue(b)), mix(GetGValue(a), GetGValue(b)), mix(GetBValue(a), GetBValue(b)));
+}
+
+HFONT BaseFont(double scale, int points, bool bold, int stretch) {
+  using Look = std::tuple<int, int, bool, int>;
+  thread_local std::map<Look, Font> fonts;
+  Font& font = fonts[{static_cast<int>(std::lround(scale * 96)), points, bold, stretch}];
+  if (!font) font = NewFont(scale, points, bold, stretch);
+  return font.get();
+}
+
+HFONT FittedFont(double scale, int points, bool bold, const std::wstring& text, int width) {
+  HFONT font = nullptr;
+  for (const int stretch : {kNormalStretch, 95, 90, 85}) {
+    font = BaseFont(scale, points, bold, stretch);
+    if (TextWidthIn(font, text) <= width) break;
+  }
+  return font;
+}
+
+int TextWidthIn(HFONT font, const std::wstring& text) {
+  const HDC screen = GetDC(nullptr);
+  SIZE size{};
+  {
+    const Selected selected(screen, font);
+    GetTextExtentPoint32W(screen, text.c_str(), static_cast<int>(text.size()), &size);
+  }
+  ReleaseDC(nullptr, screen);
+  return size.cx;
+}
+
+Canvas::Canvas(int width, int height, int fine)
+    : width_(std::max(width, 1)), height_(std::max(height, 1)), fine_(fine) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader, width_ * fine_, -height_ * fine_, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  dc_ = CreateCompatibleDC(nullptr);
+  bitmap_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+  pixels_ = static_cast<std::uint32_t*>(bits);
+  former_ = SelectObject(dc_, bitmap_);
+  SetBkMode(dc_, TRANSPARENT);
+}
+
+Canvas::~Canvas() {
+  SelectObject(dc_, former_);
+  DeleteObject(bitmap_);
+  DeleteDC(dc_);
+}
+
+void Canvas::Fill(COLORREF colour) {
+  const RECT all{0, 0, width_ * fine_, height_ * fine_};
+  const Brush brush(CreateSolidBrush(colour));
+  FillRect(dc_, &all, brush.get());
+}
+
+void Canvas::Average(std::uint32_t* to) const {
+  GdiFlush();
+  const int row = width_ * fine_;
+  const auto count = static_cast<std::uint32_t>(fine_ * fine_);
+  for (int y = 0; y < height_; ++y) {
+    for (int x = 0; x < width_; ++x) {
+      std::uint32_t red = 0;
+      std::uint32_t green = 0;
+      std::uint32_t blue = 0;
+      for (int j = 0; j < fine_; ++j) {
+        const std::uint32_t* from = pixels_ + (y * fine_ + j) * row + x * fine_;
+        for (int i = 0; i < fine_; ++i) {
+          red += (from[i] >> 16U) & 0xFFU;
+          green += (from[i] >> 8U) & 0xFFU;
+          blue += from[i] & 0xFFU;
+        }
+      }
+      to[y * width_ + x] = ((red / count) << 16U) | ((green / count) << 8U) | (blue / count);
+    }
+  }
+}
+
+Bitmap Canvas::Reduced(std::uint32_t** pixels) {
+  BITMAPINFO info{};
+  info.bmiHeader = {sizeof info.bmiHeader, width_, -height_, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  Bitmap small(CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  if (!small) return small;
+  *pixels = static_cast<std::uint32_t*>(bits);
+  Average(*pixels);
+  return small;
+}
+
+void Canvas::PutOnto(HDC target, int x, int y) {
+  if (fine_ == 1) {
+    BitBlt(target, x, y, width_, height_, dc_, 0, 0, SRCCOPY);
+    return;
+  }
+  std::uint32_t* pixels = nullptr;
+  const Bitmap small = Reduced(&pixels);
+  if (!small) return;
+  const HDC source = CreateCompatibleDC(target);
+  {
+    const Selected selected(source, small.get());
+    BitBlt(target, x, y, width_, height_, source, 0, 0, SRCCOPY);
+  }
+  DeleteDC(source);
+}
+
+void DrawPicture(HDC dc, const String& name, const RECT& place) {
+  const Picture* const picture = FindPicture(name);
+  if (picture == nullptr || WidthOf(place) <= 0 || HeightOf(place) <= 0) return;
+  const auto width = static_cast<double>(picture->Width);
+  const auto height = static_cast<double>(picture->Height);
+  const double scale = std::min(WidthOf(place) / width, HeightOf(place) / height);
+  const double left = place.left + (WidthOf(place) - width * scale) / 2.0;
+  const double top = place.top + (HeightOf(place) - height * scale) / 2.0;
+  for (const PictureShape& shape : picture->Shapes) DrawShape(dc, shape, scale, left, top);
+}
+
+// What covers a pixel is found by drawing once on black and once on white.
+HICON MakePictureIcon(const String& name, int side) {
+  if (FindPicture(name) == nullptr) return nullptr;
+  Canvas dark(side, side, kSmooth);
+  Canvas light(side, side, kSmooth);
+  const RECT place{0, 0, side * kSmooth, side * kSmooth};
+  dark.Fill(RGB(0, 0, 0));
+  light.Fill(RGB(255, 255, 255));
+  DrawPicture(dark.Dc(), name, place);
+  DrawPicture(light.Dc(), name, place);
+  std::uint32_t* onDark = nullptr;
+  std::uint32_t* onLight = nullptr;
+  const Bitmap colours = dark.Reduced(&onDark);
+  const Bitmap other = light.Reduced(&onLight);
+  if (!colours || !other) return nullptr;
+  const auto count = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint32_t alpha = 255U - (((onLight[i] >> 8U) & 0xFFU) - ((onDark[i] >> 8U) & 0xFFU));
+    const auto whole = [alpha, colour = onDark[i]](unsigned shift) {
+      return alpha == 0 ? 0U : std::min(255U, ((colour >> shift) & 0xFFU) * 255U / alpha);
+    };
+    onDark[i] = (alpha << 24U) | (whole(16) << 16U) | (whole(8) << 8U) | whole(0);
+  }
+  const std::vector<std::uint8_t> nothing(count);  // more than enough of a mask
+  const Bitmap mask(CreateBitmap(side, side, 1, 1, nothing.data()));
+  ICONINFO icon{TRUE, 0, 0, mask.get(), colours.get()};
+  return CreateIconIndirect(&icon);
+}
+
+HCURSOR CursorFor(int mousePointer) {
+  LPCWSTR name = IDC_ARROW;
+  switch (mousePointer) {
+    case 2: name = IDC_CROSS; break;
+    case 3: name = IDC_IBEAM; break;
+    case 5:
+    case 15: name = IDC_SIZEALL; break;
+    case 6: name = IDC_SIZENESW; break;
+    case 7: name = IDC_SIZENS; break;
+    case 8: name = IDC_SIZENWSE; break;
+    case 9: name = IDC_SIZEWE; break;
+    case 10: name = IDC_UPARROW; break;
+    case 11: name = IDC_WAIT; break;
+    case 12: name = IDC_NO; break;
+    case 13: name = IDC_APPSTARTING; break;
+    case 14: name = IDC_HELP; break;
+    default: break;
+  }
+  return LoadCursorW(nullptr, name);
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,89 @@
+// How the tree's lengths, colours, fonts and pictures look on Windows. Lengths are device pixels; `scale` is how many
+// of them make a pixel of 96 to the inch.
+#pragma once
+
+#include "view/Controls.h"
+
+#include "view/win32/WinApi.h"
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+namespace Tarnwise {
+
+// Graphics objects that go with their owner.
+struct DeleteGraphics {
+  void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
+using Brush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, DeleteGraphics>;
+using Pen = std::unique_ptr<std::remove_pointer_t<HPEN>, DeleteGraphics>;
+using Bitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGraphics>;
+using Font = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGraphics>;
+
+// An object selected into a device context for as long as this lives.
+class Selected {
+ public:
+  Selected(HDC dc, HGDIOBJ object) : dc_(dc), former_(SelectObject(dc, object)) {}
+  Selected(const Selected&) = delete;
+  Selected& operator=(const Selected&) = delete;
+  ~Selected() { SelectObject(dc_, former_); }
+
+ private:
+  HDC dc_;
+  HGDIOBJ former_;
+};
+
+double PixelsPerUnit(const Control& container, double scale);
+RECT PixelPlace(const Control& control, double scale);  // in its container, edges on whole pixels
+int Scaled(int pixels, double scale);
+
+inline int WidthOf(const RECT& r) { return r.right - r.left; }
+inline int HeightOf(const RECT& r) { return r.bottom - r.top; }
+
+COLORREF ToColorRef(Colour colour);
+COLORREF InkOn(COLORREF ground);            // a text colour that can be read on it
+COLORREF GroundOf(const Control& control);  // what it stands on: the next coloured box around it, else the form's
+COLORREF Blend(COLORREF a, COLORREF b, int percentOfB);
+
+constexpr int kNormalStretch = 100;
+
+// The font of labels and buttons. `stretch` is a percentage of the ordinary width. Kept for the life of the thread.
+HFONT BaseFont(double scale, int points = 9, bool bold = false, int stretch = kNormalStretch);
+// The font, a little narrower where the text would not fit the width otherwise.
+HFONT FittedFont(double scale, int points, bool bold, const std::wstring& text, int width);
+int TextWidthIn(HFONT font, const std::wstring& text);
+
+// A picture in memory that is drawn larger than it becomes, so that its edges are smooth.
+class Canvas {
+ public:
+  Canvas(int width, int height, int fine);
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+  ~Canvas();
+
+  HDC Dc() const { return dc_; }
+  int Fine() const { return fine_; }
+  void Fill(COLORREF colour);
+  void PutOnto(HDC target, int x, int y);  // brings it to its size
+  Bitmap Reduced(std::uint32_t** pixels);  // the same as a bitmap, top row first
+
+ private:
+  void Average(std::uint32_t* to) const;
+
+  int width_;
+  int height_;
+  int fine_;
+  HDC dc_ = nullptr;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ former_ = nullptr;
+  std::uint32_t* pixels_ = nullptr;
+};
+
+// The picture fitted into the place (device units of dc). Nothing where there is no picture of that name.
+void DrawPicture(HDC dc, const String& name, const RECT& place);
+HICON MakePictureIcon(const String& name, int side);  // null when there is none; the caller destroys it
+
+HCURSOR CursorFor(int mousePointer);
+
+}  // namespace Tarnwise

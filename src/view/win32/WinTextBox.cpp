@@ -1,0 +1,122 @@
+// Text boxes and scroll bars.
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinPaint.h"
+#include "view/win32/WinText.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+enum Character { kCtrlA = 1, kBackspace = 8, kReturn = 13, kEscape = 27, kBlank = 32, kRubOut = 127 };
+
+struct Selection {
+  int From = 0;
+  int To = 0;
+};
+
+Selection SelectionOf(HWND edit) {
+  DWORD from = 0;
+  DWORD to = 0;
+  SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+  return {static_cast<int>(from), static_cast<int>(to)};
+}
+
+HWND MakeTextBox(WinForm& form, Control& /*control*/, HWND parent) {
+  return NewChild(form, L"EDIT", ES_AUTOHSCROLL | ES_LEFT, WS_EX_CLIENTEDGE, parent);
+}
+
+void SyncTextBox(WinForm& form, Control& control, HWND window) {
+  auto& box = static_cast<TextBox&>(control);
+  const HFONT font = BaseFont(form.Scale());
+  if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) != font) {
+    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  }
+  const std::wstring text = Wide(box.Text);
+  SetText(window, text);
+  const int start = UnitsBefore(text, box.SelStart);
+  const int end = UnitsBefore(text, box.SelStart() + box.SelLength());
+  const Selection now = SelectionOf(window);
+  if (now.From != start || now.To != end) {
+    SendMessageW(window, EM_SETSEL, static_cast<WPARAM>(start), static_cast<LPARAM>(end));
+  }
+}
+
+constexpr int kPageOf = 1;
+
+HWND MakeScrollBar(WinForm& form, Control& /*control*/, HWND parent) {
+  return NewChild(form, L"SCROLLBAR", SBS_VERT, 0, parent);
+}
+
+void SyncScrollBar(WinForm& /*form*/, Control& control, HWND window) {
+  const auto& bar = static_cast<const VScrollBar&>(control);
+  SCROLLINFO wanted{sizeof wanted,
+                    SIF_RANGE | SIF_PAGE | SIF_POS,
+                    bar.Min,
+                    bar.Max + std::max(bar.LargeChange() - kPageOf, 0),
+                    static_cast<UINT>(bar.LargeChange()),
+                    bar.Value,
+                    0};
+  SCROLLINFO now{sizeof now, SIF_ALL, 0, 0, 0, 0, 0};
+  GetScrollInfo(window, SB_CTL, &now);
+  if (now.nMin == wanted.nMin && now.nMax == wanted.nMax && now.nPage == wanted.nPage && now.nPos == wanted.nPos)
+    return;
+  SetScrollInfo(window, SB_CTL, &wanted, TRUE);
+}
+
+}  // namespace
+
+void StoreCaret(TextBox& box, HWND edit) {
+  // A text on its way into the tree is told by TextEdited, caret and all.
+  const std::wstring text = TextOf(edit);
+  if (Utf8(text) != box.Text()) return;
+  const Selection selection = SelectionOf(edit);
+  box.SelStart = CharactersBefore(text, selection.From);
+  box.SelLength = CharactersBefore(text, selection.To) - box.SelStart;
+}
+
+int CaretOf(HWND edit) { return SelectionOf(edit).To; }
+
+void TypeCharacter(HWND edit, int character) {
+  if (character == kCtrlA) {
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+  } else if (character >= kBlank && character != kRubOut) {
+    std::wstring typed;
+    if (character >= 0x10000) {
+      typed += static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10));
+      typed += static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
+    } else {
+      typed += static_cast<wchar_t>(character);
+    }
+    SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(typed.c_str()));
+  } else if (character != kReturn && character != kEscape && character < kBlank) {
+    DefSubclassProc(edit, WM_CHAR, static_cast<WPARAM>(character), 0);  // backspace, the clipboard, undo
+  }
+}
+
+int ScrolledValue(const VScrollBar& bar, HWND window, int code) {
+  switch (code) {
+    case SB_LINEUP: return bar.Value - bar.SmallChange;
+    case SB_LINEDOWN: return bar.Value + bar.SmallChange;
+    case SB_PAGEUP: return bar.Value - bar.LargeChange;
+    case SB_PAGEDOWN: return bar.Value + bar.LargeChange;
+    case SB_TOP: return bar.Min;
+    case SB_BOTTOM: return bar.Max;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION: {
+      SCROLLINFO now{sizeof now, SIF_TRACKPOS | SIF_POS, 0, 0, 0, 0, 0};
+      GetScrollInfo(window, SB_CTL, &now);
+      return std::clamp(now.nTrackPos, static_cast<int>(bar.Min()), static_cast<int>(bar.Max()));
+    }
+    default: return bar.Value;
+  }
+}
+
+const WinKind kWinTextBox{MakeTextBox, SyncTextBox, nullptr};
+const WinKind kWinScrollBar{MakeScrollBar, SyncScrollBar, nullptr};
+
+}  // namespace Tarnwise

@@ -1,0 +1,83 @@
+// Tool bars, level and upright.
+#include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
+#include "view/win32/WinPaint.h"
+#include "view/win32/WinText.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr DWORD kStyle = TBSTYLE_FLAT | TBSTYLE_TRANSPARENT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NORESIZE |
+                         CCS_NOPARENTALIGN | CCS_NODIVIDER;
+
+LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  return SendMessageW(window, message, wParam, lParam);
+}
+
+HWND MakeToolbar(WinForm& form, Control& /*control*/, HWND parent) {
+  const HWND window = NewChild(form, TOOLBARCLASSNAMEW, kStyle, 0, parent);
+  Tell(window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+  Tell(window, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);  // the text of a button is its tool tip and its name
+  return window;
+}
+
+void SetPictures(WinForm& form, const Toolbar& bar, HWND window, int side) {
+  Images images(ImageList_Create(side, side, ILC_COLOR32, static_cast<int>(bar.Buttons.size()), 1));
+  for (const Toolbar::Button& button : bar.Buttons) {
+    const HICON icon = MakePictureIcon(button.Picture.empty() ? "window" : button.Picture, side);
+    ImageList_ReplaceIcon(images.get(), -1, icon);
+    if (icon != nullptr) DestroyIcon(icon);
+  }
+  Tell(window, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
+  form.KeepImages(window, std::move(images));
+}
+
+void AddButtons(const Toolbar& bar, HWND window) {
+  for (std::size_t i = 0; i < bar.Buttons.size(); ++i) {
+    std::wstring text = Wide(bar.Buttons[i].ToolTip.empty() ? bar.Buttons[i].Key : bar.Buttons[i].ToolTip);
+    TBBUTTON button{};
+    button.iBitmap = static_cast<int>(i);
+    button.idCommand = static_cast<int>(i) + 1;
+    button.fsState = TBSTATE_ENABLED;
+    button.fsStyle = BTNS_BUTTON;
+    button.iString = reinterpret_cast<INT_PTR>(text.c_str());
+    Tell(window, TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&button));
+  }
+}
+
+void SyncToolbar(WinForm& form, Control& control, HWND window) {
+  const auto& bar = static_cast<const Toolbar&>(control);
+  const RECT place = PixelPlace(control, form.Scale());
+  const bool upright = HeightOf(place) > WidthOf(place);
+  const int count = std::max(static_cast<int>(bar.Buttons.size()), 1);
+  const int side =
+      std::min(upright ? WidthOf(place) : HeightOf(place), (upright ? HeightOf(place) : WidthOf(place)) / count);
+  const bool fresh = Tell(window, TB_BUTTONCOUNT) == 0;
+  if (fresh || LOWORD(Tell(window, TB_GETBUTTONSIZE)) != side) {
+    SetPictures(form, bar, window, side * 5 / 8);
+    if (fresh) AddButtons(bar, window);
+    Tell(window, TB_SETBUTTONSIZE, 0, MAKELPARAM(side, side));
+  }
+  const bool keyboard = bar.Owner.ActiveControl == &bar;
+  for (int i = 0; i < static_cast<int>(bar.Buttons.size()); ++i) {
+    const int id = i + 1;
+    WORD state = bar.Buttons[static_cast<std::size_t>(i)].Enabled ? TBSTATE_ENABLED : 0;
+    if (upright) state |= TBSTATE_WRAP;
+    // With the keyboard on the bar a mark shows which button it presses.
+    if (keyboard && id == bar.Current) state |= TBSTATE_MARKED;
+    if (Tell(window, TB_GETSTATE, static_cast<WPARAM>(id)) != state)
+      Tell(window, TB_SETSTATE, static_cast<WPARAM>(id), state);
+  }
+  if (keyboard) Tell(window, TB_SETHOTITEM, static_cast<WPARAM>(bar.Current - 1));
+}
+
+}  // namespace
+
+const WinKind kWinToolbar{MakeToolbar, SyncToolbar, nullptr};
+
+}  // namespace Tarnwise

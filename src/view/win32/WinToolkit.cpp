@@ -1,0 +1,198 @@
+#include "view/win32/WinToolkit.h"
+
+#include "view/win32/WinForm.h"
+#include "view/win32/WinLifetime.h"
+#include "view/win32/WinPaint.h"
+#include "view/win32/WinText.h"
+
+#include <tarnwise/TRN_DEA.h>
+
+#include <commctrl.h>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kDesignDpi = 96;
+constexpr Single kTwips = 15.0F;  // in a pixel of the design
+
+template <class Function>
+Function FromUser32(const char* name) {
+  const FARPROC found = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
+}
+
+UINT ScreenDpi() {
+  const HDC screen = GetDC(nullptr);
+  const auto dpi = static_cast<UINT>(GetDeviceCaps(screen, LOGPIXELSX));
+  ReleaseDC(nullptr, screen);
+  return dpi;
+}
+
+void UseCommonControls() {
+  INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_USEREX_CLASSES};
+  InitCommonControlsEx(&wanted);
+}
+
+// While a modal form is up nothing else of this thread takes input, the host's windows included.
+class OthersDisabled {
+ public:
+  explicit OthersDisabled(HWND but) : but_(but) {
+    EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(this));
+    for (const HWND window : windows_) EnableWindow(window, FALSE);
+  }
+  OthersDisabled(const OthersDisabled&) = delete;
+  OthersDisabled& operator=(const OthersDisabled&) = delete;
+  ~OthersDisabled() {
+    for (const HWND window : windows_) {
+      if (IsWindow(window) != 0) EnableWindow(window, TRUE);
+    }
+  }
+
+ private:
+  static BOOL CALLBACK Collect(HWND window, LPARAM self) {
+    auto& others = *reinterpret_cast<OthersDisabled*>(self);
+    if (window != others.but_ && IsWindowVisible(window) != 0 && IsWindowEnabled(window) != 0) {
+      others.windows_.push_back(window);
+    }
+    return TRUE;
+  }
+
+  HWND but_;
+  std::vector<HWND> windows_;
+};
+
+}  // namespace
+
+UINT DpiOf(HWND window) {
+  static const auto dpiForWindow = FromUser32<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
+  const UINT dpi = dpiForWindow != nullptr ? dpiForWindow(window) : 0;
+  return dpi != 0 ? dpi : ScreenDpi();
+}
+
+void AdjustForDpi(RECT& client, DWORD style, DWORD exStyle, UINT dpi) {
+  using Adjust = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
+  static const auto adjust = FromUser32<Adjust>("AdjustWindowRectExForDpi");
+  if (adjust == nullptr || adjust(&client, style, FALSE, exStyle, dpi) == 0) {
+    AdjustWindowRectEx(&client, style, FALSE, exStyle);
+  }
+}
+
+WinToolkit::WinToolkit() { UseCommonControls(); }
+
+WinToolkit::~WinToolkit() {
+  for (auto& [form, window] : forms_) {
+    window->Release();
+    Bury(std::move(window));
+  }
+  for (const auto& [side, icon] : icons_) DestroyIcon(icon);
+}
+
+HICON WinToolkit::WindowIcon(int side) {
+  HICON& icon = icons_[side];
+  if (icon == nullptr) icon = MakePictureIcon("window", side);
+  return icon;
+}
+
+WinForm* WinToolkit::FormOf(const Form& form) const {
+  const auto found = forms_.find(&form);
+  return found == forms_.end() ? nullptr : found->second.get();
+}
+
+void WinToolkit::Show(Form& form, bool modal) {
+  auto& window = forms_[&form];
+  if (!window) window = std::make_shared<WinForm>(form, *this);
+  const std::shared_ptr<WinForm> shown = window;
+  shown->Show(modal);
+}
+
+void WinToolkit::Hide(Form& form) {
+  if (WinForm* const shown = FormOf(form)) ShowWindow(shown->Window(), SW_HIDE);
+  drag_.Cancel();
+}
+
+void WinToolkit::Release(Form& form) {
+  const auto found = forms_.find(&form);
+  if (found == forms_.end()) return;
+  const std::shared_ptr<WinForm> window = std::move(found->second);
+  forms_.erase(found);
+  drag_.Forget(*window);
+  window->Release();
+  Bury(window);
+}
+
+void WinToolkit::ControlUnloaded(Control& control) {
+  drag_.Forget(control);
+  if (WinForm* const shown = FormOf(control.Owner)) shown->Forget(control);
+}
+
+void WinToolkit::Sync(Form& form) {
+  if (WinForm* const shown = FormOf(form)) shown->Sync();
+}
+
+void WinToolkit::TakeMessages() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+void WinToolkit::RunModal(Form& form) {
+  const auto held = form.shared_from_this();
+  const WinForm* const shown = FormOf(form);
+  const OthersDisabled others(shown != nullptr ? shown->Window() : nullptr);
+  while (form.Visible && !form.Released) {
+    if (Pump) {
+      TakeMessages();
+      if (!form.Visible || form.Released || !Pump()) break;
+      continue;
+    }
+    MSG message;
+    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+    if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));  // the host ends: its own loop must hear of it
+    if (got <= 0) break;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+void WinToolkit::SetPointer(int pointer) {
+  pointer_ = pointer;
+  SetCursor(CursorFor(pointer));
+}
+
+void WinToolkit::Focus(Control& control) {
+  // What the program has just enabled or shown must be so on the screen before it can take the keyboard.
+  if (WinForm* const shown = FormOf(control.Owner)) shown->Sync();
+}
+
+void WinToolkit::AnnounceChange(Control& control) {
+  const WinForm* const shown = FormOf(control.Owner);
+  const HWND window = shown != nullptr ? shown->WindowOf(control) : nullptr;
+  if (window == nullptr) return;
+  NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+Single WinToolkit::TextWidth(const String& text) {
+  return static_cast<Single>(TextWidthIn(BaseFont(1.0), Wide(text))) * kTwips;
+}
+
+Single WinToolkit::ScreenWidth() {
+  const UINT dpi = ScreenDpi();
+  return static_cast<Single>(MulDiv(GetSystemMetrics(SM_CXSCREEN), kDesignDpi, static_cast<int>(dpi))) * kTwips;
+}
+
+Single WinToolkit::ScreenHeight() {
+  const UINT dpi = ScreenDpi();
+  return static_cast<Single>(MulDiv(GetSystemMetrics(SM_CYSCREEN), kDesignDpi, static_cast<int>(dpi))) * kTwips;
+}
+
+std::shared_ptr<Platform> MakeWin32Platform() { return std::make_shared<Platform>(std::make_shared<WinToolkit>()); }
+
+}  // namespace Tarnwise

@@ -1,0 +1,61 @@
+// The forms on the screen by Windows' own controls.
+#pragma once
+
+#include "view/Platform.h"
+#include "view/win32/WinDrag.h"
+
+#include "view/win32/WinApi.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace Tarnwise {
+
+class WinForm;
+
+// Pixels to the inch, by the window's monitor where Windows can tell.
+UINT DpiOf(HWND window);
+void AdjustForDpi(RECT& client, DWORD style, DWORD exStyle, UINT dpi);
+
+class WinToolkit : public Toolkit {
+ public:
+  WinToolkit();
+  ~WinToolkit() override;
+
+  // For a script player: it pushes what comes instead of a person.
+  std::function<bool()> Pump;  // the next thing while a modal form is up, false when nothing comes
+  bool RealTimers = true;      // false: a form's timers wait for the script
+  bool AutoAnswer = false;     // message boxes are answered as soon as they are up, help is not opened
+
+  void Show(Form& form, bool modal) override;
+  void Hide(Form& form) override;
+  void Release(Form& form) override;
+  void ControlUnloaded(Control& control) override;
+  void Sync(Form& form) override;
+  void RunModal(Form& form) override;
+  void MessageBox(Form* over, const String& text, int style, const String& title) override;
+  void Beep() override;
+  void SetPointer(int pointer) override;
+  void Help(Form& form, const String& path, int command, int context) override;
+  void Focus(Control& control) override;
+  void AnnounceChange(Control& control) override;
+  Single TextWidth(const String& text) override;
+  Single ScreenWidth() override;
+  Single ScreenHeight() override;
+
+  WinForm* FormOf(const Form& form) const;  // null while it has no window
+  WinDrag& Drag() { return drag_; }
+  int Pointer() const { return pointer_; }
+  HICON WindowIcon(int side);
+  static void TakeMessages();  // what is waiting, without waiting for more
+
+ private:
+  std::map<const Form*, std::shared_ptr<WinForm>> forms_;
+  std::map<int, HICON> icons_;
+  WinDrag drag_;
+  int pointer_ = 0;
+};
+
+}  // namespace Tarnwise

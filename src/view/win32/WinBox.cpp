@@ -22,8 +22,6 @@ constexpr int kTitleLeft = 12;
 constexpr int kPictureMargin = 6;
 constexpr int kSmooth = 3;
 
-COLORREF LineColour() { return Blend(ToColorRef(kButtonFace), RGB(0, 0, 0), 28); }
-
 // Where things of a container fall on a canvas that shows a part of it.
 struct Onto {
   Canvas& To;
@@ -173,11 +171,25 @@ void PaintFrameTitle(HDC dc, const Frame& frame, HWND window, double scale) {
   DrawTextW(dc, title.c_str(), -1, &place, DT_SINGLELINE | DT_LEFT | DT_VCENTER | DT_END_ELLIPSIS);
 }
 
-void PaintBorder(HDC dc, HWND window) {
+// The frame of a bordered box stands in front of whatever the box contains.
+void SyncBorder(HWND box, double scale) {
   RECT client{};
-  GetClientRect(window, &client);
-  const Brush brush(CreateSolidBrush(LineColour()));
-  FrameRect(dc, &client, brush.get());
+  GetClientRect(box, &client);
+  HWND border = GetDlgItem(box, kBorderId);
+  if (border == nullptr) {
+    border = CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0, 0, 0, 0, box,
+                             reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kBorderId)), OwnModule(), nullptr);
+  }
+  RECT now{};
+  GetClientRect(border, &now);
+  if (EqualRect(&now, &client) != 0) return;
+  const int thick = std::max(Scaled(1, scale), 1);
+  const HRGN frame = CreateRectRgnIndirect(&client);
+  const HRGN inside = CreateRectRgn(thick, thick, client.right - thick, client.bottom - thick);
+  CombineRgn(frame, frame, inside, RGN_DIFF);
+  DeleteObject(inside);
+  SetWindowRgn(border, frame, TRUE);  // the window owns it from now on
+  SetWindowPos(border, HWND_TOP, 0, 0, client.right, client.bottom, SWP_NOACTIVATE);
 }
 
 // What stands behind a control, moved to where the control's own window begins.
@@ -229,9 +241,11 @@ HWND MakeBox(WinForm& form, Control& control, HWND parent) {
   return NewChild(form, L"TarnwiseBox", IsContainer(control) ? WS_CLIPCHILDREN : 0, 0, parent);
 }
 
-void SyncBox(WinForm& /*form*/, Control& control, HWND window) {
+void SyncBox(WinForm& form, Control& control, HWND window) {
   const bool frame = control.Type == Kind::Frame;
   SetText(window, Wide(frame ? UnmarkedCaption(static_cast<Frame&>(control).Caption) : control.AccessibleName()));
+  const bool box = control.Type == Kind::PictureBox && !IsHandle(control);
+  if (box && static_cast<PictureBox&>(control).Bordered) SyncBorder(window, form.Scale());
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
@@ -242,6 +256,8 @@ bool IsOpaque(const Control& control) {
 }
 
 }  // namespace
+
+COLORREF BorderColour() { return Blend(ToColorRef(kButtonFace), RGB(0, 0, 0), 28); }
 
 bool IsHandle(const Control& control) {
   if (!control.DragAutomatic || (control.Type != Kind::PictureBox && control.Type != Kind::Shape)) return false;
@@ -316,7 +332,6 @@ void PaintBoxWindow(WinForm& form, Control& control, HWND window) {
     PaintGround(canvas, form, control, area);
     canvas.PutOnto(dc, area.left, area.top);
     if (control.Type == Kind::Frame) PaintFrameTitle(dc, static_cast<Frame&>(control), window, form.Scale());
-    if (control.Type == Kind::PictureBox && static_cast<PictureBox&>(control).Bordered) PaintBorder(dc, window);
   } else if (WidthOf(area) > 0 && HeightOf(area) > 0) {
     RECT client{};
     GetClientRect(window, &client);

@@ -266,6 +266,8 @@ void WinForm::Restack(const Control& container) {
     const HWND window = WindowOf(*child);
     if (window != nullptr) SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
+  const HWND border = GetDlgItem(WindowOf(container), kBorderId);
+  if (border != nullptr) SetWindowPos(border, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 void WinForm::FocusTree() {

@@ -81,6 +81,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   std::optional<LRESULT> Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Parent(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Window(Control& control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> Erase(const Control& control, HWND window, HDC dc);
   std::optional<LRESULT> Command(WPARAM wParam, HWND from);
 
   bool Press(HWND window, Control& control, POINT inWindow);

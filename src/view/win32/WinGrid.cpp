@@ -15,12 +15,14 @@ namespace {
 
 constexpr int kCellMargin = 16;  // pixels of the design
 constexpr int kDefaultWidth = 64;
+constexpr int kRowHeight = 24;
 
 HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
-  const HWND window =
-      NewChild(form, WC_LISTVIEWW, LVS_REPORT | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0, parent);
-  ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER);
+  const HWND window = NewChild(
+      form, WC_LISTVIEWW, LVS_REPORT | LVS_SHAREIMAGELISTS | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0, parent);
+  ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
   SetWindowTextW(window, Wide(control.AccessibleName).c_str());
+  form.Watch(ListView_GetHeader(window), control);
   return window;
 }
 
@@ -62,9 +64,22 @@ void SetCell(HWND window, int row, int col, std::wstring text) {
   SendMessageW(window, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
 }
 
+// Rows are as high as the pictures of the list, of which there are none.
+void SetRowHeight(WinForm& form, HWND window) {
+  const int height = Scaled(kRowHeight, form.Scale());
+  int width = 0;
+  int now = 0;
+  const HIMAGELIST images = ListView_GetImageList(window, LVSIL_SMALL);
+  if (images != nullptr && ImageList_GetIconSize(images, &width, &now) != 0 && now == height) return;
+  Images fresh(ImageList_Create(1, height, ILC_COLOR32, 0, 1));
+  ListView_SetImageList(window, fresh.get(), LVSIL_SMALL);
+  form.KeepImages(window, std::move(fresh));
+}
+
 void SyncGrid(WinForm& form, Control& control, HWND window) {
   const auto& grid = static_cast<const Grid&>(control);
   MakeColumns(window, grid);
+  SetRowHeight(form, window);
   const int rows = std::max(grid.Rows() - 1, 0);
   while (ListView_GetItemCount(window) > rows) ListView_DeleteItem(window, rows);
   while (ListView_GetItemCount(window) < rows) {
@@ -82,6 +97,7 @@ void SyncGrid(WinForm& form, Control& control, HWND window) {
     }
   }
   SpreadColumns(grid, window, form.Scale());
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 }  // namespace

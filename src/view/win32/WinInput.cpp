@@ -255,7 +255,9 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     }
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN: {
-      const Control* const control = ControlOf(reinterpret_cast<HWND>(lParam));
+      const auto from = reinterpret_cast<HWND>(lParam);
+      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BorderColour()));
+      const Control* const control = ControlOf(from);
       if (control == nullptr || control->Type == Kind::TextBox) return std::nullopt;
       const auto dc = reinterpret_cast<HDC>(wParam);
       const COLORREF ground = GroundOf(*control);
@@ -304,7 +306,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
       if (!IsBox(control) && &control != form_) return std::nullopt;
       PaintBoxWindow(*this, control, window);
       return 0;
-    case WM_ERASEBKGND: return IsBox(control) || &control == form_ ? std::optional<LRESULT>(1) : std::nullopt;
+    case WM_ERASEBKGND: return Erase(control, window, reinterpret_cast<HDC>(wParam));
     case WM_SETCURSOR: {
       if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
       int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : control.MousePointer();
@@ -326,6 +328,12 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
     case WM_KILLFOCUS:
       if (IsBox(control)) InvalidateRect(window, nullptr, FALSE);
       return std::nullopt;
+    case WM_NCCALCSIZE:
+      if (control.Type != Kind::TextBox) return std::nullopt;
+      return NarrowEdit(window, wParam, lParam);
+    case WM_NCPAINT:
+      if (control.Type != Kind::TextBox) return std::nullopt;
+      return PaintEditBorder(window, wParam, lParam);
     case WM_CONTEXTMENU: return 0;
     case WM_CAPTURECHANGED:
       if (window == window_ && toolkit_.Drag().ByMouse()) toolkit_.Drag().Cancel();
@@ -355,6 +363,17 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
     case kFocusCame: FocusCame(reinterpret_cast<HWND>(lParam)); return 0;
     default: return std::nullopt;
   }
+}
+
+// What paints itself whole wants no erasing; some native parts leave theirs to whoever is around them.
+std::optional<LRESULT> WinForm::Erase(const Control& control, HWND window, HDC dc) {
+  if (IsBox(control) || &control == form_) return 1;
+  const bool header = control.Type == Kind::Grid && window != WindowOf(control);
+  if (!header && control.Type != Kind::Toolbar) return std::nullopt;
+  RECT client{};
+  GetClientRect(window, &client);
+  FillRect(dc, &client, BrushOf(header ? GetSysColor(COLOR_WINDOW) : GroundOf(control)));
+  return 1;
 }
 
 void WinForm::CloseWanted() {

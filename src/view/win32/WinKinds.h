@@ -52,6 +52,8 @@ int RowAt(const Control& control, HWND window, POINT at);  // of a list box or a
 void StoreCaret(TextBox& box, HWND edit);
 int CaretOf(HWND edit);  // in UTF-16 units
 void TypeCharacter(HWND edit, int character);
+LRESULT NarrowEdit(HWND edit, WPARAM wParam, LPARAM lParam);       // WM_NCCALCSIZE
+LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam);  // WM_NCPAINT
 
 // Scroll bars: what the code of a WM_VSCROLL makes of the value.
 int ScrolledValue(const VScrollBar& bar, HWND window, int code);
@@ -61,6 +63,9 @@ void SpreadColumns(const Grid& grid, HWND list, double scale);
 // --- what boxes and containers paint ---
 
 constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
+
+constexpr int kBorderId = 1;  // the child window that is a bordered box's frame
+COLORREF BorderColour();
 
 bool IsHandle(const Control& control);                    // a small drag source: drawn as a handle
 RECT PaintedPlace(const Control& control, double scale);  // of a line or a shape in its container

@@ -68,7 +68,8 @@ void SyncRows(HWND window, const ListMessages& list, const Texts& texts, int cur
 }
 
 HWND MakeListBox(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"LISTBOX", WS_VSCROLL | WS_BORDER | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS, 0, parent);
+  return NewChild(form, L"LISTBOX", WS_VSCROLL | WS_BORDER | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
+                  0, parent);
 }
 
 void SyncListBox(WinForm& form, Control& control, HWND window) {
@@ -76,6 +77,21 @@ void SyncListBox(WinForm& form, Control& control, HWND window) {
   const int height = Scaled(kRowHeight, form.Scale());
   if (Tell(window, LB_GETITEMHEIGHT) != height) Tell(window, LB_SETITEMHEIGHT, 0, height);
   SyncRows(window, kOfListBox, WideTexts(box.List), box.ListIndex);
+}
+
+// A row with its text in the middle of its height.
+void DrawRow(WinForm& form, Control& /*control*/, const DRAWITEMSTRUCT& item) {
+  if (item.itemID == static_cast<UINT>(-1)) return;
+  const bool chosen = (item.itemState & ODS_SELECTED) != 0;
+  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  SetBkMode(item.hDC, TRANSPARENT);
+  SetTextColor(item.hDC, GetSysColor(chosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+  const Selected font(item.hDC, BaseFont(form.Scale()));
+  RECT room = item.rcItem;
+  InflateRect(&room, -Scaled(6, form.Scale()), 0);
+  const std::wstring text = RowText(item.hwndItem, kOfListBox, static_cast<int>(item.itemID));
+  DrawTextW(item.hDC, text.c_str(), -1, &room, DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
+  if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
 HWND MakeTabStrip(WinForm& form, Control& /*control*/, HWND parent) {
@@ -207,7 +223,7 @@ int RowAt(const Control& control, HWND window, POINT at) {
   return tab < 0 ? -1 : tab + 1;
 }
 
-const WinKind kWinListBox{MakeListBox, SyncListBox, nullptr};
+const WinKind kWinListBox{MakeListBox, SyncListBox, DrawRow};
 const WinKind kWinTabStrip{MakeTabStrip, SyncTabStrip, nullptr};
 const WinKind kWinComboBox{MakeComboBox, SyncComboBox, nullptr};
 const WinKind kWinImageCombo{MakeImageCombo, SyncImageCombo, nullptr};

@@ -26,6 +26,18 @@ Selection SelectionOf(HWND edit) {
   return {static_cast<int>(from), static_cast<int>(to)};
 }
 
+// The line stands in the middle of the box: what is above and below it is made part of the border.
+int PaddingOf(HWND edit, int height) {
+  const HDC dc = GetDC(edit);
+  TEXTMETRICW metrics{};
+  {
+    const Selected font(dc, reinterpret_cast<HFONT>(SendMessageW(edit, WM_GETFONT, 0, 0)));
+    GetTextMetricsW(dc, &metrics);
+  }
+  ReleaseDC(edit, dc);
+  return std::max((height - static_cast<int>(metrics.tmHeight)) / 2, 0);
+}
+
 HWND MakeTextBox(WinForm& form, Control& /*control*/, HWND parent) {
   return NewChild(form, L"EDIT", ES_AUTOHSCROLL | ES_LEFT, WS_EX_CLIENTEDGE, parent);
 }
@@ -35,6 +47,12 @@ void SyncTextBox(WinForm& form, Control& control, HWND window) {
   const HFONT font = BaseFont(form.Scale());
   if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) != font) {
     SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+  }
+  RECT client{};
+  GetClientRect(window, &client);
+  if (PaddingOf(window, HeightOf(client)) > 1) {
+    SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                 SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
   const std::wstring text = Wide(box.Text);
   SetText(window, text);
@@ -65,10 +83,38 @@ void SyncScrollBar(WinForm& /*form*/, Control& control, HWND window) {
   GetScrollInfo(window, SB_CTL, &now);
   if (now.nMin == wanted.nMin && now.nMax == wanted.nMax && now.nPage == wanted.nPage && now.nPos == wanted.nPos)
     return;
-  SetScrollInfo(window, SB_CTL, &wanted, TRUE);
+  SetScrollInfo(window, SB_CTL, &wanted, IsWindowVisible(window));
 }
 
 }  // namespace
+
+LRESULT NarrowEdit(HWND edit, WPARAM wParam, LPARAM lParam) {
+  const LRESULT answer = DefSubclassProc(edit, WM_NCCALCSIZE, wParam, lParam);
+  auto& client = *reinterpret_cast<RECT*>(lParam);
+  const int padding = PaddingOf(edit, HeightOf(client));
+  client.top += padding;
+  client.bottom -= padding;
+  return answer;
+}
+
+LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam) {
+  const LRESULT answer = DefSubclassProc(edit, WM_NCPAINT, wParam, lParam);
+  RECT window{};
+  RECT client{};
+  GetWindowRect(edit, &window);
+  GetClientRect(edit, &client);
+  MapWindowPoints(edit, nullptr, reinterpret_cast<POINT*>(&client), 2);
+  OffsetRect(&client, -window.left, -window.top);
+  const int edge = client.left;
+  const RECT above{edge, edge, client.right, client.top};
+  const RECT below{edge, client.bottom, client.right, HeightOf(window) - edge};
+  const HDC dc = GetWindowDC(edit);
+  const HBRUSH ground = GetSysColorBrush(IsWindowEnabled(edit) != 0 ? COLOR_WINDOW : COLOR_BTNFACE);
+  FillRect(dc, &above, ground);
+  FillRect(dc, &below, ground);
+  ReleaseDC(edit, dc);
+  return answer;
+}
 
 void StoreCaret(TextBox& box, HWND edit) {
   // A text on its way into the tree is told by TextEdited, caret and all.

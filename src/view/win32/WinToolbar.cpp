@@ -12,8 +12,8 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr DWORD kStyle = TBSTYLE_FLAT | TBSTYLE_TRANSPARENT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NORESIZE |
-                         CCS_NOPARENTALIGN | CCS_NODIVIDER;
+constexpr DWORD kStyle =
+    TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NORESIZE | CCS_NOPARENTALIGN | CCS_NODIVIDER;
 
 LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return SendMessageW(window, message, wParam, lParam);

@@ -9,6 +9,7 @@ struct PlayOptions {
   String Script;  // "-": standard input
   String Toolkit = "headless";
   String Shots = ".";
+  bool Com = false;  // the registered class instead of the linked one
 };
 
 int PlaySession(const PlayOptions& options, int& argc, char** argv);
@@ -16,6 +17,7 @@ int PlaySession(const PlayOptions& options, int& argc, char** argv);
 struct RunOptions {
   String Model;
   bool Save = false;
+  bool Com = false;
 };
 
 int RunWizard(const RunOptions& options, int& argc, char** argv);

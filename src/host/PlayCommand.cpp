@@ -10,7 +10,11 @@
 #include <QApplication>
 #endif
 #ifdef TARNWISE_WIN32
+#include "host/ComHost.h"
 #include "host/Win32Driver.h"
+
+#include <fcntl.h>
+#include <io.h>
 #endif
 
 namespace Tarnwise {
@@ -19,11 +23,11 @@ namespace {
 
 constexpr int kUnreadable = 2;
 
-int Play(Driver& driver, const PlayOptions& options) {
+int Play(Driver& driver, const PlayOptions& options, const MakeHosted& make = nullptr) {
   std::error_code error;
   if (options.Shots != ".") std::filesystem::create_directories(options.Shots, error);
   if (options.Script == "-") {
-    return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr).Play();
+    return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr, make).Play();
   }
   std::ifstream script(options.Script);
   if (!script || std::filesystem::is_directory(options.Script, error)) {
@@ -31,12 +35,16 @@ int Play(Driver& driver, const PlayOptions& options) {
     return kUnreadable;
   }
   const std::filesystem::path folder = std::filesystem::path(options.Script).parent_path();
-  return Player(driver, script, folder.empty() ? "." : folder.string(), options.Shots, std::cout, std::cerr).Play();
+  return Player(driver, script, folder.empty() ? "." : folder.string(), options.Shots, std::cout, std::cerr, make)
+      .Play();
 }
 
 }  // namespace
 
 int PlaySession(const PlayOptions& options, int& argc, char** argv) {
+#ifdef TARNWISE_WIN32
+  _setmode(_fileno(stdout), _O_BINARY);  // the same bytes as everywhere
+#endif
   if (options.Toolkit == "headless") return Play(*MakeHeadlessDriver(), options);
 #ifdef TARNWISE_QT
   if (options.Toolkit == "qt") {
@@ -45,6 +53,11 @@ int PlaySession(const PlayOptions& options, int& argc, char** argv) {
   }
 #endif
 #ifdef TARNWISE_WIN32
+  if (options.Com) {
+    const ComApartment apartment;
+    const std::unique_ptr<Driver> driver = DriveByCom();
+    return Play(*driver, options, [&driver] { return HostByCom(driver->Screen()); });
+  }
   if (options.Toolkit == "win32") return Play(*MakeWin32Driver(MakeWin32Platform()), options);
 #endif
   (void)argc;

@@ -46,14 +46,16 @@ VariantArray ArrayOf(const Json& points, const char* name) {
 
 }  // namespace
 
-Player::Player(Driver& driver, std::istream& script, String folder, String shots, std::ostream& out, std::ostream& err)
+Player::Player(Driver& driver, std::istream& script, String folder, String shots, std::ostream& out, std::ostream& err,
+               MakeHosted make)
     : driver_(driver),
       screen_(driver.Screen()),
       script_(script),
       folder_(std::move(folder)),
       shots_(std::move(shots)),
       out_(out),
-      err_(err) {
+      err_(err),
+      make_(make ? std::move(make) : [this] { return HostLinked(screen_); }) {
   Watch();
   driver_.SetPump([this] { return Step(); });
   NewObject();
@@ -96,7 +98,7 @@ void Player::Watch() {
 
 void Player::NewObject() {
   dea_.reset();
-  dea_ = std::make_unique<TRN_DEA>(screen_);
+  dea_ = make_();
   TRN_DEA_Events& events = dea_->Events();
   events.UnloadTarnwise = [this](Integer fIndex, Boolean WeightsDone) {
     Print({{"event", "UnloadTarnwise"}, {"fIndex", fIndex}, {"WeightsDone", WeightsDone}});
@@ -195,22 +197,21 @@ void Player::HostPoints(const std::vector<String>& words) {
   Expect(words, 2, 2);
   Json points;
   if (words[2] == "zero") {
-    const VariantArray zeros = ZerosFor(mdTRNMain());
-    HostCall("TRN_DEA.TranferABCoordinates",
-             [&] { dea_->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros); });
+    const VariantArray zeros = ZerosFor(dea_->Data());
+    const PointArrays all{zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros};
+    HostCall("TRN_DEA.TranferABCoordinates", [&] { dea_->TranferABCoordinates(all); });
     return;
   }
-  VariantArray a[9];
+  PointArrays arrays;
   try {
     points = Json::parse(words[2]);
     if (!points.is_object()) throw ScriptFault("the points are no JSON object of arrays");
     const char* const names[] = {"AX", "AY", "BX", "BY", "AOrientation", "ALX", "ALY", "AUX", "AUY"};
-    for (std::size_t i = 0; i < 9; ++i) a[i] = ArrayOf(points, names[i]);
+    for (std::size_t i = 0; i < 9; ++i) arrays[i] = ArrayOf(points, names[i]);
   } catch (const Json::exception& fault) {
     throw ScriptFault(String("the points are no JSON object of arrays: ") + fault.what());
   }
-  HostCall("TRN_DEA.TranferABCoordinates",
-           [&] { dea_->TranferABCoordinates(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]); });
+  HostCall("TRN_DEA.TranferABCoordinates", [&] { dea_->TranferABCoordinates(arrays); });
 }
 
 bool Player::User(const std::vector<String>& words) {

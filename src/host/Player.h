@@ -4,6 +4,7 @@
 #pragma once
 
 #include "host/Driver.h"
+#include "host/Hosted.h"
 #include "host/Json.h"
 
 #include <tarnwise/TRN_DEA.h>
@@ -17,7 +18,9 @@ namespace Tarnwise {
 class Player {
  public:
   // `folder` is what relative model paths are taken from and what KestaDir defaults to; `shots` the folder of pictures.
-  Player(Driver& driver, std::istream& script, String folder, String shots, std::ostream& out, std::ostream& err);
+  // `make` gives the wizard on the driver's screen, null the linked one.
+  Player(Driver& driver, std::istream& script, String folder, String shots, std::ostream& out, std::ostream& err,
+         MakeHosted make = nullptr);
   ~Player();
 
   // Exit status: 0 when every line was carried out, 1 when one was refused, 2 when one is no line of a script.
@@ -70,7 +73,8 @@ class Player {
   const String shots_;
   std::ostream& out_;
   std::ostream& err_;
-  std::unique_ptr<TRN_DEA> dea_;
+  const MakeHosted make_;
+  std::unique_ptr<Hosted> dea_;
   bool answers_ = true;
   bool stopped_ = false;
   int line_ = 0;

@@ -24,7 +24,7 @@ void Player::Get(const String& text) {
 }
 
 void Player::Data(const String& name) {
-  const auto value = DataJson(mdTRNMain(), name);
+  const auto value = DataJson(dea_->Data(), name);
   if (!value) throw Refused(name + ": does not exist");
   Print({{"data", name}, {"value", *value}});
 }
@@ -46,7 +46,7 @@ void Player::Dump(const std::vector<String>& words) {
 }
 
 void Player::Call(const std::vector<String>& words) {
-  const WizardData& data = mdTRNMain();
+  const WizardData& data = dea_->Data();
   const int att = WholeNumber(words[2]);
   const Single x = ScaleNumber(words[3]);
   HostCall(words[1], [&] {

@@ -2,12 +2,9 @@
 #include "host/Commands.h"
 #include "host/Json.h"
 #include "host/PointsFile.h"
+#include "host/RunScreen.h"
 #include "host/SaveModel.h"
 #include "host/WholeFile.h"
-
-#include <tarnwise/TRN_DEA.h>
-
-#include <QApplication>
 
 #include <iostream>
 #include <optional>
@@ -73,16 +70,15 @@ Points WithOrientations(Points p) {
   return p;
 }
 
-void Save(const String& model, const Judgments& judgments) {
+void Save(const String& model, const Judgments& judgments, const WizardData& data) {
   if (judgments.TradeOffs) WritePoints(model, WithOrientations(*judgments.TradeOffs));
-  SaveJudgments(model, mdTRNMain(), judgments.RJType, judgments.BRefAttID, judgments.CRefAttID, judgments.RefAttWR,
+  SaveJudgments(model, data, judgments.RJType, judgments.BRefAttID, judgments.CRefAttID, judgments.RefAttWR,
                 judgments.Weights, judgments.WeightsH, judgments.WeightsL);
   std::cerr << "The judgments are stored in " << model << "; the next run resumes from them." << std::endl;
 }
 
 // Shows the wizard until the user is through with it; nothing when the user cancelled.
-std::optional<Judgments> Ask(const String& model) {
-  TRN_DEA dea(MakeQtPlatform());
+std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model) {
   std::optional<Judgments> exported;
   bool done = false;
   dea.Events().SendMasseges = [](const String& Msg) { std::cerr << Msg << std::endl; };
@@ -97,14 +93,13 @@ std::optional<Judgments> Ask(const String& model) {
   dea.Events().UnloadTarnwise = [&](Integer /*fIndex*/, Boolean WeightsDone) {
     done = WeightsDone;
     dea.UnloadTarnwise();
-    QApplication::quit();
+    screen.End();
   };
   const std::filesystem::path folder = PathFromText(model).parent_path();
   dea.GetCurFileData(folder.empty() ? String(".") : folder.string(), kFileIndex, model);
-  const Points p = StartingPoints(model, mdTRNMain().NumAtts());
-  dea.TranferABCoordinates(p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8]);
+  dea.TranferABCoordinates(StartingPoints(model, dea.Data().NumAtts()));
   dea.ShowTarnwise();
-  QApplication::exec();
+  screen.Wait();
   if (!done) exported.reset();
   return exported;
 }
@@ -113,15 +108,15 @@ std::optional<Judgments> Ask(const String& model) {
 
 int RunWizard(const RunOptions& options, int& argc, char** argv) {
   FileBytes(options.Model);  // a model that is not there is told here, where nothing has been opened yet
-  const QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  const std::optional<Judgments> judgments = Ask(options.Model);
+  const RunScreen screen = OpenScreen(argc, argv, options.Com);
+  const std::unique_ptr<Hosted> dea = screen.Make();
+  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model);
   if (!judgments) {
     std::cerr << "Cancelled: no judgments were handed over." << std::endl;
     return kCancelled;
   }
-  std::cout << JudgmentsJson(*judgments, mdTRNMain()).dump(2) << std::endl;
-  if (options.Save) Save(options.Model, *judgments);
+  std::cout << JudgmentsJson(*judgments, dea->Data()).dump(2) << std::endl;
+  if (options.Save) Save(options.Model, *judgments, dea->Data());
   return 0;
 }
 

@@ -15,7 +15,7 @@ int Main(int argc, char** argv) {
   app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
 
-#ifdef TARNWISE_QT
+#ifdef TARNWISE_RUN
   RunOptions run;
   CLI::App* const runCommand = app.add_subcommand("run", "Show the wizard on a model; print the judgments as JSON");
   runCommand->add_option("MODEL", run.Model, "Model file (.kst)")->required();
@@ -24,9 +24,15 @@ int Main(int argc, char** argv) {
 
   PlayOptions play;
   CLI::App* const playCommand = app.add_subcommand("play", "Drive the wizard by a session script");
-  playCommand->add_option("--toolkit", play.Toolkit, "headless or qt")->capture_default_str();
+  playCommand->add_option("--toolkit", play.Toolkit, TARNWISE_TOOLKITS)->capture_default_str();
   playCommand->add_option("--shots", play.Shots, "Folder for the pictures that the script takes");
   playCommand->add_option("SCRIPT", play.Script, "Script file, or - for standard input")->required();
+
+#ifdef TARNWISE_WIN32
+  const char* const comHelp = "Drive the registered COM class Tarnwise_DEA.TRN_DEA, not the wizard in this program";
+  runCommand->add_flag("--com", run.Com, comHelp);
+  playCommand->add_flag("--com", play.Com, comHelp);
+#endif
 
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
@@ -46,7 +52,7 @@ int Main(int argc, char** argv) {
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
   if (build->parsed()) return BuildModel(from, to, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, std::cout, std::cerr);
-#ifdef TARNWISE_QT
+#ifdef TARNWISE_RUN
   if (runCommand->parsed()) return RunWizard(run, argc, argv);
 #endif
   return 1;

@@ -1,0 +1,87 @@
+// TRN_DEA as a COM class: it converts arguments, calls the wizard and passes its events on to the connected sinks.
+#pragma once
+
+#include "com/ConnectionPoint.h"
+#include "com/Errors.h"
+#include "com/Module.h"
+#include "com/PlayerAccess.h"
+
+#include <tarnwise/TRN_DEA.h>
+
+#include <Tarnwise_DEA.h>
+#include <array>
+#include <optional>
+
+namespace Tarnwise {
+
+class EventArguments;
+
+constexpr std::size_t kScoreArrays = 9;
+using ScoreArrays = std::array<SAFEARRAY*, kScoreArrays>;
+
+class Component final : public _TRN_DEA,
+                        public ISupportErrorInfo,
+                        public IConnectionPointContainer,
+                        public IProvideClassInfo2,
+                        public ITarnwisePlayerAccess {
+ public:
+  Component();
+  Component(const Component&) = delete;
+  Component& operator=(const Component&) = delete;
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
+  STDMETHODIMP_(ULONG) AddRef() override;
+  STDMETHODIMP_(ULONG) Release() override;
+
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override;
+  STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
+  STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
+  STDMETHODIMP Invoke(DISPID method, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                      EXCEPINFO* exception, UINT* argument) override;
+
+  STDMETHODIMP ShowTarnwise() override;
+  STDMETHODIMP GetCurFileData(VARIANT* KestaDir, short FileIndex, BSTR PathAndFileName) override;
+  STDMETHODIMP UnloadTarnwise() override;
+  STDMETHODIMP TranferABCoordinates(SAFEARRAY** AX, SAFEARRAY** AY, SAFEARRAY** BX, SAFEARRAY** BY,
+                                    SAFEARRAY** AOrientation, SAFEARRAY** ALX, SAFEARRAY** ALY, SAFEARRAY** AUX,
+                                    SAFEARRAY** AUY) override;
+
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override;
+  STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** points) override;
+  STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** point) override;
+  STDMETHODIMP GetClassInfo(ITypeInfo** info) override;
+  STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override;
+  STDMETHODIMP Access(std::shared_ptr<Platform>** screen, WizardData** data) override;
+  STDMETHODIMP MakeDriver(std::unique_ptr<Driver>* driver) override;
+
+ private:
+  ~Component() = default;
+
+  // Runs `body` on the wizard, on its own thread only. The object lives on until it returns, whatever a host does in
+  // the events meanwhile.
+  template <class Body>
+  HRESULT Call(Body body) {
+    const ComRef<Component> held(this);
+    return Guarded([&] {
+      CheckThread();
+      body(Wizard());
+    });
+  }
+  void CheckThread() const;
+  TRN_DEA& Wizard();  // made when it is first needed
+  void CallMethod(TRN_DEA& wizard, DISPID method, const DISPPARAMS& parameters) const;
+  void Transfer(TRN_DEA& wizard, const ScoreArrays& scores) const;
+
+  void ConnectEvents(TRN_DEA_Events& events);
+  void Fire(DISPID event, EventArguments& arguments);
+
+  const ModuleUse use_;
+  LONG references_ = 1;
+  const DWORD thread_ = GetCurrentThreadId();
+  WizardData& data_;  // of this thread
+  ConnectionPoint sinks_;
+  std::shared_ptr<Platform> screen_;
+  std::optional<TRN_DEA> wizard_;
+};
+
+}  // namespace Tarnwise

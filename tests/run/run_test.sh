@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # usage: run_test.sh PROGRAM MODEL.kst
+# TARNWISE_THROUGH, where it is set, are the words that start the program.
 # A person at the keyboard and the mouse of a real X server: `tarnwise run` from the first step to saved judgments.
 set -euo pipefail
 program=$1
@@ -16,7 +17,7 @@ fail() {
   exit 1
 }
 
-"$program" run --save "$work/model.kst" >"$work/out" 2>"$work/err" &
+${TARNWISE_THROUGH-} "$program" run --save "$work/model.kst" >"$work/out" 2>"$work/err" &
 wizard=$!
 
 # Waits for a window by a part of its title and gives it the keyboard; there is no window manager to do that.
@@ -87,7 +88,7 @@ for line in '"low": 1.2,' '"high": 3' '"low": 0.7,' '"ratio": 0.75,' '"benefitRe
   grep -qF "$line" "$work/out" || fail "no $line in $(cat "$work/out")"
 done
 grep -q 'The judgments are stored' "$work/err" || fail "nothing was saved"
-"$program" model show "$work/model.kst" >"$work/shown"
+${TARNWISE_THROUGH-} "$program" model show "$work/model.kst" >"$work/shown"
 grep -q 'DEA_DIRECT' "$work/shown" || fail "the model holds no judgments"
 cat "$work/out"
 echo "passed"

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # usage: play_test.sh PROGRAM TOOLKIT SCRIPT EXPECTED
 # Plays a session and compares what it prints with the lines that are kept. Under a screen's toolkit the `focus` lines,
-# which there are fewer ways to lead to, and the `shot` lines do not count.
+# which there are fewer ways to lead to, and the `shot` lines do not count. TOOLKIT com is the registered component.
+# TARNWISE_THROUGH, where it is set, are the words that start the program.
 set -euo pipefail
 program=$1 toolkit=$2 script=$3 expected=$4
 work=$(mktemp -d)
@@ -11,7 +12,9 @@ trap 'rm -rf "$work"' EXIT
 cp "$(dirname "$script")"/*.kst "$work"
 cp "$script" "$work/session"
 status=0
-"$program" play --toolkit "$toolkit" --shots "$work" "$work/session" >"$work/printed" 2>"$work/err" || status=$?
+way=(--toolkit "$toolkit")
+[ "$toolkit" != com ] || way=(--com)
+${TARNWISE_THROUGH-} "$program" play "${way[@]}" --shots "$work" "$work/session" >"$work/printed" 2>"$work/err" || status=$?
 if [ $status -gt 1 ]; then
   cat "$work/err" >&2
   exit 1

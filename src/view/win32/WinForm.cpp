@@ -22,8 +22,8 @@ constexpr UINT_PTR kSubclass = 1;
 
 LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/, DWORD_PTR data) {
   auto* const form = reinterpret_cast<WinForm*>(data);
-  const std::shared_ptr<WinForm> held = form->shared_from_this();
-  if (const auto answer = held->Handle(window, message, wParam, lParam)) return *answer;
+  const std::shared_ptr<WinForm> held = form->weak_from_this().lock();  // null while it goes, and its windows with it
+  if (const auto answer = form->Handle(window, message, wParam, lParam)) return *answer;
   return DefSubclassProc(window, message, wParam, lParam);
 }
 

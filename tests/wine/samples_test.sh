@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# usage: samples_test.sh DLL SCRIPT_HOST SAMPLE_HOST PRESSER    (in a Windows: see with-wine)
+# Registers the component and plays the sample hosts, the script and the program, on a model that is judged already:
+# through all steps to Finish, and out of the second step by Cancel and by the window's close button.
+set -uo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+samples=$(cd "$here/../../samples" && pwd)
+dll=$1 script_host=$2 sample_host=$3 presser=$4
+work=$(mktemp -d)
+failed=0
+trap 'rm -rf "$work"' EXIT
+
+# play NAME EXPECTED_OUTPUT HOST... -- STEP...
+play() {
+  local name=$1 expected=$2 status=0 pressed=0 host=()
+  shift 2
+  while [ "$1" != -- ]; do host+=("$1"); shift; done
+  shift
+  timeout 120 wine "${host[@]}" >"$work/said" &
+  timeout 120 wine "$presser" --seconds 20 "$@" >"$work/pressed" || pressed=$?
+  [ $pressed = 0 ] || timeout 60 wine "$presser" --seconds 5 close >/dev/null
+  wait $! || status=$?
+  tr -d '\r' <"$work/said" | diff -u "$expected" - && [ $status = 0 ] && [ $pressed = 0 ] && return
+  echo "$name: the host ended with $status, the presser with $pressed:"
+  cat "$work/pressed"
+  failed=1
+}
+
+timeout 60 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
+cp "$samples/universities.kst" "$samples/com/hospitals.vbs" "$work"
+{ head -n 2 "$here/universities.expected" && echo cancelled; } >"$work/cancelled.expected"
+for host in script program; do
+  command=("$script_host" --seconds 100 "$work/hospitals.vbs" "$work/universities.kst")
+  [ $host = script ] || command=("$sample_host" "$work/universities.kst")
+  play "$host, finished" "$here/universities.expected" "${command[@]}" -- Next Next Next Next Finish
+  play "$host, cancelled" "$work/cancelled.expected" "${command[@]}" -- Next Cancel
+  play "$host, closed" "$work/cancelled.expected" "${command[@]}" -- Next close
+done
+[ $failed = 0 ] && echo "sample hosts: 6 sessions are well"
+exit $failed

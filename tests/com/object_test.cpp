@@ -120,18 +120,26 @@ void OnThread(int apartment, Body body) {
   }).join();
 }
 
-TEST(Threads, AnObjectIsMadeOnlyInASingleThreadedApartment) {
+TEST(Threads, AMultithreadedApartmentIsRefused) {
   OnThread(COINIT_MULTITHREADED, [] {
     void* object = &object;
     EXPECT_EQ(Factory()->CreateInstance(nullptr, IID_IUnknown, &object), CO_E_NOT_SUPPORTED);
     EXPECT_EQ(object, nullptr);
     EXPECT_NE(ErrorInfo().Description.find("COINIT_APARTMENTTHREADED"), String::npos);
   });
+  EXPECT_EQ(CanUnloadNow(), S_OK);
+}
+
+TEST(Threads, AThreadWithoutAnApartmentIsRefused) {
   OnThread(-1, [] {
     void* object = &object;
     EXPECT_EQ(Factory()->CreateInstance(nullptr, IID_IUnknown, &object), CO_E_NOTINITIALIZED);
     EXPECT_EQ(object, nullptr);
   });
+  EXPECT_EQ(CanUnloadNow(), S_OK);
+}
+
+TEST(Threads, AnyOtherSingleThreadedApartmentWillDo) {
   OnThread(COINIT_APARTMENTTHREADED, [] {
     ComRef<IUnknown> object;
     EXPECT_EQ(Factory()->CreateInstance(nullptr, IID_IUnknown, reinterpret_cast<void**>(object.Receive())), S_OK);

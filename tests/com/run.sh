@@ -28,6 +28,8 @@ same() {  # same BEFORE AFTER machine|user
   cmp -s "$1.$3" "$2.$3"
 }
 
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES-};winedbg.exe=d"  # a crash ends the test at once
+
 test_with() { timeout 300 wine com_test.exe --gtest_brief=1 --gtest_filter="$1" || fail "com_test $1"; }
 
 regsvr() { timeout 60 wine regsvr32 /s "$@" || fail "regsvr32 $*"; }

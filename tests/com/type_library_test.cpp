@@ -80,7 +80,7 @@ class Dump {
         SUCCEEDED(type->GetRefTypeInfo(face, early.Receive()))) {
       TYPEATTR* own = nullptr;
       early->GetTypeAttr(&own);
-      out_ << "  early bound:\n";
+      out_ << "  early bound, flags " << Hex(own->wTypeFlags) << '\n';
       for (UINT i = 0; i < own->cFuncs; ++i) Function(early.Get(), i);
       early->ReleaseTypeAttr(own);
     }

@@ -72,8 +72,11 @@ void CheckStage1(const frmIniImpOrder& form, const WizardData& data, const Strin
     if (IsOrdinary(data)) Expect(rows.Placed + rows.Listed == MembersOf(data, g), name + ": lost one after " + line);
     listed += rows.Listed;
   }
-  if (IsOrdinary(data) && data.NumAtts() > 0)
-    Expect(form.cmdNext.Enabled == (listed == 0), "Next is wrong after " + line);
+  if (!IsOrdinary(data)) return;
+  Expect(!form.cmdNext.Enabled || listed == 0, "Next is on, and not all are placed, after " + line);
+  // A Reset switches Next off, of a group without attributes too; only the next placing switches it on again.
+  const bool resetMatters = MembersOf(data, Group::Benefit) > 0 && MembersOf(data, Group::Cost) > 0;
+  if (resetMatters) Expect(form.cmdNext.Enabled || listed > 0, "Next is off, and all are placed, after " + line);
 }
 
 void CheckRanking(const WizardData& data, Group g, const String& line) {

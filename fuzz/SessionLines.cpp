@@ -39,11 +39,11 @@ Control* OneOf(ByteSource& bytes, const Controls& controls) {
 
 bool CanBeUsed(const Control& control) { return Refusal(control).empty(); }
 
-bool IsCalled(const Control& control, const char* name) { return control.Name == name && CanBeUsed(control); }
+bool IsCalled(const Control& control, const String& name) { return control.Name == name && IsUsable(control); }
 
 // With its twin of the cost group.
 bool IsEither(const Control& control, const String& name) {
-  return (control.Name == name || control.Name == name + "1") && CanBeUsed(control);
+  return control.Name.starts_with(name) && control.Name.size() <= name.size() + 1 && IsUsable(control);
 }
 
 String Point(ByteSource& bytes, const Control& target) {
@@ -55,7 +55,7 @@ String Point(ByteSource& bytes, const Control& target) {
 
 String DragOf(ByteSource& bytes, const Control& source) {
   const Controls targets = Those(source.Owner, [&source](const Control& c) {
-    return c.TakesDrags() && &c != &source && CanBeUsed(c) && c.Width > 0.0F;
+    return c.TakesDrags() && &c != &source && IsOnScreen(c) && c.Width > 0.0F;
   });
   Control* const target = OneOf(bytes, targets);
   if (target == nullptr) return "grab " + source.FullName();
@@ -102,13 +102,21 @@ String ActionOn(ByteSource& bytes, const Control& control) {
   return (bytes.OneIn(16) ? "focus " : "click ") + name;
 }
 
+// Asking whether a control can be used takes its time, so the first of a few that can.
+Control* FirstUsable(const Controls& controls, std::size_t from) {
+  for (std::size_t k = 0; k < std::min<std::size_t>(12, controls.size()); ++k) {
+    Control* const control = controls[(from + k) % controls.size()];
+    if (CanBeUsed(*control)) return control;
+  }
+  return nullptr;
+}
+
 String RandomAction(ByteSource& bytes, const Form& form) {
   const bool any = bytes.OneIn(8);
   const Controls controls = Those(form, [any](const Control& c) {
-    if (any) return true;
-    return CanBeUsed(c) && (c.Click || c.DragAutomatic || TakesTab(c) || c.Type == Kind::Timer);
+    return any || c.Click || c.DragAutomatic || TakesTab(c) || c.Type == Kind::Timer;
   });
-  Control* const control = OneOf(bytes, controls);
+  Control* const control = any ? OneOf(bytes, controls) : FirstUsable(controls, static_cast<std::size_t>(bytes.Byte()));
   return control == nullptr ? "forms" : ActionOn(bytes, *control);
 }
 
@@ -125,7 +133,7 @@ String OrderingStep(ByteSource& bytes, const frmIniImpOrder& form) {
   Control* const listed = OneOf(bytes, Those(form, [](const Control& c) { return IsEither(c, "cmdAttA"); }));
   if (listed == nullptr) return "click cmdNext";
   const String rows = listed->Name == "cmdAttA" ? "picOrder" : "picOrder1";
-  Control* const row = OneOf(bytes, Those(form, [&rows](const Control& c) { return IsCalled(c, rows.c_str()); }));
+  Control* const row = OneOf(bytes, Those(form, [&rows](const Control& c) { return IsCalled(c, rows); }));
   return row == nullptr ? "forms" : "drag " + listed->FullName() + " " + row->FullName();
 }
 
@@ -203,7 +211,7 @@ String HostLine(SessionLines& lines) {
 
 // A drag in its stages, with whatever comes between.
 String DragStage(ByteSource& bytes, const Form& form) {
-  const auto takes = [](const Control& c) { return c.TakesDrags(); };
+  const auto takes = [](const Control& c) { return c.TakesDrags() && IsOnScreen(c); };
   switch (bytes.Below(4)) {
     case 0: {
       Control* const source = OneOf(bytes, Those(form, [](const Control& c) { return c.DragAutomatic; }));

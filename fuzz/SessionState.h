@@ -1,4 +1,4 @@
-// Everything that a session can change, as text to be compared.
+// Everything that a session can change, as bytes to be compared.
 #pragma once
 
 #include <tarnwise/Scalars.h>
@@ -14,7 +14,7 @@ String StoredText(const WizardData& data);                         // ranking, j
 String PanelsText(const Form& form);                               // lists and rank rows of the ordering step
 String RankingText(const Form& form, const WizardData& data);      // what its second stage shows
 
-// Where two texts part, with what stands around it.
+// Where two of them part: the control or the section of the data.
 String Parting(const String& before, const String& after);
 
 }  // namespace Tarnwise

@@ -55,7 +55,8 @@ class LineBuffer : public std::streambuf {
     checks_->After(printed);
     line_ = given_++ < kMostLines ? NextLine(lines_, screen_) : String();
     if (line_.empty()) return traits_type::eof();
-    if (std::getenv("TARNWISE_SHOW_LINES") != nullptr) std::fprintf(stderr, "%s%s\n", printed.c_str(), line_.c_str());
+    static const bool shown = std::getenv("TARNWISE_SHOW_LINES") != nullptr;
+    if (shown) std::fprintf(stderr, "%s%s\n", printed.c_str(), line_.c_str());
     ++linesPlayed;
     checks_->Before(line_);
     line_ += '\n';

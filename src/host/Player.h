@@ -8,6 +8,7 @@
 
 #include <tarnwise/TRN_DEA.h>
 
+#include <deque>
 #include <iosfwd>
 #include <memory>
 #include <vector>
@@ -42,6 +43,7 @@ class Player {
   void PressTool(const String& name, const String& key);
   void Focus(const String& name);
   void Type(const String& text);
+  bool TypeOn();  // the next character of the line that is being typed; false when there is none
   void Key(const String& name);
   void Stroke(const struct KeyStroke& key);
   void Grab(const String& name);
@@ -71,6 +73,7 @@ class Player {
   std::ostream& out_;
   std::ostream& err_;
   std::unique_ptr<TRN_DEA> dea_;
+  std::deque<int> typed_;  // characters that are still to come
   bool answers_ = true;
   bool stopped_ = false;
   int line_ = 0;

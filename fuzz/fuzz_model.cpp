@@ -60,10 +60,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   static WizardData data;  // read into again and again, as by a host that opens one file after the other
   const std::vector<char> file(bytes, bytes + size);
   ReadModel(data, file);
-  // The comparisons take a hundred times as long as the reading; the bytes themselves choose which ones are made.
-  const std::uint32_t choice = Checksum(file) % 512;
-  if (choice < 4) CheckPlainly(data, file);
-  if (choice == 4) CheckWriter(data);
-  if (choice < 6) CheckFile(data, file);
+  // The comparisons take a hundred times as long and more as the reading; the bytes themselves choose which ones are
+  // made.
+  const std::uint32_t choice = Checksum(file) % 4096;
+  if (choice < 8) CheckPlainly(data, file);
+  if (choice == 8) CheckWriter(data);
+  if (choice < 12) CheckFile(data, file);
   return 0;
 }

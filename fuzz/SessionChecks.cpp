@@ -66,7 +66,8 @@ void SessionChecks::Before(const String& line) {
   stored_ = OnlyShows(line) ? StoredText(data_) : String();
   intervals_ = AllIntervals(data_);
   done_ = data_.WeightDone.Items();
-  if (ordering != nullptr && !disturbed_ && line == "click cmdNext" && stage_ == 0) panels_ = PanelsText(*ordering);
+  // Next may be pressed by a key as well; what was kept before is no longer what was left then.
+  if (stage_ == 0) panels_ = !disturbed_ && line == "click cmdNext" ? PanelsText(*ordering) : String();
   if (line != "click cmdNext") ranking_.clear();
   if (ordering != nullptr && !disturbed_ && line == "click cmdBack" && stage_ == 1) {
     ranking_ = RankingText(*ordering, data_);

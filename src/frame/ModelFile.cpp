@@ -69,6 +69,7 @@ class Stream {
 
   void ReadAll(std::vector<Variant>& items) {
     for (Variant& item : items) {
+      if (at_ == end_) return;
       if (!ReadDouble(item)) Read(item);
     }
   }

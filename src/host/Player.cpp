@@ -124,6 +124,7 @@ void Player::NewObject() {
 }
 
 bool Player::Step() {
+  if (TypeOn()) return true;
   String line;
   if (stopped_ || !std::getline(script_, line)) return false;
   const int number = ++line_;

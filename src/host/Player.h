@@ -9,6 +9,7 @@
 
 #include <tarnwise/TRN_DEA.h>
 
+#include <deque>
 #include <iosfwd>
 #include <memory>
 #include <vector>
@@ -45,6 +46,7 @@ class Player {
   void PressTool(const String& name, const String& key);
   void Focus(const String& name);
   void Type(const String& text);
+  bool TypeOn();  // the next character of the line that is being typed; false when there is none
   void Key(const String& name);
   void Stroke(const struct KeyStroke& key);
   void Grab(const String& name);
@@ -75,6 +77,7 @@ class Player {
   std::ostream& err_;
   const MakeHosted make_;
   std::unique_ptr<Hosted> dea_;
+  std::deque<int> typed_;  // characters that are still to come
   bool answers_ = true;
   bool stopped_ = false;
   int line_ = 0;

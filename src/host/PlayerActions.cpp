@@ -113,6 +113,8 @@ bool HasOneMeaningToAClick(const Control& control) {
   }
 }
 
+KeyStroke StrokeFor(int character) { return {CodeOf(character), character, 0}; }
+
 }  // namespace
 
 Control& Player::Usable(const String& name) {
@@ -173,8 +175,25 @@ void Player::Stroke(const KeyStroke& key) {
   driver_.Key(*form, key);
 }
 
+// The first character belongs to the line. The others come one by one, each after the modal calls that the one before
+// has ended; what can't be typed any more is left.
 void Player::Type(const String& text) {
-  for (const int character : CharactersOf(text)) Stroke({CodeOf(character), character, 0});
+  const std::vector<int> characters = CharactersOf(text);
+  if (characters.empty()) return;
+  Stroke(StrokeFor(characters.front()));
+  typed_.assign(characters.begin() + 1, characters.end());
+}
+
+bool Player::TypeOn() {
+  if (typed_.empty()) return false;
+  const int character = typed_.front();
+  typed_.pop_front();
+  try {
+    Stroke(StrokeFor(character));
+  } catch (const Refused&) {
+    typed_.clear();
+  }
+  return true;
 }
 
 void Player::Key(const String& name) {

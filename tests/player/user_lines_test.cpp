@@ -274,5 +274,21 @@ TEST(Dump, ListsEveryControlOfAFormWithItsProperties) {
 
 TEST(Shot, DoesNothingWithoutAScreen) { EXPECT_EQ(Ward().Play("shot a.png"), Lines{R"({"shot":null})"}); }
 
+TEST(Typing, EndsWhereNothingTakesKeysAnyMoreAndIsNotRefused) {
+  const Played played = Play(kShown + "focus cmdCancel\ntype \"  \"\nforms\n");
+  EXPECT_EQ(Only(played.Out, R"({"refused")"), Lines{});
+  EXPECT_EQ(played.Out.back(), R"({"forms":[]})");
+  EXPECT_EQ(played.Status, 0);
+}
+
+TEST(Typing, GoesOnOnlyWhenTheModalCallThatACharacterEndedHasReturned) {
+  // The first blank presses Back of the ordering step, the second one Next of the step that it led to.
+  const Played played = Play(kShown + "click cmdNext\nfocus cmdBack\ntype \"   \"\nforms\n");
+  EXPECT_EQ(Only(played.Out, R"({"release":"frmIniImpOrder")").size(), 1U);
+  const Json forms = Json::parse(played.Out.back())["forms"];
+  ASSERT_EQ(forms.size(), 2U);
+  EXPECT_EQ(forms[1], (Json{{"name", "frmIniImpOrder"}, {"visible", true}, {"modal", true}}));
+}
+
 }  // namespace
 }  // namespace Tarnwise

@@ -1,0 +1,11 @@
+// Small models out of bytes: mostly what a host would hand over, now and then what none should.
+#pragma once
+
+#include "ByteSource.h"
+#include "frame/mdTRNMain.h"
+
+namespace Tarnwise {
+
+WizardData RandomModel(ByteSource& bytes);
+
+}  // namespace Tarnwise

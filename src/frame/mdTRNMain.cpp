@@ -1,6 +1,7 @@
 #include "frame/mdTRNMain.h"
 
 #include "frame/ModelFile.h"
+#include "runtime/PerThread.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -10,8 +11,8 @@ WizardData::WizardData() { ClearModel(*this); }
 Double WizardData::Orientation(int i) const { return Val(AttributeList.AttOrientation[i]); }
 
 WizardData& mdTRNMain() {
-  thread_local WizardData data;
-  return data;
+  static PerThread<WizardData> data;
+  return data.Get();
 }
 
 String HelpPath(const WizardData& data) { return data.KestaDir + "\\KESTA.HLP"; }

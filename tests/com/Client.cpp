@@ -100,12 +100,11 @@ STDMETHODIMP_(ULONG) Sink::Release() {
   return 0;
 }
 
-STDMETHODIMP Sink::Invoke(DISPID event, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
-                          EXCEPINFO*, UINT*) {
+STDMETHODIMP Sink::Invoke(DISPID event, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters, VARIANT*, EXCEPINFO*,
+                          UINT*) {
   const ComRef<Sink> held(this);
   EXPECT_EQ(iid, IID_NULL);
   EXPECT_EQ(flags, DISPATCH_METHOD);
-  EXPECT_EQ(result, nullptr);
   EXPECT_EQ(parameters->cNamedArgs, 0U);
   String note = std::to_string(event) + "(";
   for (UINT i = parameters->cArgs; i > 0; --i) {

@@ -36,11 +36,13 @@ SIZE OuterSize(SIZE client, double scale) {
 
 // Small screens: the form gets smaller as a whole rather than losing its buttons.
 double FittingScale(const Form& form, double wanted, const RECT& workArea) {
-  const SIZE whole = OuterSize({Scaled(static_cast<int>(form.Width / kTwipsPerPixel), wanted),
-                                Scaled(static_cast<int>(form.Height / kTwipsPerPixel), wanted)},
-                               wanted);
+  // The window's frame keeps its size; one pixel is for the edges that are rounded.
+  const SIZE frame = OuterSize({0, 0}, wanted);
+  const double roomX = static_cast<double>(WidthOf(workArea) - frame.cx - 1);
+  const double roomY = static_cast<double>(HeightOf(workArea) - frame.cy - 1);
+  const double unit = wanted / static_cast<double>(kTwipsPerPixel);
   const double fit =
-      std::min(static_cast<double>(WidthOf(workArea)) / whole.cx, static_cast<double>(HeightOf(workArea)) / whole.cy);
+      std::min(roomX / (static_cast<double>(form.Width()) * unit), roomY / (static_cast<double>(form.Height()) * unit));
   return fit >= 1.0 ? wanted : std::max(wanted * fit, 0.5);
 }
 
@@ -49,6 +51,17 @@ RECT WorkAreaOf(HWND window) {
   monitor.cbSize = sizeof monitor;
   if (GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor) != 0) return monitor.rcWork;
   return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+}
+
+bool HasCaption(const Control& control) {
+  return control.Type == Kind::Label || control.Type == Kind::CommandButton || control.Type == Kind::OptionButton ||
+         control.Type == Kind::CheckBox;
+}
+
+// Its window's text is not seen, and read by a screen reader.
+bool SaysItsName(const Control& control) {
+  return control.Type == Kind::ListBox || control.Type == Kind::TabStrip || control.Type == Kind::Toolbar ||
+         control.Type == Kind::VScrollBar;
 }
 
 const wchar_t* FormClass() {
@@ -203,7 +216,9 @@ void WinForm::SyncPlace(Control& control, HWND window) {
 }
 
 void WinForm::SyncLook(Control& control, HWND window) {
-  if (!control.ToolTipText().empty()) SetTip(window, Wide(control.ToolTipText));
+  if (SaysItsName(control)) SetText(window, Wide(control.AccessibleName));
+  // A caption that is cut short is told by a tip of its own.
+  if (!control.ToolTipText().empty() || !HasCaption(control)) SetTip(window, Wide(control.ToolTipText));
   if ((IsWindowEnabled(window) != 0) != control.Enabled) {
     EnableWindow(window, control.Enabled ? TRUE : FALSE);
     InvalidateRect(window, nullptr, FALSE);

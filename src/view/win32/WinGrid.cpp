@@ -21,7 +21,6 @@ HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
   const HWND window = NewChild(
       form, WC_LISTVIEWW, LVS_REPORT | LVS_SHAREIMAGELISTS | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0, parent);
   ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
-  SetWindowTextW(window, Wide(control.AccessibleName).c_str());
   form.Watch(ListView_GetHeader(window), control);
   return window;
 }
@@ -78,6 +77,8 @@ void SetRowHeight(WinForm& form, HWND window) {
 
 void SyncGrid(WinForm& form, Control& control, HWND window) {
   const auto& grid = static_cast<const Grid&>(control);
+  SetText(window, Wide(grid.AccessibleName));
+  UseBaseFont(form, window);
   MakeColumns(window, grid);
   SetRowHeight(form, window);
   const int rows = std::max(grid.Rows() - 1, 0);

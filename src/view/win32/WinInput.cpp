@@ -18,6 +18,7 @@ namespace {
 
 constexpr UINT kChoose = WM_APP + 1;  // a drop list has closed over a choice
 constexpr UINT kFocusCame = WM_APP + 2;
+constexpr UINT kGivenUp = WM_APP + 3;  // it has closed over none, though it may show where the person was in it
 constexpr UINT kDpiChanged = 0x02E0;
 
 // The window does the rest of a press by itself.
@@ -67,7 +68,7 @@ void WinForm::Settle(Control* control) {
 std::optional<LRESULT> WinForm::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCDESTROY) {
     Lost(window);
-    return DefWindowProcW(window, message, wParam, lParam);
+    return std::nullopt;  // the class takes down what it keeps of it
   }
   Control* const control = ControlOf(window);
   if (form_ == nullptr || control == nullptr) return std::nullopt;
@@ -283,6 +284,7 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
     case Kind::ComboBox:
     case Kind::ImageCombo:
       if (code == CBN_SELENDOK) PostMessageW(window_, kChoose, 0, reinterpret_cast<LPARAM>(from));
+      if (code == CBN_SELENDCANCEL) PostMessageW(window_, kGivenUp, 0, reinterpret_cast<LPARAM>(from));
       return 0;
     case Kind::Toolbar: {
       const auto& bar = static_cast<Toolbar&>(*control);
@@ -336,7 +338,9 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
       return PaintEditBorder(window, wParam, lParam);
     case WM_CONTEXTMENU: return 0;
     case WM_CAPTURECHANGED:
-      if (window == window_ && toolkit_.Drag().ByMouse()) toolkit_.Drag().Cancel();
+      if (window != window_ || reinterpret_cast<HWND>(lParam) == window_) return std::nullopt;
+      if (toolkit_.Drag().ByMouse()) toolkit_.Drag().Cancel();
+      if (!press_.Native) press_ = {};
       return std::nullopt;
     case WM_TIMER:
       if (window != window_) return std::nullopt;
@@ -360,6 +364,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
     case kChoose:
       if (Control* const list = ControlOf(reinterpret_cast<HWND>(lParam))) RowChosen(*list);
       return 0;
+    case kGivenUp: Settle(ControlOf(reinterpret_cast<HWND>(lParam))); return 0;
     case kFocusCame: FocusCame(reinterpret_cast<HWND>(lParam)); return 0;
     default: return std::nullopt;
   }
@@ -386,8 +391,10 @@ void WinForm::CloseWanted() {
 void WinForm::Ticked(UINT_PTR id) {
   for (const auto& [control, timer] : timers_) {
     if (timer != id) continue;
+    const auto& record = static_cast<const Timer&>(*control);
+    if (record.Interval == 0 || !record.Enabled) return;  // stopped while its message was under way
     const WinEntry entry(*form_);
-    Input::Tick(const_cast<Timer&>(static_cast<const Timer&>(*control)));  // NOLINT: kept by its address only
+    Input::Tick(const_cast<Timer&>(record));  // NOLINT: kept by its address only
     Settle(nullptr);
     return;
   }

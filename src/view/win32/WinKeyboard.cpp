@@ -67,7 +67,12 @@ std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT mes
     case WM_KEYUP: KeyUp(static_cast<int>(wParam)); break;
     default: break;
   }
-  return taken ? std::optional<LRESULT>(0) : std::nullopt;
+  if (taken) return 0;
+  if (control.Type != Kind::ListBox || (message != WM_KEYDOWN && message != WM_CHAR)) return std::nullopt;
+  // A list box finds its rows by letters and pages; the tree hears of the row it has gone to.
+  const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+  if (ChosenRow(control, window) != static_cast<ListBox&>(control).ListIndex) RowChosen(control);
+  return answer;
 }
 
 // True: the window itself must not see it.
@@ -78,7 +83,10 @@ bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam
   const WinEntry entry(*form_);
   dropCharacter_ = false;
   if (toolkit_.Drag().ByMouse()) {
-    if (code == VK_ESCAPE) toolkit_.Drag().Cancel();
+    if (code == VK_ESCAPE) {
+      press_.Refused = true;  // where the button comes up now is no click
+      toolkit_.Drag().Cancel();
+    }
     dropCharacter_ = true;
     Settle(nullptr);
     return true;
@@ -133,16 +141,22 @@ bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam
 // What a key types; the form's key press event may drop it or put another in its place.
 bool WinForm::Character(HWND window, WPARAM unit) {
   Control* const active = form_->ActiveControl;
-  if (std::exchange(dropCharacter_, false)) return true;
+  const bool high = unit >= 0xD800 && unit <= 0xDBFF;
+  const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
+  if (dropCharacter_) {
+    dropCharacter_ = high;  // its other half is still to come
+    return true;
+  }
   if (active == nullptr || active->Type != Kind::TextBox || !IsUsable(*active)) {
     return ControlOf(window) == nullptr || !AnswersKeys(*ControlOf(window));
   }
   int character = static_cast<int>(unit);
-  if (unit >= 0xD800 && unit <= 0xDBFF) {
+  if (high) {
     highSurrogate_ = static_cast<wchar_t>(unit);
     return true;
   }
-  if (unit >= 0xDC00 && unit <= 0xDFFF) {
+  if (low) {
+    if (highSurrogate_ == 0) return true;
     character = 0x10000 + ((highSurrogate_ & 0x3FF) << 10) + (character & 0x3FF);
     highSurrogate_ = 0;
   }

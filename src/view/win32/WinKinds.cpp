@@ -40,8 +40,14 @@ bool IsContainer(const Control& control) {
 HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyle, HWND parent) {
   const HWND window = CreateWindowExW(exStyle, className, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 10, 10, parent,
                                       nullptr, OwnModule(), nullptr);
-  SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(BaseFont(form.Scale())), FALSE);
+  UseBaseFont(form, window);
   return window;
+}
+
+void UseBaseFont(const WinForm& form, HWND window) {
+  const HFONT font = BaseFont(form.Scale());
+  if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) == font) return;
+  SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
 Control* LabelledBy(const Label& label) {

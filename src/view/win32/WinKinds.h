@@ -41,6 +41,9 @@ extern const WinKind kWinScrollBar;
 // A child window of the class; it gets the form's font.
 HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyle, HWND parent);
 
+// The form's font, in the size of the present scale.
+void UseBaseFont(const WinForm& form, HWND window);
+
 // The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
 Control* LabelledBy(const Label& label);
 

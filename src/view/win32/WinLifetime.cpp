@@ -1,5 +1,6 @@
 #include "view/win32/WinLifetime.h"
 
+#include "runtime/PerThread.h"
 #include "view/win32/WinForm.h"
 
 #include <algorithm>
@@ -23,7 +24,11 @@ struct Graveyard {
   std::vector<Grave> Graves;
 };
 
-thread_local Graveyard yard;
+Graveyard& Yard() {
+  static PerThread<Graveyard> yard;
+  return yard.Get();
+}
+
 std::atomic<long> alive = 0;
 
 constexpr WORD kManifestOfDll = 2;
@@ -31,8 +36,8 @@ constexpr WORD kManifestOfProgram = 1;
 
 void Dig() {
   std::vector<Grave> ready;
-  std::erase_if(yard.Graves, [&ready](const Grave& grave) {
-    if (yard.Depth >= grave.Depth) return false;
+  std::erase_if(Yard().Graves, [&ready](const Grave& grave) {
+    if (Yard().Depth >= grave.Depth) return false;
     ready.push_back(grave);
     return true;
   });
@@ -40,24 +45,24 @@ void Dig() {
     if (grave.Window != nullptr) DestroyWindow(grave.Window);
     grave.Form.reset();
   }
-  if (yard.Timer != 0 && yard.Graves.empty()) KillTimer(nullptr, std::exchange(yard.Timer, 0));
+  if (Yard().Timer != 0 && Yard().Graves.empty()) KillTimer(nullptr, std::exchange(Yard().Timer, 0));
 }
 
 void CALLBACK DigNow(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
   KillTimer(nullptr, timer);
-  yard.Timer = 0;
+  Yard().Timer = 0;
   Dig();
   // What is still being carried out digs when it ends.
 }
 
 void DigLater() {
-  if (yard.Timer == 0 && !yard.Graves.empty()) yard.Timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, DigNow);
+  if (Yard().Timer == 0 && !Yard().Graves.empty()) Yard().Timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, DigNow);
 }
 
 void Bury(Grave grave) {
-  grave.Depth = std::max(yard.Depth, 1);
-  yard.Graves.push_back(std::move(grave));
-  if (yard.Depth == 0)
+  grave.Depth = std::max(Yard().Depth, 1);
+  Yard().Graves.push_back(std::move(grave));
+  if (Yard().Depth == 0)
     Dig();
   else
     DigLater();
@@ -78,11 +83,11 @@ HANDLE OwnContext() {
 
 }  // namespace
 
-WinEntry::WinEntry(Form& form) : form_(form.shared_from_this()) { ++yard.Depth; }
+WinEntry::WinEntry(Form& form) : form_(form.shared_from_this()) { ++Yard().Depth; }
 
 WinEntry::~WinEntry() {
   form_.reset();
-  --yard.Depth;
+  --Yard().Depth;
   DigLater();
 }
 

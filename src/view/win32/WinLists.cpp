@@ -74,6 +74,7 @@ HWND MakeListBox(WinForm& form, Control& /*control*/, HWND parent) {
 
 void SyncListBox(WinForm& form, Control& control, HWND window) {
   auto& box = static_cast<ListBox&>(control);
+  UseBaseFont(form, window);
   const int height = Scaled(kRowHeight, form.Scale());
   if (Tell(window, LB_GETITEMHEIGHT) != height) Tell(window, LB_SETITEMHEIGHT, 0, height);
   SyncRows(window, kOfListBox, WideTexts(box.List), box.ListIndex);
@@ -98,8 +99,9 @@ HWND MakeTabStrip(WinForm& form, Control& /*control*/, HWND parent) {
   return NewChild(form, WC_TABCONTROLW, TCS_TABS | TCS_SINGLELINE, 0, parent);
 }
 
-void SyncTabStrip(WinForm& /*form*/, Control& control, HWND window) {
+void SyncTabStrip(WinForm& form, Control& control, HWND window) {
   auto& strip = static_cast<TabStrip&>(control);
+  UseBaseFont(form, window);
   const int wanted = static_cast<int>(strip.Tabs.size());
   while (TabCtrl_GetItemCount(window) > wanted) TabCtrl_DeleteItem(window, wanted);
   for (int i = 0; i < wanted; ++i) {
@@ -132,6 +134,7 @@ void SetClosedHeight(HWND combo, const Control& control, double scale) {
 
 void SyncComboBox(WinForm& form, Control& control, HWND window) {
   auto& box = static_cast<ComboBox&>(control);
+  UseBaseFont(form, window);
   SetClosedHeight(window, control, form.Scale());
   SyncRows(window, kOfCombo, WideTexts(box.List), box.ListIndex);
 }
@@ -190,6 +193,7 @@ void SetItem(HWND window, int row, const ImageCombo::Item& item, const std::vect
 
 void SyncImageCombo(WinForm& form, Control& control, HWND window) {
   auto& box = static_cast<ImageCombo&>(control);
+  UseBaseFont(form, window);
   const auto combo = reinterpret_cast<HWND>(Tell(window, CBEM_GETCOMBOCONTROL));
   if (combo != nullptr) SetClosedHeight(combo, control, form.Scale());
   const std::vector<String> names = PicturesOf(box);
@@ -208,7 +212,7 @@ void SyncImageCombo(WinForm& form, Control& control, HWND window) {
 }  // namespace
 
 int ChosenRow(const Control& control, HWND window) {
-  const int row = static_cast<int>(Tell(window, CB_GETCURSEL));
+  const int row = static_cast<int>(Tell(window, control.Type == Kind::ListBox ? LB_GETCURSEL : CB_GETCURSEL));
   return control.Type == Kind::ImageCombo ? row + 1 : row;
 }
 

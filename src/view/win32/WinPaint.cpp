@@ -1,5 +1,6 @@
 #include "view/win32/WinPaint.h"
 
+#include "runtime/PerThread.h"
 #include "view/Pictures.h"
 #include "view/Reach.h"
 
@@ -114,8 +115,8 @@ COLORREF Blend(COLORREF a, COLORREF b, int percentOfB) {
 
 HFONT BaseFont(double scale, int points, bool bold, int stretch) {
   using Look = std::tuple<int, int, bool, int>;
-  thread_local std::map<Look, Font> fonts;
-  Font& font = fonts[{static_cast<int>(std::lround(scale * 96)), points, bold, stretch}];
+  static PerThread<std::map<Look, Font>> fonts;
+  Font& font = fonts.Get()[{static_cast<int>(std::lround(scale * 96)), points, bold, stretch}];
   if (!font) font = NewFont(scale, points, bold, stretch);
   return font.get();
 }

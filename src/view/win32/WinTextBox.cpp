@@ -44,10 +44,7 @@ HWND MakeTextBox(WinForm& form, Control& /*control*/, HWND parent) {
 
 void SyncTextBox(WinForm& form, Control& control, HWND window) {
   auto& box = static_cast<TextBox&>(control);
-  const HFONT font = BaseFont(form.Scale());
-  if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) != font) {
-    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-  }
+  UseBaseFont(form, window);
   RECT client{};
   GetClientRect(window, &client);
   if (PaddingOf(window, HeightOf(client)) > 1) {

@@ -64,16 +64,22 @@ void SyncToolbar(WinForm& form, Control& control, HWND window) {
     Tell(window, TB_SETBUTTONSIZE, 0, MAKELPARAM(side, side));
   }
   const bool keyboard = bar.Owner.ActiveControl == &bar;
+  bool wasMarked = false;
   for (int i = 0; i < static_cast<int>(bar.Buttons.size()); ++i) {
     const int id = i + 1;
     WORD state = bar.Buttons[static_cast<std::size_t>(i)].Enabled ? TBSTATE_ENABLED : 0;
     if (upright) state |= TBSTATE_WRAP;
     // With the keyboard on the bar a mark shows which button it presses.
     if (keyboard && id == bar.Current) state |= TBSTATE_MARKED;
-    if (Tell(window, TB_GETSTATE, static_cast<WPARAM>(id)) != state)
-      Tell(window, TB_SETSTATE, static_cast<WPARAM>(id), state);
+    const LRESULT former = Tell(window, TB_GETSTATE, static_cast<WPARAM>(id));
+    wasMarked = wasMarked || (former & TBSTATE_MARKED) != 0;
+    if (former != state) Tell(window, TB_SETSTATE, static_cast<WPARAM>(id), state);
   }
-  if (keyboard) Tell(window, TB_SETHOTITEM, static_cast<WPARAM>(bar.Current - 1));
+  if (keyboard) {
+    Tell(window, TB_SETHOTITEM, static_cast<WPARAM>(bar.Current - 1));
+  } else if (wasMarked) {
+    Tell(window, TB_SETHOTITEM, static_cast<WPARAM>(-1));
+  }
 }
 
 }  // namespace

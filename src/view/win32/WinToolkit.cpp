@@ -9,6 +9,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 namespace Tarnwise {
 
 namespace {
@@ -34,17 +36,32 @@ void UseCommonControls() {
   InitCommonControlsEx(&wanted);
 }
 
+}  // namespace
+
 // While a modal form is up nothing else of this thread takes input, the host's windows included.
 class OthersDisabled {
  public:
-  explicit OthersDisabled(HWND but) : but_(but) {
-    EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(this));
-    for (const HWND window : windows_) EnableWindow(window, FALSE);
+  OthersDisabled(std::vector<OthersDisabled*>& calls, const Form& form, HWND but)
+      : calls_(calls), form_(form), but_(but) {
+    calls_.push_back(this);
+    Disable();
   }
   OthersDisabled(const OthersDisabled&) = delete;
   OthersDisabled& operator=(const OthersDisabled&) = delete;
   ~OthersDisabled() {
-    for (const HWND window : windows_) {
+    Enable();
+    std::erase(calls_, this);
+    // The form around it may have come back while this one's call was the innermost.
+    if (!calls_.empty() && calls_.back()->form_.Visible) calls_.back()->Disable();
+  }
+
+  bool IsOf(const Form& form) const { return &form_ == &form; }
+  void Disable() {
+    EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(this));
+    for (const HWND window : windows_) EnableWindow(window, FALSE);
+  }
+  void Enable() {
+    for (const HWND window : std::exchange(windows_, {})) {
       if (IsWindow(window) != 0) EnableWindow(window, TRUE);
     }
   }
@@ -58,11 +75,11 @@ class OthersDisabled {
     return TRUE;
   }
 
+  std::vector<OthersDisabled*>& calls_;
+  const Form& form_;
   HWND but_;
   std::vector<HWND> windows_;
 };
-
-}  // namespace
 
 UINT DpiOf(HWND window) {
   static const auto dpiForWindow = FromUser32<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
@@ -104,9 +121,14 @@ void WinToolkit::Show(Form& form, bool modal) {
   if (!window) window = std::make_shared<WinForm>(form, *this);
   const std::shared_ptr<WinForm> shown = window;
   shown->Show(modal);
+  if (!modal_.empty() && modal_.back()->IsOf(form)) modal_.back()->Disable();  // it was hidden, and its call still runs
 }
 
 void WinToolkit::Hide(Form& form) {
+  // Others come to life before it goes, or Windows would make another program's window the active one.
+  if (!modal_.empty() && modal_.back()->IsOf(form)) modal_.back()->Enable();
+  // A handler may run inside a message that another thread has sent: the loop has to look again.
+  if (!modal_.empty()) PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
   if (WinForm* const shown = FormOf(form)) ShowWindow(shown->Window(), SW_HIDE);
   drag_.Cancel();
 }
@@ -145,7 +167,7 @@ void WinToolkit::TakeMessages() {
 void WinToolkit::RunModal(Form& form) {
   const auto held = form.shared_from_this();
   const WinForm* const shown = FormOf(form);
-  const OthersDisabled others(shown != nullptr ? shown->Window() : nullptr);
+  const OthersDisabled others(modal_, form, shown != nullptr ? shown->Window() : nullptr);
   while (form.Visible && !form.Released) {
     if (Pump) {
       TakeMessages();

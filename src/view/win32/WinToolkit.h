@@ -14,6 +14,7 @@
 namespace Tarnwise {
 
 class WinForm;
+class OthersDisabled;
 
 // Pixels to the inch, by the window's monitor where Windows can tell.
 UINT DpiOf(HWND window);
@@ -54,6 +55,7 @@ class WinToolkit : public Toolkit {
  private:
   std::map<const Form*, std::shared_ptr<WinForm>> forms_;
   std::map<int, HICON> icons_;
+  std::vector<OthersDisabled*> modal_;  // of the modal calls that run, the innermost last
   WinDrag drag_;
   int pointer_ = 0;
 };

@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <string>
 
 namespace Tarnwise {
 
@@ -40,9 +41,9 @@ class Held {
   explicit Held(int shift) {
     GetKeyboardState(former_.data());
     std::array<BYTE, 256> now = former_;
-    now[VK_SHIFT] = (shift & 1) != 0 ? 0x80 : 0;
-    now[VK_CONTROL] = (shift & 2) != 0 ? 0x80 : 0;
-    now[VK_MENU] = (shift & 4) != 0 ? 0x80 : 0;
+    now[VK_SHIFT] = (shift & 1) != 0 ? kDown : kUp;
+    now[VK_CONTROL] = (shift & 2) != 0 ? kDown : kUp;
+    now[VK_MENU] = (shift & 4) != 0 ? kDown : kUp;
     SetKeyboardState(now.data());
   }
   Held(const Held&) = delete;
@@ -50,6 +51,8 @@ class Held {
   ~Held() { SetKeyboardState(former_.data()); }
 
  private:
+  static constexpr BYTE kUp = 0;
+  static constexpr BYTE kDown = 0x80;
   std::array<BYTE, 256> former_{};
 };
 

@@ -85,7 +85,7 @@ TEST_F(WinDragging, ATargetInPixelsIsToldPixels) {
   form->picRow[0].Scale = ScaleMode::Pixels;
   Show();
   Press();
-  MoveTo(3300 + 15 * 20, 300 + 15 * 30);
+  MoveTo(3150 + 15 * 20, 300 + 15 * 30);
   EXPECT_EQ(at, Spot(20.0F, 30.0F));
   LetGo(3300, 500);
 }

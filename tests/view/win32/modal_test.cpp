@@ -223,6 +223,7 @@ TEST_F(WinModal, AMessageBoxInAHandlerIsAnsweredAndTheHandlerGoesOn) {
 
 TEST_F(WinModal, AMessageBoxShowsItsTextOverItsFormAndWaits) {
   toolkit->AutoAnswer = false;
+  Show();
   bool seen = false;
   Later(50, [&] {
     const HWND box = FindWindowW(L"#32770", L"KESTA");
@@ -237,7 +238,6 @@ TEST_F(WinModal, AMessageBoxShowsItsTextOverItsFormAndWaits) {
     const HWND box = FindWindowW(L"#32770", L"KESTA");
     if (box != nullptr) EndDialog(box, IDOK);
   });
-  Show();
   platform->MessageBox("na\xC3\xAFve", 48, "KESTA");
   EXPECT_TRUE(seen);
   EXPECT_TRUE(IsWindowEnabled(Window()));
@@ -248,13 +248,13 @@ TEST_F(WinModal, AMessageBoxShowsItsTextOverItsFormAndWaits) {
 
 TEST_F(WinModal, AFormReleasedWhileItsMessageBoxIsUpIsGoneAfterwards) {
   toolkit->AutoAnswer = false;
+  form->cmdSource.Click = [this] { platform->MessageBox("one", 64, "KESTA"); };
+  Show();
   Later(50, [&] {
     platform->Release(*form);
     const HWND box = FindWindowW(L"#32770", L"KESTA");
     if (box != nullptr) PostMessageW(box, WM_COMMAND, IDOK, 0);
   });
-  form->cmdSource.Click = [this] { platform->MessageBox("one", 64, "KESTA"); };
-  Show();
   Click(form->cmdSource);
   EXPECT_TRUE(form->Released);
   toolkit->AutoAnswer = true;

@@ -5,6 +5,9 @@
 
 namespace Tarnwise {
 
+// The library of the cross compilers has another number for it.
+constexpr IID kAccessible{0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
+
 class WinNames : public WinFormTest {
  protected:
   void SetUp() override { ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))); }
@@ -15,9 +18,9 @@ class WinNames : public WinFormTest {
 
   std::wstring NameOf(const Control& control) const {
     void* found = nullptr;
-    if (FAILED(
-            AccessibleObjectFromWindow(WindowOf(control), static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible, &found)))
-      return L"(no object)";
+    const HRESULT result =
+        AccessibleObjectFromWindow(WindowOf(control), static_cast<DWORD>(OBJID_CLIENT), kAccessible, &found);
+    if (FAILED(result)) return L"no object: " + std::to_wstring(result);
     auto* const object = static_cast<IAccessible*>(found);
     VARIANT self{};
     self.vt = VT_I4;

@@ -60,13 +60,11 @@ TEST_F(WinSync, TheWindowHasTheFormsSizeAndTitle) {
 
 TEST_F(WinSync, TheNewLookIsInUse) {
   Show();
-  HMODULE loaded = nullptr;
-  wchar_t path[MAX_PATH] = {};
+  // The old buttons are the system's own, the new ones the library's of the other controls.
+  HMODULE from = nullptr;
   GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(GetClassLongPtrW(WindowOf(form->tbMoves), GCLP_WNDPROC)), &loaded);
-  (void)path;
-  const HWND bar = WindowOf(form->tbMoves);
-  EXPECT_EQ(SendMessageW(bar, CCM_GETVERSION, 0, 0), 6);
+                     reinterpret_cast<LPCWSTR>(GetClassLongPtrW(WindowOf(form->cmdGo), GCLP_WNDPROC)), &from);
+  EXPECT_EQ(from, GetModuleHandleW(L"comctl32.dll"));
 }
 
 TEST_F(WinSync, EdgesAreRoundedNotSizes) {
@@ -193,7 +191,9 @@ TEST_F(WinSync, ABorderStandsInFrontOfWhatTheBoxContains) {
   form->picRow[0].BackColor = 0xFFFFFF;
   Show();
   EXPECT_NE(PixelAt(form->picRows, 0, 100), RGB(255, 255, 255));
-  EXPECT_EQ(ChildWindowFromPoint(WindowOf(form->picRows), {50, 20}), WindowOf(form->picRow[0]));
+  POINT inside{50, 20};
+  ClientToScreen(WindowOf(form->picRows), &inside);
+  EXPECT_EQ(WindowFromPoint(inside), WindowOf(form->picRow[0]));
 }
 
 }  // namespace Tarnwise

@@ -51,7 +51,7 @@ TEST(KilledWhileSaving, LeavesTheOldModelOrTheNewOneAndNoPart) {
     const std::vector<char> before = FileBytes(path);
     const pid_t child = StartSaving(path);
     ASSERT_GT(child, 0);
-    usleep(random() % 20000);
+    usleep(static_cast<useconds_t>(random() % 20000));
     ASSERT_EQ(kill(child, SIGKILL), 0);
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);

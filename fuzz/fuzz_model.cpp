@@ -38,6 +38,17 @@ void CheckWriter(const WizardData& data) {
   Expect(difference.empty(), "written and read otherwise: " + difference);
 }
 
+// The same file, cut off somewhere: each field is as it was in the whole one, or empty.
+void CheckCut(const WizardData& data, const std::vector<char>& bytes, std::size_t length) {
+  static WizardData cut;
+  ReadModel(cut, {bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)});
+  Expect(cut.NumAtts() == data.NumAtts() || cut.NumAtts() == 0, "a cut file has another number of attributes");
+  Expect(cut.RJType().empty() || cut.RJType() == data.RJType(), "a cut file has other judgments");
+  for (int i = 0; i < kMaxAtts; ++i) {
+    Expect(cut.AttName(i).empty() || cut.AttName(i) == data.AttName(i), "a cut file has another name");
+  }
+}
+
 void CheckFile(const WizardData& data, const std::vector<char>& bytes) {
   static const int file = memfd_create("model", 0);
   static const std::shared_ptr<Platform> screen = MakeHeadlessPlatform();
@@ -62,7 +73,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   ReadModel(data, file);
   // The comparisons take a hundred times as long and more as the reading; the bytes themselves choose which ones are
   // made.
-  const std::uint32_t choice = Checksum(file) % 4096;
+  const std::uint32_t sum = Checksum(file);
+  const std::uint32_t choice = sum % 4096;
+  if (size > 0) CheckCut(data, file, sum % size);
   if (choice < 8) CheckPlainly(data, file);
   if (choice == 8) CheckWriter(data);
   if (choice < 12) CheckFile(data, file);

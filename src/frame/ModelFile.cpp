@@ -287,7 +287,12 @@ void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFi
     return;
   }
   platform.SetPointer(11);
-  ReadModel(data, *bytes);
+  try {
+    ReadModel(data, *bytes);
+  } catch (...) {  // there may be no memory for it
+    platform.SetPointer(0);
+    throw;
+  }
   data.OrderChanged = false;
   data.BRefAttID = 0;
   data.CRefAttID = 0;

@@ -139,8 +139,9 @@ CurvePiece PreparedCurve::PieceAt(Double x) const {
   piece.K = AkimaInterpolate(curve_, i, x);
   piece.Origin = curve_.X[at];
   // The first interval holds its right end too; the outer ones go on beyond the points.
-  piece.From = i == 0 ? -INFINITY : curve_.X[at];
-  piece.Stop = i == curve_.N - 2 ? INFINITY : i == 0 ? std::nextafter(curve_.X[1], INFINITY) : curve_.X[at + 1];
+  const Double second = std::nextafter(curve_.X[1], INFINITY);
+  piece.From = i == 0 ? -INFINITY : i == 1 ? second : curve_.X[at];
+  piece.Stop = i == curve_.N - 2 ? INFINITY : i == 0 ? second : curve_.X[at + 1];
   return piece;
 }
 

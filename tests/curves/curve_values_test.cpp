@@ -156,6 +156,17 @@ TEST(AttValueFunc, WhatAFixedPointNumberDoesNotHoldIsAnOverflow) {
   EXPECT_EQ(ErrorNumber([] { return GetAttValueFunc(FormulaModel(1, 1, 5000, 0, 100), 0, 90.0F); }), 6);
 }
 
+// The second point belongs to the first interval, also for who was in the second one just before.
+TEST(PreparedCurveAtTheSecondPoint, IsTheFirstIntervalsWhereverTheLookUpComesFrom) {
+  Chance chance(11);
+  for (int time = 0; time < 500; ++time) {
+    const Curve curve = chance.AnyCurve(chance.Whole(3, 11), chance.Real(-50.0, 50.0), 0.0, 1.0);
+    PreparedCurve prepared(curve);
+    prepared.ValueAt((curve.X[1] + curve.X[2]) / 2.0);
+    ASSERT_EQ(prepared.ValueAt(curve.X[1]), AkimaInterpolate(curve, -1, curve.X[1])[4]) << "curve " << time;
+  }
+}
+
 TEST(StripTrailingDotOf, ATextThatEndsWithAPoint) {
   EXPECT_EQ(StripTrailingDot("5."), "5");
   EXPECT_EQ(StripTrailingDot("."), "");

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <chrono>
 #include <csignal>
 #include <fstream>
 #include <random>
@@ -45,13 +46,18 @@ TEST(KilledWhileSaving, LeavesTheOldModelOrTheNewOneAndNoPart) {
   const std::vector<char> one = FileBytes(path);
   SaveOnes(path, 0.25);
   const std::vector<char> other = FileBytes(path);
+  const auto began = std::chrono::steady_clock::now();
+  SaveOnes(path, 0.25);
+  const std::chrono::microseconds once =
+      std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - began);
   std::mt19937 random(20261121);
   int replaced = 0;
   for (int time = 0; time < 200; ++time) {
     const std::vector<char> before = FileBytes(path);
     const pid_t child = StartSaving(path);
     ASSERT_GT(child, 0);
-    usleep(random() % 20000);
+    // Anywhere within the first few savings, however long they take on this machine.
+    usleep(static_cast<useconds_t>(random() % static_cast<unsigned long>(3 * once.count() + 1000)));
     ASSERT_EQ(kill(child, SIGKILL), 0);
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);

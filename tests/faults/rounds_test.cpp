@@ -6,7 +6,7 @@
 #include <malloc.h>
 
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // its header is not everywhere
 #endif
 
 namespace Tarnwise {

@@ -8,30 +8,28 @@
 
 namespace Tarnwise {
 
-inline int Whole(int from, int to) { return *rc::gen::inRange(from, to + 1); }
+// Of the whole range from the first case on.
+inline int Whole(int from, int to) { return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(from, to + 1)); }
 
 inline Double Between(Double low, Double high) { return low + (high - low) * Whole(0, 1000000) / 1000000.0; }
 
 // Two decimals, as the boxes of the direct step show them.
 inline Double Hundredths(int from, int to) { return Whole(from, to) / 100.0; }
 
-// Attributes on dense ranks, ties among them, at least one in each group.
+// Attributes on dense ranks, ties among them; at least one cost, and benefits on two ranks, so that there is something
+// to judge.
 inline std::vector<RankedAtt> RandomRanks(int most) {
   std::vector<RankedAtt> atts;
   for (const Group g : {Group::Benefit, Group::Cost}) {
-    const int n = Whole(1, most);
-    const int ranks = Whole(1, n);
+    const int least = g == Group::Benefit ? 2 : 1;
+    const int n = Whole(least, most);
+    const int ranks = Whole(least, n);
     for (int i = 0; i < n; ++i) atts.push_back({g, i < ranks ? i + 1 : Whole(1, ranks)});
   }
-  return *rc::gen::map(rc::gen::container<std::vector<int>>(atts.size(), rc::gen::inRange(0, 1000)),
-                       [atts](const std::vector<int>& keys) {
-                         std::vector<std::pair<int, std::size_t>> order;
-                         for (std::size_t i = 0; i < keys.size(); ++i) order.emplace_back(keys[i], i);
-                         std::sort(order.begin(), order.end());
-                         std::vector<RankedAtt> shuffled;
-                         for (const auto& [key, i] : order) shuffled.push_back(atts[i]);
-                         return shuffled;
-                       });
+  for (std::size_t i = atts.size() - 1; i > 0; --i) {
+    std::swap(atts[i], atts[static_cast<std::size_t>(Whole(0, static_cast<int>(i)))]);
+  }
+  return atts;
 }
 
 inline int AnyOf(const std::vector<RankedAtt>& atts, Group g) {
@@ -59,7 +57,6 @@ inline std::vector<int> Targets(const WizardData& data) {
 
 inline int AnyTarget(const WizardData& data) {
   const std::vector<int> targets = Targets(data);
-  RC_PRE(!targets.empty());
   return targets[static_cast<std::size_t>(Whole(0, static_cast<int>(targets.size()) - 1))];
 }
 

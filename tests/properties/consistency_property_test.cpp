@@ -50,7 +50,7 @@ RC_GTEST_PROP(ConsistencyProperty, LimitsLeaveRoomAfterConsistentJudgments, ()) 
     const Limits limits = LimitsOf(data, target);
     RC_ASSERT(limits.Lower <= limits.Upper);
     const bool above = data.AttO[target] < data.AttO[ReferenceOf(data, target)];
-    RC_ASSERT(above ? limits.Lower >= 1.0 : limits.Upper <= 1.0);
+    RC_ASSERT((above ? limits.Lower >= 1.0 : limits.Upper <= 1.0));
   }
 }
 

@@ -19,8 +19,8 @@ void TakeMessagesUntilQuit() {
 RunScreen OpenScreen(int& /*argc*/, char** /*argv*/, bool com) {
   const auto wait = [] { TakeMessagesUntilQuit(); };
   const auto end = [] { PostQuitMessage(0); };
-  if (!com) return {[] { return HostLinked(MakeWin32Platform()); }, wait, end};
-  const auto apartment = std::make_shared<ComApartment>();
+  const auto apartment = std::make_shared<ComApartment>();  // accessibility wants one, too
+  if (!com) return {[apartment] { return HostLinked(MakeWin32Platform()); }, wait, end};
   return {[apartment] { return HostByCom(nullptr); }, wait, end};
 }
 

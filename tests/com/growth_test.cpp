@@ -61,9 +61,12 @@ constexpr int kRounds = 1000;
 // some dozens of blocks.
 constexpr std::size_t kBlocks = 200;
 constexpr std::size_t kBytes = 65536;
+constexpr std::size_t kLabelBytes = 32;  // at most, in each block that a static control leaves
+constexpr std::size_t kLabels = 3;       // static controls of the first step
 
+// `systems`: blocks that the system's own controls of one round leave behind.
 template <class Round>
-void ExpectNoGrowth(Round round) {
+void ExpectNoGrowth(std::size_t systems, Round round) {
   for (int i = 0; i < kWarmUp; ++i) round();
   const Used before = Now();
   for (int i = 0; i < kRounds; ++i) round();
@@ -76,8 +79,36 @@ void ExpectNoGrowth(Round round) {
   EXPECT_LE(after.UserObjects, before.UserObjects);
   EXPECT_LE(after.NextHandle, before.NextHandle);
   EXPECT_LE(after.Windows, before.Windows);
-  EXPECT_LE(after.HeapBlocks, before.HeapBlocks + kBlocks);
-  EXPECT_LE(after.HeapBytes, before.HeapBytes + kBytes);
+  EXPECT_LE(after.HeapBlocks, before.HeapBlocks + kBlocks + systems * kRounds);
+  EXPECT_LE(after.HeapBytes, before.HeapBytes + kBytes + systems * kRounds * kLabelBytes);
+}
+
+// What one of the system's own static controls leaves behind in this process when it goes: with Wine a small block,
+// which is none of ours. Measured with the component's look, so that it is the same kind of control.
+std::size_t BlocksLeftByALabel() {
+  ACTCTXW context = {};
+  context.cbSize = sizeof context;
+  context.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+  const std::wstring dll = DllPath();
+  context.lpSource = dll.c_str();
+  context.lpResourceName = MAKEINTRESOURCEW(2);
+  const HANDLE look = CreateActCtxW(&context);
+  ULONG_PTR cookie = 0;
+  if (look == INVALID_HANDLE_VALUE || !ActivateActCtx(look, &cookie)) return 0;
+  const auto make = [] {
+    const HWND label =
+        CreateWindowExW(0, L"STATIC", L"x", WS_POPUP | SS_OWNERDRAW, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    SendMessageW(label, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(SYSTEM_FONT)), FALSE);
+    DestroyWindow(label);
+  };
+  constexpr int kTries = 200;
+  for (int i = 0; i < kTries; ++i) make();
+  const std::size_t before = Now().HeapBlocks;
+  for (int i = 0; i < kTries; ++i) make();
+  const std::size_t after = Now().HeapBlocks;
+  DeactivateActCtx(0, cookie);
+  ReleaseActCtx(look);
+  return after <= before ? 0 : (after - before + kTries / 2) / kTries;
 }
 
 ComRef<_TRN_DEA> Made() {
@@ -87,7 +118,9 @@ ComRef<_TRN_DEA> Made() {
 }
 
 TEST(Growth, TheFirstStepOnTheComponentsOwnScreen) {
-  ExpectNoGrowth([] {
+  const std::size_t left = BlocksLeftByALabel();
+  std::cout << "blocks that a static control of the system leaves: " << left << '\n';
+  ExpectNoGrowth(left * kLabels, [] {
     const ComRef<_TRN_DEA> object = Made();
     Sink* const sink = new Sink;
     Advised(object.Get(), *sink);
@@ -100,7 +133,7 @@ TEST(Growth, TheFirstStepOnTheComponentsOwnScreen) {
 }
 
 TEST(Growth, AWholeRunWithItsEventsAndFaults) {
-  ExpectNoGrowth([] {
+  ExpectNoGrowth(0, [] {
     Client client(Judged(kDirectType));
     Sink* const sink = new Sink;
     Advised(client.Object.Get(), *sink);

@@ -247,7 +247,10 @@ bool QtForm::KeyDown(Control& control, QKeyEvent& event) {
   const int shift = ShiftOf(event);
   const QtEntry entry(*form_);
   if (toolkit_.Drag().ByMouse()) {
-    if (code == kKeyEscape) toolkit_.Drag().Cancel();
+    if (code == kKeyEscape) {
+      press_.Refused = true;  // where the button comes up now is no click
+      toolkit_.Drag().Cancel();
+    }
     Settle(nullptr);
     return true;
   }

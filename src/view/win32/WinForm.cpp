@@ -4,6 +4,7 @@
 #include "view/Reach.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinLifetime.h"
+#include "view/win32/WinNames.h"
 #include "view/win32/WinText.h"
 #include "view/win32/WinToolkit.h"
 
@@ -62,6 +63,12 @@ bool HasCaption(const Control& control) {
 bool SaysItsName(const Control& control) {
   return control.Type == Kind::ListBox || control.Type == Kind::TabStrip || control.Type == Kind::Toolbar ||
          control.Type == Kind::VScrollBar;
+}
+
+// Its window text is what it shows, not what it is called.
+bool HasOwnText(const Control& control) {
+  return control.Type == Kind::TextBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
+         control.Type == Kind::OptionButton || control.Type == Kind::CommandButton;
 }
 
 const wchar_t* FormClass() {
@@ -216,6 +223,11 @@ void WinForm::SyncPlace(Control& control, HWND window) {
 }
 
 void WinForm::SyncLook(Control& control, HWND window) {
+  if (HasOwnText(control) && !control.AccessibleName().empty()) {
+    const std::wstring name = Wide(control.AccessibleName);
+    NameWindow(window, name);
+    if (const HWND part = GetWindow(window, GW_CHILD)) NameWindow(part, name);
+  }
   if (SaysItsName(control)) SetText(window, Wide(control.AccessibleName));
   // A caption that is cut short is told by a tip of its own.
   if (!control.ToolTipText().empty() || !HasCaption(control)) SetTip(window, Wide(control.ToolTipText));
@@ -343,6 +355,7 @@ void WinForm::Release() {
 // Windows destroys it: by our own will, or because the host's thread or desktop ends.
 void WinForm::Lost(HWND window) {
   RemoveWindowSubclass(window, OnMessage, kSubclass);
+  ForgetName(window);
   CountWindow(-1);
   controls_.erase(window);
   tipTexts_.erase(window);

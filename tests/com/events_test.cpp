@@ -128,6 +128,7 @@ TEST(Events, EverySinkGetsThemAndSeesWhatTheOneBeforeWrote) {
   second->Release();
 }
 
+#ifdef _WIN64  // with 32 bits an exception of another module can't be caught by anybody but that module
 TEST(Events, ASinkMayThrow) {
   Listening client(Judged(kDirectType));
   client.InEvent = kExportDirectBW;
@@ -136,6 +137,7 @@ TEST(Events, ASinkMayThrow) {
   EXPECT_EQ(client.Listener->Notes.back(), "1(I2 3, BOOL -1)");
   EXPECT_TRUE(Only(client.Notes, "msgbox").empty());
 }
+#endif
 
 TEST(Events, ASinkWithoutTheEventInterfaceIsCalledByNumbers) {
   Client client(ModelOf(1, 1));

@@ -98,18 +98,43 @@ inline void Wait(DWORD milliseconds) {
   Until([] { return false; }, milliseconds);
 }
 
+struct WantedWindow {
+  std::wstring ClassName;
+  HWND Found = nullptr;
+};
+
+inline BOOL CALLBACK LookAt(HWND window, LPARAM wanted) {
+  auto& sought = *reinterpret_cast<WantedWindow*>(wanted);
+  wchar_t name[32] = {};
+  GetClassNameW(window, name, 32);
+  if (sought.ClassName == name) sought.Found = window;
+  return TRUE;
+}
+
+// The thread's top-level window of a class, null when there is none.
+inline HWND ThreadWindow(const wchar_t* className) {
+  WantedWindow wanted{className};
+  EnumThreadWindows(GetCurrentThreadId(), LookAt, reinterpret_cast<LPARAM>(&wanted));
+  return wanted.Found;
+}
+
+inline std::map<UINT_PTR, std::function<void()>>& WaitingByTimer() {
+  static std::map<UINT_PTR, std::function<void()>> waiting;
+  return waiting;
+}
+
+inline void CALLBACK DoLater(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+  KillTimer(nullptr, timer);
+  const auto found = WaitingByTimer().find(timer);
+  if (found == WaitingByTimer().end()) return;
+  const std::function<void()> now = std::move(found->second);
+  WaitingByTimer().erase(found);
+  now();
+}
+
 // Done by the message loop that runs then, a modal form's too.
 inline void Later(UINT milliseconds, std::function<void()> what) {
-  static std::map<UINT_PTR, std::function<void()>> waiting;
-  const auto due = [](HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
-    KillTimer(nullptr, timer);
-    const auto found = waiting.find(timer);
-    if (found == waiting.end()) return;
-    const std::function<void()> now = std::move(found->second);
-    waiting.erase(found);
-    now();
-  };
-  waiting[SetTimer(nullptr, 0, milliseconds, due)] = std::move(what);
+  WaitingByTimer()[SetTimer(nullptr, 0, milliseconds, DoLater)] = std::move(what);
 }
 
 }  // namespace Tarnwise

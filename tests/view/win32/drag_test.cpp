@@ -31,15 +31,8 @@ class WinDragging : public WinFormTest {
   void Press() const { PressAt(WindowOf(form->cmdSource), MiddleOf(WindowOf(form->cmdSource))); }
   // What is carried along, a window of its own.
   static HWND Ghost() {
-    HWND ghost = nullptr;
-    const auto look = [](HWND window, LPARAM found) {
-      wchar_t name[32] = {};
-      GetClassNameW(window, name, 32);
-      if (std::wstring(name) == L"TarnwiseDrag" && IsWindowVisible(window)) *reinterpret_cast<HWND*>(found) = window;
-      return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&ghost));
-    return ghost;
+    const HWND ghost = ThreadWindow(L"TarnwiseDrag");
+    return IsWindowVisible(ghost) != 0 ? ghost : nullptr;
   }
 
   std::pair<Single, Single> at;

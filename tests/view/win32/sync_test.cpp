@@ -14,17 +14,7 @@ class WinSync : public WinFormTest {
   }
   static std::vector<LONG> Sides(const RECT& r) { return {r.left, r.top, r.right - r.left, r.bottom - r.top}; }
 
-  HWND Tips() const {
-    HWND tips = nullptr;
-    const auto look = [](HWND window, LPARAM found) {
-      wchar_t name[32] = {};
-      GetClassNameW(window, name, 32);
-      if (std::wstring(name) == TOOLTIPS_CLASSW) *reinterpret_cast<HWND*>(found) = window;
-      return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), look, reinterpret_cast<LPARAM>(&tips));
-    return tips;
-  }
+  static HWND Tips() { return ThreadWindow(TOOLTIPS_CLASSW); }
   std::wstring TipOf(const Control& control) const {
     wchar_t text[200] = {};
     TTTOOLINFOW tool{};

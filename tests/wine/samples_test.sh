@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: samples_test.sh DLL SCRIPT_HOST SAMPLE_HOST PRESSER    (in a Windows: see with-wine)
 # Registers the component and plays the sample hosts, the script and the program, on a model that is judged already:
-# through all steps to Finish, and out of the second step by Cancel and by the window's close button.
+# through all steps to Finish, and out of the second step by Cancel and by the window's close button. One host is killed.
 set -uo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 samples=$(cd "$here/../../samples" && pwd)
@@ -36,5 +36,12 @@ for host in script program; do
   play "$host, cancelled" "$work/cancelled.expected" "${command[@]}" -- Next Cancel
   play "$host, closed" "$work/cancelled.expected" "${command[@]}" -- Next close
 done
-[ $failed = 0 ] && echo "sample hosts: 6 sessions are well"
+# A host that is killed in the middle leaves no window, and nothing that the next one would stumble over.
+timeout 120 wine "$sample_host" "$work/universities.kst" >"$work/said" &
+timeout 120 wine "$presser" --seconds 20 Next >"$work/pressed" || { echo "killed: it did not begin"; failed=1; }
+timeout 60 wine taskkill /f /im "$(basename "$sample_host")" >/dev/null || { echo "killed: it could not be"; failed=1; }
+wait $!
+timeout 60 wine "$presser" --seconds 3 Cancel >/dev/null && { echo "killed: a window is left"; failed=1; }
+play "after a killed one" "$work/cancelled.expected" "$sample_host" "$work/universities.kst" -- Next Cancel
+[ $failed = 0 ] && echo "sample hosts: 8 sessions are well"
 exit $failed

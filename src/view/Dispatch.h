@@ -5,11 +5,14 @@
 #include "view/Platform.h"
 
 #include <exception>
+#include <new>
 
 namespace Tarnwise {
 
 // "frmDirectB.cmdEnter_Click"
 String HandlerName(const Form& form, const String& control, const char* event);
+
+constexpr int kOutOfMemory = 7;
 
 template <class Body>
 void Dispatch(Control& control, const char* event, Body&& body) {
@@ -21,6 +24,8 @@ void Dispatch(Control& control, const char* event, Body&& body) {
     body();
   } catch (const RuntimeError& error) {
     platform.ReportError(error, error.In.empty() ? HandlerName(*held, name, event) : error.In);
+  } catch (const std::bad_alloc&) {
+    platform.ReportError(RuntimeError(kOutOfMemory), HandlerName(*held, name, event));
   } catch (const std::exception& error) {
     platform.ReportForeignError(error.what(), HandlerName(*held, name, event));
   } catch (...) {  // whatever a host's event handler throws ends here

@@ -253,6 +253,13 @@ TEST(Faults, OfTheHostsOwnCodeAreToldTooAndTheWizardLivesOn) {
   EXPECT_EQ(bench.Notes, Lines{"cmdGo click"});
 }
 
+TEST(Faults, MemoryThatRunsOutIsErrorSevenAndNotTheHosts) {
+  Bench bench;
+  bench.On->cmdGo.Click = [] { throw std::bad_alloc(); };
+  Input::Activate(bench.On->cmdGo);
+  EXPECT_EQ(bench.Notes, Lines{"error 7 in frmBench.cmdGo_Click"});
+}
+
 TEST(Faults, AreAMessageBoxWhereNobodyElseTells) {
   Bench bench;
   bench.Screen->Trace.Failed = nullptr;

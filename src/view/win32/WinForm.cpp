@@ -99,7 +99,7 @@ void WinForm::MakeWindow() {
   const OwnLook look;
   window_ = CreateWindowExW(kFormExStyle, FormClass(), Wide(form_->Caption).c_str(), kFormStyle, 0, 0, 100, 100,
                             nullptr, nullptr, OwnModule(), nullptr);
-  if (window_ == nullptr) throw RuntimeError(7, "Windows has no room for another window");
+  if (window_ == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
   tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0,
                           window_, nullptr, OwnModule(), nullptr);
   SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, 400);
@@ -169,7 +169,7 @@ void WinForm::Make(Control& control) {
   if (kind == nullptr) return;
   if (WindowOf(*control.Parent) == nullptr) SyncControl(*control.Parent);
   const HWND window = kind->Make(*this, control, WindowOf(*control.Parent));
-  if (window == nullptr) throw RuntimeError(7, "Windows has no room for another window");
+  if (window == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
   windows_[&control] = window;
   Watch(window, control);
   SyncPlace(control, window);

@@ -23,6 +23,11 @@ struct DestroyImages {
 };
 using Images = std::unique_ptr<std::remove_pointer_t<HIMAGELIST>, DestroyImages>;
 
+// What a form's window posts to itself.
+constexpr UINT kChoose = WM_APP + 1;     // a drop list has closed over a choice
+constexpr UINT kFocusCame = WM_APP + 2;  // by a way of the platform's own
+constexpr UINT kGivenUp = WM_APP + 3;    // a drop list has closed over none, though it may show where the person was
+
 // The left button is down.
 struct WinPress {
   Control* On = nullptr;

@@ -16,9 +16,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr UINT kChoose = WM_APP + 1;  // a drop list has closed over a choice
-constexpr UINT kFocusCame = WM_APP + 2;
-constexpr UINT kGivenUp = WM_APP + 3;  // it has closed over none, though it may show where the person was in it
 constexpr UINT kDpiChanged = 0x02E0;
 
 // The window does the rest of a press by itself.
@@ -198,106 +195,6 @@ bool WinForm::Wheel(const Control& control, WPARAM wParam) {
     }
   }
   return true;
-}
-
-void WinForm::Clicked(Control& control) {
-  if (press_.On != &control) return;  // not by a person
-  const WinEntry entry(*form_);
-  press_ = {};
-  Input::Activate(control);
-  Settle(nullptr);
-}
-
-void WinForm::RowChosen(Control& control) {
-  const HWND window = WindowOf(control);
-  if (window == nullptr || !IsUsable(control)) return;
-  const WinEntry entry(*form_);
-  Input::SelectRow(control, ChosenRow(control, window));
-  Settle(ControlOf(window));
-}
-
-void WinForm::Scrolled(Control& control, HWND bar, int code) {
-  const WinEntry entry(*form_);
-  auto& record = static_cast<VScrollBar&>(control);
-  if (code == SB_ENDSCROLL) {
-    Settle(&control);
-    return;
-  }
-  const bool dragging = code == SB_THUMBTRACK;
-  const bool dragged = code == SB_THUMBPOSITION;
-  const int value = ScrolledValue(record, bar, code);
-  // What was dragged has told each step by Scroll; its end is a change, too.
-  if (dragged && value == record.Value && record.Change) {
-    Dispatch(record, "Change", [&record] { record.Change(); });
-  } else {
-    Input::ScrollTo(record, value, dragging);
-  }
-  Settle(dragging ? nullptr : ControlOf(bar));
-}
-
-// Messages that children send to what contains them.
-std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lParam) {
-  switch (message) {
-    case WM_COMMAND: return Command(wParam, reinterpret_cast<HWND>(lParam));
-    case WM_VSCROLL: {
-      Control* const bar = ControlOf(reinterpret_cast<HWND>(lParam));
-      if (bar == nullptr || bar->Type != Kind::VScrollBar) return std::nullopt;
-      const auto held = shared_from_this();
-      Scrolled(*bar, reinterpret_cast<HWND>(lParam), LOWORD(wParam));
-      return 0;
-    }
-    case WM_DRAWITEM: {
-      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-      Control* const control = ControlOf(item.hwndItem);
-      const WinKind* const kind = control != nullptr ? KindOf(*control) : nullptr;
-      if (kind == nullptr || kind->Draw == nullptr) return std::nullopt;
-      kind->Draw(*this, *control, item);
-      return TRUE;
-    }
-    case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN: {
-      const auto from = reinterpret_cast<HWND>(lParam);
-      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BorderColour()));
-      const Control* const control = ControlOf(from);
-      if (control == nullptr || control->Type == Kind::TextBox) return std::nullopt;
-      const auto dc = reinterpret_cast<HDC>(wParam);
-      const COLORREF ground = GroundOf(*control);
-      SetBkColor(dc, ground);
-      SetTextColor(dc, InkOn(ground));
-      return reinterpret_cast<LRESULT>(BrushOf(ground));
-    }
-    default: return std::nullopt;
-  }
-}
-
-std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
-  Control* const control = ControlOf(from);
-  if (control == nullptr) return std::nullopt;
-  const auto held = shared_from_this();
-  const int code = HIWORD(wParam);
-  switch (control->Type) {
-    case Kind::CommandButton:
-    case Kind::OptionButton:
-    case Kind::CheckBox:
-      if (code == BN_CLICKED) Clicked(*control);
-      return 0;
-    case Kind::ComboBox:
-    case Kind::ImageCombo:
-      if (code == CBN_SELENDOK) PostMessageW(window_, kChoose, 0, reinterpret_cast<LPARAM>(from));
-      if (code == CBN_SELENDCANCEL) PostMessageW(window_, kGivenUp, 0, reinterpret_cast<LPARAM>(from));
-      return 0;
-    case Kind::Toolbar: {
-      const auto& bar = static_cast<Toolbar&>(*control);
-      const std::size_t button = LOWORD(wParam);
-      if (button == 0 || button > bar.Buttons.size() || press_.On != control) return 0;
-      const WinEntry entry(*form_);
-      press_ = {};
-      Input::PressToolButton(static_cast<Toolbar&>(*control), String(bar.Buttons[button - 1].Key));
-      Settle(nullptr);
-      return 0;
-    }
-    default: return std::nullopt;
-  }
 }
 
 // The rest: painting, the pointer's shape, focus, timers, the window's own buttons.

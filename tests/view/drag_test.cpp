@@ -210,6 +210,24 @@ TEST(KeyboardDrag, GoesToTheTargetsNearestItsSourceFirst) {
   bench.KeyOn(near, kEscape);
 }
 
+TEST(KeyboardDrag, GoesFirstToATargetBesideItsSourceThoughItsContainerIsTheLast) {
+  Dragging bench;
+  PictureBox last(*bench.On, &bench.On->picPanel[0], "picLast");
+  PictureBox beside(*bench.On, &last, "picBeside");
+  CommandButton source(*bench.On, &last, "cmdBeside");
+  Place(last, 7500, 2000, 1200, 1200);
+  Place(beside, 0, 0, 500, 500);
+  Place(source, 600, 0, 500, 300);
+  source.DragAutomatic = true;
+  bench.NoteDrags(beside);
+  bench.KeyOn(source, kSpace);
+  bench.KeyOn(source, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &beside);
+  bench.KeyOn(source, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
+  bench.KeyOn(source, kEscape);
+}
+
 TEST(KeyboardDrag, ComesToTheMiddleOfATargetInItsOwnScale) {
   Dragging bench;
   bench.NoteDrags(bench.On->picGraph);

@@ -100,7 +100,6 @@ void frmIniImpOrder::RestorePanels(Group g) {
   order_.PlacedCount(g) = GroupSize(data_, g);
   for (int row = order_.LoadedRows(g); row < order_.RowCount(g); ++row) {
     PictureBox& made = c.picOrder.Load(row);
-    made.Height = h + kRowPadding;
     SetRank(made, c.lblOrderID.Load(row), row + 1);
   }
   Single top = kFirstRowTop;

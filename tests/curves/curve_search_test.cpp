@@ -129,6 +129,16 @@ TEST(CurvePoints, TwoGiveTheLineThroughThemAndBeyond) {
   EXPECT_DOUBLE_EQ(AkimaInterpolate(line, -1, 130.0)[4], 1.75);
 }
 
+TEST(CurvePoints, TwoAreTheSameLineWhenPreparedToTheLastBit) {
+  const Curve line = CurveThrough({0.1, 0.7}, {0.3, 0.9});
+  PreparedCurve prepared(line);
+  EXPECT_FALSE(prepared.IsAscending());
+  for (int k = -50; k <= 150; ++k) {
+    const Double x = k * 0.01;
+    EXPECT_EQ(prepared.ValueAt(x), AkimaInterpolate(line, -1, x)[4]) << x;
+  }
+}
+
 TEST(CurvePoints, TwoWithAHintGiveNoValue) {
   const Coefs k = AkimaInterpolate(CurveThrough({10, 50}, {0.25, 0.75}), 0, 20.0);
   EXPECT_EQ(k[1], 0.0125);

@@ -344,5 +344,21 @@ TEST(FirstTarget, TakesWhatIsNotBenefitAsCost) {
   EXPECT_EQ(FirstTarget(data), 2);
 }
 
+TEST(Pushing, UpToTheMidpointExactlyLeavesTheMidpointWhereItIs) {
+  WizardData data = RankedData({B(1), B(2), B(3), B(4)}, 3, -1);
+  StoreInterval(data, 0, {0.5, 1.5, 3.0});
+  Judge(data, 1, 1.25, 1.5);
+  PushNeighbours(data, 1);
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.5, 1.5, 3.0}));
+}
+
+TEST(Pushing, DownToTheMidpointExactlyLeavesTheMidpointWhereItIs) {
+  WizardData data = RankedData({B(1), B(2), B(3), B(4)}, 0, -1);
+  StoreInterval(data, 3, {0.25, 0.5, 2.0});
+  Judge(data, 2, 0.5, 0.75);
+  PushNeighbours(data, 2);
+  EXPECT_EQ(IntervalOf(data, 3), (Interval{0.25, 0.5, 0.5}));
+}
+
 }  // namespace
 }  // namespace Tarnwise

@@ -228,6 +228,18 @@ TEST(RankRows, InsertMovesTheSelectedRankAndAllBelowDown) {
   ExpectSelected(o.B, 3);
 }
 
+TEST(RankRows, InsertAtAGrownRowSelectsTheNewRowAtItsOwnHeight) {
+  Ordering o(ModelOf(4, 1));
+  o.Open();
+  o.Place(0, 0);
+  o.Place(1, 0);
+  o.Click("picOrder(0)");
+  o.Click("cmdInsert");
+  EXPECT_EQ(o.B.picOrder[1].Height(), 515.0F);
+  EXPECT_GT(o.B.picOrder[0].Height(), 515.0F);
+  ExpectSelected(o.B, 1);
+}
+
 TEST(RankRows, InsertAtRank1PutsTheNewRowAtTheTop) {
   Ordering o(ModelOf(4, 4));
   o.Open();

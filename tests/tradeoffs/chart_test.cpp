@@ -85,9 +85,14 @@ TEST(ChartPictures, TellThePairsApart) {
   const String cost = shown();
   step.Choose(6);
   const String both = shown();
-  EXPECT_NE(benefit, cost);
-  EXPECT_NE(benefit, both);
-  EXPECT_NE(cost, both);
+  const auto marks = [&chart](int target, int reference) {
+    return chart.imgMarks[target].Picture() + "|" + chart.imgMarks[reference].Picture();
+  };
+  EXPECT_EQ(benefit, marks(0, 1));
+  EXPECT_EQ(cost, marks(2, 3));
+  EXPECT_EQ(both, marks(3, 1));
+  EXPECT_NE(marks(0, 1), marks(2, 1));
+  EXPECT_NE(marks(2, 1), marks(3, 1));
 }
 
 struct Corner {

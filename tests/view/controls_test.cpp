@@ -230,6 +230,29 @@ TEST(Changes, OfADrawingAreToldWhenItIsClearedOrDrawnOn) {
   EXPECT_TRUE(synced.On->picChart.Drawing.empty());
 }
 
+TEST(Changes, OfListsToolbarsAndGridsAreTold) {
+  Synced synced;
+  Toolbar bar(*synced.On, synced.On.get(), "bar");
+  bar.Buttons = {{"up", "", "", true}};
+  ImageCombo combo(*synced.On, synced.On.get(), "combo");
+  Grid grid(*synced.On, synced.On.get(), "grid");
+  const auto told = [&](const std::function<void()>& change) {
+    synced.Screen->SyncAll();
+    synced.Tools->Last.clear();
+    change();
+    synced.Screen->SyncAll();
+    return synced.Tools->Last;
+  };
+  EXPECT_EQ(told([&] { bar.EnableButton(1, false); }), Lines{"bar"});
+  EXPECT_EQ(told([&] { bar.EnableButton(1, false); }), Lines{});
+  EXPECT_EQ(told([&] { combo.Add({"a", "a", "", ""}); }), Lines{"combo"});
+  EXPECT_EQ(told([&] { combo.SetItemText(1, "b"); }), Lines{"combo"});
+  EXPECT_EQ(told([&] { combo.Clear(); }), Lines{"combo"});
+  EXPECT_EQ(told([&] { grid.Shape(2, 3); }), Lines{"grid"});
+  EXPECT_EQ(told([&] { grid.SetCell(0, 0, "x"); }), Lines{"grid"});
+  EXPECT_EQ(told([&] { grid.SetColWidth(0, 100); }), Lines{"grid"});
+}
+
 TEST(Faults, EndTheHandlerWhereItStandsAndSetThePointerBack) {
   Bench bench;
   bench.On->cmdGo.Click = [&] {

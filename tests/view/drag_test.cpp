@@ -122,6 +122,18 @@ TEST(DragTarget, IsNeverBehindThePanelInFront) {
   EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), bench.On.get());
 }
 
+TEST(DragTarget, IsNeverALineOrATimer) {
+  Dragging bench;
+  Line line(*bench.On, &bench.On->picPanel[0], "line");
+  Place(line, 100, 100, 500, 500);
+  Place(bench.On->tmrBlink, 100, 600, 500, 500);
+  const Control* const without = DragTargetAt(*bench.On, 200, 700);
+  bench.NoteDrags(line);
+  bench.NoteDrags(bench.On->tmrBlink);
+  EXPECT_EQ(DragTargetAt(*bench.On, 200, 700), without);
+  EXPECT_EQ(DragTargetAt(*bench.On, 200, 1050), without);
+}
+
 TEST(DragTarget, IsNotWhatAViewportClips) {
   Dragging bench;
   const Rect row = PlaceOnForm(bench.On->picRow[3]);
@@ -180,6 +192,53 @@ TEST(KeyboardDrag, GoesAcrossToTheFirstTargetOfAnotherContainer) {
   EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
   bench.KeyOn(bench.On->cmdSource, kLeft);
   EXPECT_EQ(bench.Drag().Target(), &other);
+}
+
+TEST(KeyboardDrag, GoesToTheTargetsNearestItsSourceFirst) {
+  Dragging bench;
+  PictureBox other(*bench.On, &bench.On->picPanel[0], "picOther");
+  Place(other, 8000, 2000, 500, 500);
+  bench.NoteDrags(other);
+  CommandButton near(*bench.On, &bench.On->picContent, "cmdNear");
+  Place(near, 0, 2400, 500, 300);
+  near.DragAutomatic = true;
+  bench.KeyOn(near, kSpace);
+  bench.KeyOn(near, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
+  for (int i = 0; i < 4; ++i) bench.KeyOn(near, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &other);
+  bench.KeyOn(near, kEscape);
+}
+
+TEST(KeyboardDrag, GoesFirstToATargetBesideItsSourceThoughItsContainerIsTheLast) {
+  Dragging bench;
+  PictureBox last(*bench.On, &bench.On->picPanel[0], "picLast");
+  PictureBox beside(*bench.On, &last, "picBeside");
+  CommandButton source(*bench.On, &last, "cmdBeside");
+  Place(last, 7500, 2000, 1200, 1200);
+  Place(beside, 0, 0, 500, 500);
+  Place(source, 600, 0, 500, 300);
+  source.DragAutomatic = true;
+  bench.NoteDrags(beside);
+  bench.KeyOn(source, kSpace);
+  bench.KeyOn(source, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &beside);
+  bench.KeyOn(source, kDown);
+  EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
+  bench.KeyOn(source, kEscape);
+}
+
+TEST(KeyboardDrag, ComesToTheMiddleOfATargetInItsOwnScale) {
+  Dragging bench;
+  bench.NoteDrags(bench.On->picGraph);
+  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kUp);
+  EXPECT_EQ(Only(bench.Notes, "picGraph enter"), Lines{"picGraph enter cmdSource 140,133"});
+  bench.KeyOn(bench.On->cmdSource, kRight);
+  EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
+  bench.TakeNotes();
+  bench.KeyOn(bench.On->cmdSource, kRight);
+  EXPECT_EQ(Only(bench.Notes, "picGraph enter"), Lines{"picGraph enter cmdSource 140,133"});
 }
 
 TEST(KeyboardDrag, IsGivenUpByEscape) {

@@ -23,6 +23,20 @@ TEST(Place, IsSeenAsFarAsTheViewportsLetIt) {
   EXPECT_EQ(VisiblePlace(bench.On->picRow[0]).H, 200.0F);
 }
 
+TEST(Place, IsSeenInBothDirectionsWithinItsContainersAndNotOutsideThem) {
+  Bench bench;
+  Label label(*bench.On, &bench.On->picContent, "label");
+  const auto seen = [&](Single left, Single top, Single width, Single height) {
+    Place(label, left, top, width, height);
+    const Rect place = VisiblePlace(label);
+    return std::vector<Single>{place.X, place.Y, place.W, place.H};
+  };
+  EXPECT_EQ(seen(200, 300, 100, 50), (std::vector<Single>{300, 2800, 100, 50}));
+  EXPECT_EQ(seen(1500, 1000, 5000, 6000), (std::vector<Single>{1600, 3500, 500, 200}));
+  EXPECT_EQ(seen(-70, -80, 100, 100), (std::vector<Single>{100, 2500, 30, 20}));
+  EXPECT_EQ(seen(3000, 2000, 100, 100), (std::vector<Single>{3100, 4500, 0, 0}));
+}
+
 TEST(Refusal, SaysWhyAPersonCannot) {
   Bench bench;
   CommandButton& button = bench.On->cmdGo;
@@ -111,6 +125,58 @@ TEST(ModalCall, GoesOnBlockingForAFormThatIsMadeVisibleAgain) {
              [&] { EXPECT_TRUE(returned); }});
   EXPECT_TRUE(returned);
   EXPECT_FALSE(bench.StepsLeft());
+}
+
+TEST(ActiveForm, IsTheOuterModalOneAsSoonAsTheInnerIsHidden) {
+  Bench bench;
+  const auto outer = std::make_shared<BenchForm>(bench.Screen);
+  const auto inner = std::make_shared<BenchForm>(bench.Screen);
+  for (const auto& form : {outer, inner}) bench.Screen->Created(*form);
+  bool asked = false;
+  bench.Run({[&] { bench.Screen->ShowModal(*outer); }, [&] { bench.Screen->ShowModal(*inner); },
+             [&] {
+               asked = true;
+               EXPECT_EQ(bench.Screen->ActiveForm(), inner.get());
+               bench.Screen->Hide(*inner);
+               EXPECT_EQ(bench.Screen->ActiveForm(), outer.get());
+               bench.Screen->Hide(*outer);
+               EXPECT_EQ(bench.Screen->ActiveForm(), bench.On.get());
+             }});
+  EXPECT_TRUE(asked);
+}
+
+TEST(ModalCall, OfAFormThatIsVisibleAlreadyBlocksAndTellsOfNoShowing) {
+  Bench bench;
+  bool returned = false;
+  bench.Run({[&] {
+               bench.Screen->ShowModal(*bench.On);
+               returned = true;
+             },
+             [&] {
+               EXPECT_FALSE(returned);
+               EXPECT_TRUE(bench.Screen->IsModal(*bench.On));
+               bench.Screen->Hide(*bench.On);
+             }});
+  EXPECT_TRUE(returned);
+  EXPECT_EQ(bench.Notes, Lines{"hide frmBench"});
+}
+
+struct Watching : HeadlessToolkit {
+  Lines Calls;
+  void Show(Form& form, bool modal) override { Calls.push_back("show " + form.Name + (modal ? " modal" : "")); }
+  void Hide(Form& form) override { Calls.push_back("hide " + form.Name); }
+  void Release(Form& form) override { Calls.push_back("release " + form.Name); }
+};
+
+TEST(Showing, HidingAndReleasingReachTheToolkit) {
+  const auto tools = std::make_shared<Watching>();
+  const auto screen = std::make_shared<Platform>(tools);
+  const auto form = std::make_shared<BenchForm>(screen);
+  screen->Created(*form);
+  screen->Show(*form);
+  screen->Hide(*form);
+  screen->Release(*form);
+  EXPECT_EQ(tools->Calls, (Lines{"show frmBench", "hide frmBench", "release frmBench"}));
 }
 
 TEST(Showing, AVisibleFormAgainOrHidingAHiddenOneTellsNothing) {

@@ -78,5 +78,32 @@ TEST(WizardData, AnEmptyGroupsReferenceIsNotTheFirstAttribute) {
       << "attribute 0 is a target like any other";
 }
 
+TEST(References, OfAGroupWithoutAttributesAreNoAttribute) {
+  WizardData data = ModelOf(0, 3);
+  data.CRankCount = 3;
+  data.CRefAttID = 2;
+  EXPECT_FALSE(IsReference(data, 0));
+  EXPECT_TRUE(IsReference(data, 2));
+  EXPECT_FALSE(IsReferencePair(data, 2, 0));
+
+  WizardData benefits = ModelOf(3, 0);
+  benefits.BRankCount = 3;
+  benefits.BRefAttID = 2;
+  EXPECT_FALSE(IsReference(benefits, 0));
+  EXPECT_TRUE(IsReference(benefits, 2));
+  EXPECT_FALSE(IsReferencePair(benefits, 0, 2));
+}
+
+TEST(References, AreAPairWhereBothGroupsHaveThem) {
+  WizardData data = ModelOf(2, 2);
+  data.BRankCount = data.CRankCount = 2;
+  data.BRefAttID = 1;
+  data.CRefAttID = 2;
+  EXPECT_TRUE(IsReferencePair(data, 2, 1));
+  EXPECT_FALSE(IsReferencePair(data, 1, 2));
+  EXPECT_FALSE(IsReferencePair(data, 2, 0));
+  EXPECT_FALSE(IsReferencePair(data, 3, 1));
+}
+
 }  // namespace
 }  // namespace Tarnwise

@@ -1,0 +1,121 @@
+// The keyboard on lists, tabs and scroll bars; what a person's typing leaves in a box.
+#include "view/Bench.h"
+
+#include <gtest/gtest.h>
+
+namespace Tarnwise {
+namespace {
+
+enum KeyCode { kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
+
+struct Lists : Bench {
+  ~Lists() { Screen->Release(*On); }
+  bool Key(Control& control, int code) { return Input::ControlKey(control, code, 0); }
+};
+
+TEST(ListKeys, ChooseTheItemsOfAnImageComboFromOne) {
+  Lists lists;
+  ImageCombo combo(*lists.On, lists.On.get(), "combo");
+  for (const char* const name : {"a", "b", "c"}) combo.Add({name, name, "", ""});
+  combo.SelectedItem = 2;
+  combo.Click = [&] { lists.Notes.push_back(std::to_string(combo.SelectedItem())); };
+  for (const int code : {kDown, kRight, kUp, kLeft, kLeft, kEnd, kHome}) EXPECT_TRUE(lists.Key(combo, code));
+  EXPECT_EQ(lists.Notes, (Lines{"3", "2", "1", "3", "1"}));
+}
+
+TEST(ListKeys, ChooseTheTabsOfAStripFromOne) {
+  Lists lists;
+  TabStrip strip(*lists.On, lists.On.get(), "strip");
+  strip.Tabs = {{"One", "one"}, {"Two", "two"}};
+  strip.Click = [&] { lists.Notes.push_back(std::to_string(strip.SelectedItem())); };
+  for (const int code : {kUp, kRight, kDown, kHome, kEnd}) EXPECT_TRUE(lists.Key(strip, code));
+  EXPECT_EQ(lists.Notes, (Lines{"2", "1", "2"}));
+}
+
+TEST(ListKeys, ChooseTheRowsOfAComboBoxFromNought) {
+  Lists lists;
+  ComboBox box(*lists.On, lists.On.get(), "box");
+  box.List = std::vector<String>{"3.33", "2.50", "2.00"};
+  box.ListIndex = 0;
+  box.Click = [&] { lists.Notes.push_back(std::to_string(box.ListIndex())); };
+  for (const int code : {kUp, kDown, kEnd, kDown, kHome}) EXPECT_TRUE(lists.Key(box, code));
+  EXPECT_EQ(lists.Notes, (Lines{"1", "2", "0"}));
+}
+
+TEST(ListKeys, ChooseNothingInAnEmptyList) {
+  Lists lists;
+  ImageCombo combo(*lists.On, lists.On.get(), "combo");
+  combo.Click = [&] { lists.Notes.emplace_back("click"); };
+  for (const int code : {kUp, kDown, kHome, kEnd}) EXPECT_TRUE(lists.Key(combo, code));
+  EXPECT_EQ(combo.SelectedItem(), 0);
+  EXPECT_EQ(lists.Notes, Lines{});
+}
+
+TEST(ImageCombo, ClearedHasNoItemAndNoSelection) {
+  Lists lists;
+  ImageCombo combo(*lists.On, lists.On.get(), "combo");
+  combo.Add({"a", "a", "", ""});
+  combo.SelectedItem = 1;
+  combo.Clear();
+  EXPECT_TRUE(combo.Items.empty());
+  EXPECT_EQ(combo.SelectedItem(), 0);
+}
+
+TEST(ListKeys, LeaveAllOtherKeysAlone) {
+  Lists lists;
+  lists.On->lstRows.ListIndex = 1;
+  for (const int code : {33, 34, 41, 97}) EXPECT_FALSE(lists.Key(lists.On->lstRows, code)) << code;
+  EXPECT_EQ(lists.On->lstRows.ListIndex(), 1);
+  EXPECT_FALSE(lists.Key(lists.On->lblText, kDown));
+  EXPECT_FALSE(lists.Key(lists.On->picContent, 32));
+}
+
+TEST(SelectRow, OfWhatHasNoRowsDoesNothing) {
+  Lists lists;
+  lists.NoteClicks();
+  Input::SelectRow(lists.On->cmdGo, 1);
+  EXPECT_EQ(lists.Notes, Lines{});
+}
+
+TEST(ScrollKeys, EachGoItsWayAndOthersAreLeftAlone) {
+  Lists lists;
+  VScrollBar& bar = lists.On->vsrBar;
+  bar.Min = 10;
+  bar.Max = 1000;
+  bar.SmallChange = 7;
+  bar.LargeChange = 100;
+  const auto after = [&](int code) {
+    bar.SetValue(500);
+    EXPECT_TRUE(lists.Key(bar, code));
+    return bar.Value();
+  };
+  EXPECT_EQ(after(kUp), 493);
+  EXPECT_EQ(after(kLeft), 493);
+  EXPECT_EQ(after(kDown), 507);
+  EXPECT_EQ(after(kRight), 507);
+  EXPECT_EQ(after(kPageUp), 400);
+  EXPECT_EQ(after(kPageDown), 600);
+  EXPECT_EQ(after(kHome), 10);
+  EXPECT_EQ(after(kEnd), 1000);
+  EXPECT_FALSE(lists.Key(bar, 32));
+  EXPECT_FALSE(lists.Key(bar, 41));
+}
+
+TEST(Typing, TakesTheCaretAndTellsOfAnotherTextOnly) {
+  Lists lists;
+  TextBox& box = lists.On->txtFirst;
+  box.SetText("abc");
+  box.SelLength = 2;
+  box.Change = [&] { lists.Notes.push_back(box.Text()); };
+  Input::TextEdited(box, "abc", 2);
+  EXPECT_EQ(box.SelStart(), 2);
+  EXPECT_EQ(box.SelLength(), 0);
+  EXPECT_EQ(lists.Notes, Lines{});
+  Input::TextEdited(box, "abxc", 3);
+  EXPECT_EQ(box.SelStart(), 3);
+  EXPECT_EQ(box.Text(), "abxc");
+  EXPECT_EQ(lists.Notes, Lines{"abxc"});
+}
+
+}  // namespace
+}  // namespace Tarnwise

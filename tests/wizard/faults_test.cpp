@@ -98,7 +98,8 @@ TEST(Faults, InAHandlerEndTheHandlerAndNothingElse) {
                                 host.Click("cmdAttButtons(1)");
                                 EXPECT_EQ(host.Notes, Lines({"error 9 in frmIniImpOrder.cmdAttButtons_Click"}));
                                 EXPECT_EQ(host.Active(), "frmIniImpOrder");
-                                EXPECT_EQ(host.Screen->HandlerDepth, 0) << "the handler that shows the form waits and does not count";
+                                EXPECT_EQ(host.Screen->HandlerDepth, 0)
+                                    << "the handler that shows the form waits and does not count";
                                 asked = true;
                               },
                               host.Clicks("cmdCancel")}));

@@ -104,6 +104,27 @@ bool TakesFocus(const Control& control) {
 
 bool TakesTab(const Control& control) { return TakesFocus(control) || control.Type == Kind::Toolbar; }
 
+bool HasCaption(const Control& control) {
+  return control.Type == Kind::Label || control.Type == Kind::CommandButton || control.Type == Kind::OptionButton ||
+         control.Type == Kind::CheckBox;
+}
+
+bool HasRows(const Control& control) { return control.Type == Kind::ListBox || control.Type == Kind::TabStrip; }
+
+bool AnswersKeys(const Control& control) {
+  return control.Type == Kind::ListBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
+         control.Type == Kind::Grid;
+}
+
+Control* LabelledBy(const Label& label) {
+  bool behind = false;
+  for (Control* control : label.Owner.Controls()) {
+    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
+    if (control == &label) behind = true;
+  }
+  return nullptr;
+}
+
 String Refusal(const Control& control) {
   const Form& form = control.Owner;
   if (!IsOnScreen(control)) return "hidden";

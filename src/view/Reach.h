@@ -30,6 +30,15 @@ bool IsCovered(const Control& control);   // a panel stands in front of it or of
 bool TakesFocus(const Control& control);  // by its kind, from a press
 bool TakesTab(const Control& control);    // Tab also goes to toolbars, whose buttons a press leaves without the focus
 
+// What toolkits ask of a kind: a caption that is cut where there is no room, rows of which a press chooses one, keys
+// that the native control may answer when the tree has no use for them.
+bool HasCaption(const Control& control);
+bool HasRows(const Control& control);
+bool AnswersKeys(const Control& control);
+
+// The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
+Control* LabelledBy(const Label& label);
+
 // Why a person can't act on the control now: "hidden", "disabled", "covered", "blocked by a modal form"; empty: can.
 String Refusal(const Control& control);
 

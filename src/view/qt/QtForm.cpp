@@ -58,11 +58,6 @@ void SetCursorOf(QWidget& widget, const Control& control) {
   if (widget.cursor().shape() != shape) widget.setCursor(shape);
 }
 
-bool ElidesItsText(const Control& control) {
-  return control.Type == Kind::Label || control.Type == Kind::CommandButton || control.Type == Kind::OptionButton ||
-         control.Type == Kind::CheckBox;
-}
-
 }  // namespace
 
 void SetFullText(QWidget& widget, const Control& control, const QString& text, bool cut) {
@@ -157,7 +152,7 @@ void QtForm::SyncPlace(Control& control, QWidget& widget) {
 }
 
 void QtForm::SyncLook(Control& control, QWidget& widget) {
-  if (!ElidesItsText(control)) SetFullText(widget, control, {}, false);
+  if (!HasCaption(control)) SetFullText(widget, control, {}, false);
   SetName(widget, control);
   SetCursorOf(widget, control);
   if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) widget.setEnabled(control.Enabled);

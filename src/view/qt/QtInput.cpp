@@ -39,8 +39,6 @@ bool FollowsMouse(const Control& control) {
   }
 }
 
-bool HasRows(const Control& control) { return control.Type == Kind::ListBox || control.Type == Kind::TabStrip; }
-
 // In the control's own numbers, -1 where there is none.
 int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
   if (control.Type == Kind::ListBox) return static_cast<const QListWidget&>(widget).indexAt(at).row();
@@ -53,12 +51,6 @@ int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
 QPointF InWindow(const QObject& object, const QMouseEvent& event) {
   const auto& widget = static_cast<const QWidget&>(object);
   return widget.mapTo(widget.window(), event.position());
-}
-
-// Keys that the widget may answer when the tree has no use for them.
-bool AnswersKeys(const Control& control) {
-  return control.Type == Kind::ListBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
-         control.Type == Kind::Grid;
 }
 
 }  // namespace

@@ -37,9 +37,6 @@ extern const QtKind kQtScrollBar;
 extern const QtKind kQtPictureBox;
 extern const QtKind kQtShape;
 
-// The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
-Control* LabelledBy(const Label& label);
-
 // Text that is elided in its widget is told in full by the tool tip, unless the control has one of its own.
 void SetFullText(QWidget& widget, const Control& control, const QString& text, bool cut);
 

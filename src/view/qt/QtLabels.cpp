@@ -176,15 +176,6 @@ void SyncFrame(QtForm& /*form*/, Control& control, QWidget& widget) {
 
 }  // namespace
 
-Control* LabelledBy(const Label& label) {
-  bool behind = false;
-  for (Control* control : label.Owner.Controls()) {
-    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
-    if (control == &label) behind = true;
-  }
-  return nullptr;
-}
-
 const QtKind kQtLabel{MakeLabel, SyncLabel};
 const QtKind kQtImage{MakeImage, SyncImage};
 const QtKind kQtFrame{MakeFrame, SyncFrame};

@@ -54,11 +54,6 @@ RECT WorkAreaOf(HWND window) {
   return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
-bool HasCaption(const Control& control) {
-  return control.Type == Kind::Label || control.Type == Kind::CommandButton || control.Type == Kind::OptionButton ||
-         control.Type == Kind::CheckBox;
-}
-
 // Its window's text is not seen, and read by a screen reader.
 bool SaysItsName(const Control& control) {
   return control.Type == Kind::ListBox || control.Type == Kind::TabStrip || control.Type == Kind::Toolbar ||

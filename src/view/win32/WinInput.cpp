@@ -35,8 +35,6 @@ bool FollowsMouse(const Control& control) {
   }
 }
 
-bool HasRows(const Control& control) { return control.Type == Kind::ListBox || control.Type == Kind::TabStrip; }
-
 POINT PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
 POINT Mapped(HWND from, HWND to, POINT at) {

@@ -21,12 +21,6 @@ int ShiftNow() {
   return (down(VK_SHIFT) ? 1 : 0) | (down(VK_CONTROL) ? 2 : 0) | (down(VK_MENU) ? 4 : 0);
 }
 
-// Keys that the window may answer when the tree has no use for them.
-bool AnswersKeys(const Control& control) {
-  return control.Type == Kind::ListBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
-         control.Type == Kind::Grid;
-}
-
 bool IsModifier(WPARAM code) {
   return code == VK_SHIFT || code == VK_CONTROL || code == VK_MENU || code == VK_LWIN || code == VK_RWIN ||
          code == VK_CAPITAL || code == VK_NUMLOCK;

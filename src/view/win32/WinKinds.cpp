@@ -50,13 +50,4 @@ void UseBaseFont(const WinForm& form, HWND window) {
   SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-Control* LabelledBy(const Label& label) {
-  bool behind = false;
-  for (Control* control : label.Owner.Controls()) {
-    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
-    if (control == &label) behind = true;
-  }
-  return nullptr;
-}
-
 }  // namespace Tarnwise

@@ -44,9 +44,6 @@ HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyl
 // The form's font, in the size of the present scale.
 void UseBaseFont(const WinForm& form, HWND window);
 
-// The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
-Control* LabelledBy(const Label& label);
-
 // The number of the row chosen in a native list, in the control's own numbers.
 int ChosenRow(const Control& control, HWND window);
 int RowAt(const Control& control, HWND window, POINT at);  // of a list box or a tab strip; -1 where there is none

@@ -6,8 +6,9 @@ target_compile_options(tarnwise_options INTERFACE
 # GCC 12 sees overlaps in std::string's own concatenation where there are none (its bug 105651).
 target_compile_options(tarnwise_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(TARNWISE_SANITIZE)
-  target_compile_options(tarnwise_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(tarnwise_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(tarnwise_options INTERFACE
+    -fsanitize=${TARNWISE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarnwise_options INTERFACE -fsanitize=${TARNWISE_SANITIZE})
 endif()
 if(TARNWISE_FUZZ)
   # Without the tracing of comparisons: it halves the speed, and the dictionaries name what it would find.

@@ -16,9 +16,9 @@ Single Whole(Single x) { return static_cast<Single>(RoundHalfEven(static_cast<Do
 }  // namespace
 
 ChartPoint RatioToPoint(Double ratio) {
-  if (ratio == 1.0) return {kChartSize / 2.0F, kChartSize / 2.0F};
   if (ratio > 1.0) return {static_cast<Single>(kLongSide / ratio), static_cast<Single>(kSide - kLongSide)};
-  return {static_cast<Single>(kLongSide), static_cast<Single>(kSide - kLongSide * ratio)};
+  if (ratio < 1.0) return {static_cast<Single>(kLongSide), static_cast<Single>(kSide - kLongSide * ratio)};
+  return {kChartSize / 2.0F, kChartSize / 2.0F};
 }
 
 Double PointToRatio(Single x, Single y) { return Divide(kSide - static_cast<Double>(y), static_cast<Double>(x)); }

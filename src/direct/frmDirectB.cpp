@@ -93,6 +93,7 @@ void frmDirectB::BuildAttributeButtons() {
     button.Tag = (benefit ? "A" : "C") + std::to_string(i);
     button.BackColor = benefit ? kBenefitColour : kCostColour;
     button.TabIndex = -1;  // only to look at
+    button.Top = order.cmdAttButtons[0].Top + static_cast<Single>(k) * (button.Height + 30.0F);
   }
 }
 
@@ -248,7 +249,7 @@ void frmDirectB::ResetJudgments() {
   SetDefaultIntervals(data_);
   FillTargetList();
   ShowDefaultRegion(mTargetAtt);
-  ShowOrderPanel();
+  if (tsTab.SelectedItem == 1) ShowOrderPanel();  // else the ranges stay in front
   Screen().SetPointer(0);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "view/Form.h"
+#include "view/Reach.h"
 
 #include <functional>
 #include <memory>
@@ -31,7 +32,8 @@ class Driver {
   virtual void Focus(Control& control) = 0;  // in a text box the caret stands at the end
   virtual void Key(Form& form, const KeyStroke& key) = 0;
   virtual void Grab(Control& source) = 0;
-  virtual void Over(Control& target, Single x, Single y) = 0;  // in the target's scale
+  virtual void Over(Control& target, ControlPoint at) = 0;
+  virtual void OverNothing() = 0;  // that takes drags
   virtual void Drop() = 0;
   virtual void Scroll(VScrollBar& bar, int value) = 0;
   virtual void Tick(Timer& timer) = 0;

@@ -39,7 +39,8 @@ class HeadlessDriver : public Driver {
   void Key(Form& form, const KeyStroke& key) override { TypeKey(form, key.Code, key.Character, key.Shift); }
 
   void Grab(Control& source) override { screen_->Drag.Begin(source); }
-  void Over(Control& target, Single x, Single y) override { screen_->Drag.Over(target, x, y); }
+  void Over(Control& target, ControlPoint at) override { screen_->Drag.Over(target, at.X, at.Y); }
+  void OverNothing() override { screen_->Drag.OverNothing(); }
   void Drop() override { screen_->Drag.Drop(); }
 
   void Scroll(VScrollBar& bar, int value) override {

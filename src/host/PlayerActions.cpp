@@ -14,14 +14,8 @@ namespace {
 
 struct Spot {
   Control* Target = nullptr;
-  Single X = 0.0F;
-  Single Y = 0.0F;
+  ControlPoint At;
 };
-
-Spot InScaleOf(Control& target, Single x, Single y) {
-  const Rect place = PlaceOnForm(target);
-  return {&target, (x - place.X) / UnitOf(target), (y - place.Y) / UnitOf(target)};
-}
 
 bool IsWithin(const Control& control, const Control& container) {
   for (const Control* c = control.Parent; c != nullptr; c = c->Parent) {
@@ -33,25 +27,22 @@ bool IsWithin(const Control& control, const Control& container) {
 // The point of a control that a pointer is brought to: its middle, or another one that nothing covers.
 Spot FreeSpot(Control& named, Control& target) {
   const Rect place = PlaceOnForm(named);
-  const Single fractions[] = {0.5F, 0.25F, 0.75F, 0.05F, 0.95F, 0.01F, 0.99F};
-  for (const Single fy : fractions) {
-    for (const Single fx : fractions) {
-      const Single x = place.X + place.W * fx;
-      const Single y = place.Y + place.H * fy;
-      if (DragTargetAt(named.Owner, x, y) == &target) return InScaleOf(target, x, y);
+  for (const Double fy : {0.5, 0.25, 0.75, 0.05, 0.95, 0.01, 0.99}) {
+    for (const Double fx : {0.5, 0.25, 0.75, 0.05, 0.95, 0.01, 0.99}) {
+      const FormPoint at{place.X + place.W * fx, place.Y + place.H * fy};
+      if (DragTargetAt(named.Owner, at) == &target) return {&target, InScaleOf(target, at)};
     }
   }
-  return InScaleOf(target, place.X + place.W / 2.0F, place.Y + place.H / 2.0F);
+  return {&target, InScaleOf(target, MiddleOnForm(named))};
 }
 
 // A point that the script names. What the target itself contains may stand over it there and is met then.
-Spot NamedSpot(Control& named, Control& target, Single x, Single y) {
-  const Rect place = PlaceOnForm(named);
-  const Single fx = place.X + x * UnitOf(named);
-  const Single fy = place.Y + y * UnitOf(named);
-  Control* const hit = DragTargetAt(named.Owner, fx, fy);
-  const bool met = hit != nullptr && place.Contains(fx, fy) && IsWithin(*hit, target);
-  return InScaleOf(met ? *hit : target, fx, fy);
+Spot NamedSpot(Control& named, Control& target, ControlPoint point) {
+  const FormPoint at = OnForm(named, point);
+  Control* const hit = DragTargetAt(named.Owner, at);
+  const bool met = hit != nullptr && PlaceOnForm(named).Contains(at.X, at.Y) && IsWithin(*hit, target);
+  Control* const found = met ? hit : &target;
+  return {found, InScaleOf(*found, at)};
 }
 
 std::optional<KeyStroke> StrokeOf(const String& name) {
@@ -212,14 +203,17 @@ void Player::Grab(const String& name) {
 void Player::Over(const std::vector<String>& words, std::size_t first) {
   const std::size_t count = words.size() - first;
   if (count != 1 && count != 3) throw ScriptFault("a target stands alone or with its X and Y");
-  std::optional<std::pair<Single, Single>> point;
-  if (count == 3) point = std::pair(ScaleNumber(words[first + 1]), ScaleNumber(words[first + 2]));
+  std::optional<ControlPoint> point;
+  if (count == 3) point = ControlPoint{ScaleNumber(words[first + 1]), ScaleNumber(words[first + 2])};
   if (!screen_->Drag.Active()) throw Refused("nothing is being dragged");
   Control& named = Usable(words[first]);
   Control* const target = DragTargetFor(named);
-  if (target == nullptr) throw Refused(words[first] + ": takes no drags");
-  const Spot spot = point ? NamedSpot(named, *target, point->first, point->second) : FreeSpot(named, *target);
-  driver_.Over(*spot.Target, spot.X, spot.Y);
+  if (target == nullptr) {
+    driver_.OverNothing();
+    return;
+  }
+  const Spot spot = point ? NamedSpot(named, *target, *point) : FreeSpot(named, *target);
+  driver_.Over(*spot.Target, spot.At);
 }
 
 void Player::Drag(const std::vector<String>& words) {

@@ -113,21 +113,20 @@ class QtDriver : public Driver {
     toolkit_->Drag().Begin();  // the first move may be as near as it likes
   }
 
-  void Over(Control& target, Single x, Single y) override {
-    const Rect place = PlaceOnForm(target);
-    const Single unit = UnitOf(target);
-    const Single formX = place.X + x * unit;
-    const Single formY = place.Y + y * unit;
-    if (grabbed_.isNull() || DragTargetAt(target.Owner, formX, formY) != &target) {
-      screen_->Drag.Over(target, x, y);  // clipped by a viewport, or another one of the row stands in front
+  void Over(Control& target, ControlPoint at) override {
+    const FormPoint onForm = OnForm(target, at);
+    if (grabbed_.isNull() || DragTargetAt(target.Owner, onForm) != &target) {
+      screen_->Drag.Over(target, at.X, at.Y);  // clipped by a viewport, or another one of the row stands in front
       return;
     }
-    const QPointF inWindow(static_cast<double>(formX) / 15.0, static_cast<double>(formY) / 15.0);
+    const QPointF inWindow(onForm.X / 15.0, onForm.Y / 15.0);
     const QPointF global = WidgetOf(target.Owner)->mapToGlobal(inWindow);
     QMouseEvent move(QEvent::MouseMove, grabbed_->mapFromGlobal(global), global, Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
     QCoreApplication::sendEvent(grabbed_, &move);
   }
+
+  void OverNothing() override { screen_->Drag.OverNothing(); }
 
   void Drop() override {
     if (grabbed_.isNull()) {

@@ -156,24 +156,26 @@ class Win32Driver : public Driver {
     toolkit_.Drag().Begin();  // the first move may be as near as it likes
   }
 
-  void Over(Control& target, Single x, Single y) override {
-    const Rect place = PlaceOnForm(target);
-    const Single unit = UnitOf(target);
-    const Single formX = place.X + x * unit;
-    const Single formY = place.Y + y * unit;
+  void Over(Control& target, ControlPoint at) override {
+    const FormPoint onForm = OnForm(target, at);
     WinForm* const shown = toolkit_.FormOf(target.Owner);
-    if (grabbed_ == nullptr || shown == nullptr || DragTargetAt(target.Owner, formX, formY) != &target) {
+    if (grabbed_ == nullptr || shown == nullptr || DragTargetAt(target.Owner, onForm) != &target) {
       const WinEntry entry(target.Owner);
-      screen_->Drag.Over(target, x, y);  // clipped by a viewport, or another one of the row stands in front
+      screen_->Drag.Over(target, at.X, at.Y);  // clipped by a viewport, or another one of the row stands in front
       return;
     }
-    const double pixelX = static_cast<double>(formX) / 15.0 * shown->Scale();
-    const double pixelY = static_cast<double>(formY) / 15.0 * shown->Scale();
-    const POINT at{static_cast<LONG>(std::lround(pixelX)), static_cast<LONG>(std::lround(pixelY))};
-    if (pixelX == at.x && pixelY == at.y)
-      SendMessageW(shown->Window(), WM_MOUSEMOVE, MK_LBUTTON, At(at));
+    const double pixelX = onForm.X / 15.0 * shown->Scale();
+    const double pixelY = onForm.Y / 15.0 * shown->Scale();
+    const POINT pixel{static_cast<LONG>(std::lround(pixelX)), static_cast<LONG>(std::lround(pixelY))};
+    if (pixelX == pixel.x && pixelY == pixel.y)
+      SendMessageW(shown->Window(), WM_MOUSEMOVE, MK_LBUTTON, At(pixel));
     else
       toolkit_.Drag().Move(pixelX, pixelY);  // no mouse can point between two pixels
+  }
+
+  void OverNothing() override {
+    const WinEntry entry(screen_->Drag.Source()->Owner);
+    screen_->Drag.OverNothing();
   }
 
   void Drop() override {

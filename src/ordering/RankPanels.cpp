@@ -72,7 +72,6 @@ void frmIniImpOrder::BuildFirstRow(Group g) {
   PictureBox& row = c.picOrder[0];
   row.Top = kFirstRowTop;
   row.Height = c.cmdAttB[0].Height + kRowPadding;
-  row.Visible = true;
   row.ZOrder();
   c.lblOrderID[0].Top = row.Top();
   SetRank(row, c.lblOrderID[0], 1);

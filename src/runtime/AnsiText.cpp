@@ -1,5 +1,7 @@
 #include "runtime/AnsiText.h"
 
+#include "runtime/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -14,20 +16,6 @@ constexpr std::array<char16_t, 32> kHigh = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-void AppendUtf8(String& text, char32_t c) {
-  const auto put = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
-  if (c < 0x80) {
-    put(c);
-  } else if (c < 0x800) {
-    put(0xC0U | (c >> 6U));
-    put(0x80U | (c & 0x3FU));
-  } else {
-    put(0xE0U | (c >> 12U));
-    put(0x80U | ((c >> 6U) & 0x3FU));
-    put(0x80U | (c & 0x3FU));
-  }
-}
 
 // The next character of a UTF-8 text from position i on, moving i behind it; nothing where the text is malformed.
 std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i) {

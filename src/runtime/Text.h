@@ -32,4 +32,7 @@ Double Int(Double x);
 // The number of characters (not bytes) of a UTF-8 text.
 int Length(std::string_view text);
 
+// The character as UTF-8 behind the text.
+void AppendUtf8(String& text, char32_t character);
+
 }  // namespace Tarnwise

@@ -23,42 +23,49 @@ String RatioText(Double numerator, Double denominator) {
   return NumberText(RoundToFourDecimals(numerator / denominator));
 }
 
-// The scores of A and B on the way to a suggestion, and B's second value.
-struct Suggestion {
-  Single P = 0.0F;  // A's first score
-  Single Q = 0.0F;  // B's first score
-  Single R = 0.0F;  // A's second score
-  Single W = 0.0F;  // B's second value
+// The scores of A and B on the way to a suggestion.
+struct Scores {
+  Single P;  // A's first score
+  Single Q;  // B's first score
+  Single R;  // A's second score
 };
 
-void Store(WizardData& data, int xAtt, int yAtt, const Suggestion& s) {
+struct SecondValues {
+  Double A;
+  Single B;
+};
+
+void Store(WizardData& data, int xAtt, int yAtt, const Scores& s, Single valueOfB) {
   ABPoint& point = data.ABPoints2[xAtt];
   point.AX = s.P;
   point.BX = s.Q;
   point.AY = s.R;
-  point.BY = GetAttScore(data, yAtt, s.W);
+  point.BY = GetAttScore(data, yAtt, valueOfB);
 }
 
-// B's second value for the ratio; v3 comes back as A's second value.
-Single SecondValue(PreparedCurve& xCurve, PreparedCurve& yCurve, const Suggestion& s, Double ratio, Double& v3) {
+SecondValues SecondValuesFor(PreparedCurve& xCurve, PreparedCurve& yCurve, const Scores& s, Double ratio) {
   const Double v1 = ClampedValue(xCurve.ValueAt(static_cast<Double>(s.P)));
   const Double v2 = ClampedValue(xCurve.ValueAt(static_cast<Double>(s.Q)));
-  v3 = ClampedValue(yCurve.ValueAt(static_cast<Double>(s.R)));
-  return ToSingleChecked(v3 - (v2 - v1) * ratio);
+  const Double v3 = ClampedValue(yCurve.ValueAt(static_cast<Double>(s.R)));
+  return {v3, ToSingleChecked(v3 - (v2 - v1) * ratio)};
 }
 
 void SuggestBelowOne(WizardData& data, int xAtt, int yAtt, Double ratio) {
   const Scale x = ScaleOf(data, xAtt);
   const Scale y = ScaleOf(data, yAtt);
-  Suggestion s;
-  s.P = ToSingleChecked(x.Low + (x.Range() / 2.0) * 1.3);
-  s.Q = ToSingleChecked(x.Low + (x.Range() / 2.0) * 1.0);
-  s.R = ToSingleChecked(y.Low + y.Range() / 2.0);
-  Double v3 = 0.0;
+  const Scores s = {ToSingleChecked(x.Low + (x.Range() / 2.0) * 1.3), ToSingleChecked(x.Low + (x.Range() / 2.0) * 1.0),
+                    ToSingleChecked(y.Low + y.Range() / 2.0)};
   PreparedCurve xCurve(CurveOf(data, xAtt));
   PreparedCurve yCurve(CurveOf(data, yAtt));
-  s.W = SecondValue(xCurve, yCurve, s, ratio, v3);
-  Store(data, xAtt, yAtt, s);
+  Store(data, xAtt, yAtt, s, SecondValuesFor(xCurve, yCurve, s, ratio).B);
+}
+
+// How far B stands above A on the second value scale, against one fifth and two fifths of the room above A.
+bool IsInBand(const SecondValues& v, bool endsCount) {
+  const auto d = static_cast<Double>(static_cast<Single>(static_cast<Double>(v.B) - v.A));
+  const Double g1 = (1.0 - v.A) / 5.0;
+  const Double g2 = 2.0 * (1.0 - v.A) / 5.0;
+  return endsCount ? g1 <= d && d <= g2 : !(d <= g1 || d >= g2);
 }
 
 // B shall stand between one fifth and two fifths of the room above A on the value scale. A comes nearer to B, and past
@@ -71,32 +78,23 @@ void SuggestAboveOne(WizardData& data, int xAtt, int yAtt, Double ratio) {
   PreparedCurve yCurve(CurveOf(data, yAtt));
   const Double worst = data.AttValueData.WorstScore[xAtt];
   const Double bound = (data.AttValueData.BestScore[xAtt] + worst) / 10.0;
+  const auto scoresAt = [&](Double c) {
+    return Scores{ToSingleChecked(x.Low + (c * x.Range()) / 3.0), ToSingleChecked(x.Low + x.Range() / 3.0),
+                  ToSingleChecked(y.Low + y.Range() / 3.0)};
+  };
   Double c = 1.3;
-  Suggestion s;
-  const auto placeScores = [&] {
-    s.P = ToSingleChecked(x.Low + (c * x.Range()) / 3.0);
-    s.Q = ToSingleChecked(x.Low + x.Range() / 3.0);
-    s.R = ToSingleChecked(y.Low + y.Range() / 3.0);
-  };
-  const auto isInBand = [&](bool endsCount) {
-    Double v3 = 0.0;
-    s.W = SecondValue(xCurve, yCurve, s, ratio, v3);
-    const auto d = static_cast<Double>(static_cast<Single>(static_cast<Double>(s.W) - v3));
-    const Double g1 = (1.0 - v3) / 5.0;
-    const Double g2 = 2.0 * (1.0 - v3) / 5.0;
-    return endsCount ? g1 <= d && d <= g2 : !(d <= g1 || d >= g2);
-  };
-  placeScores();
-  if (!isInBand(true)) {
-    do {
-      const Double before = c;
-      c = RoundToFourDecimals(c * 0.999);
-      placeScores();
-      if (c == before || bound > static_cast<Double>(s.P) - worst) break;
-    } while (!isInBand(false));
+  Scores s = scoresAt(c);
+  SecondValues v = SecondValuesFor(xCurve, yCurve, s, ratio);
+  bool found = IsInBand(v, true);
+  while (!found) {
+    const Double before = c;
+    c = RoundToFourDecimals(c * 0.999);
+    s = scoresAt(c);
+    if (c == before || bound > static_cast<Double>(s.P) - worst) break;
+    v = SecondValuesFor(xCurve, yCurve, s, ratio);
+    found = IsInBand(v, false);
   }
-  placeScores();
-  Store(data, xAtt, yAtt, s);
+  Store(data, xAtt, yAtt, s, v.B);
 }
 
 }  // namespace

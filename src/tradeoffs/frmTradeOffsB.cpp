@@ -230,8 +230,6 @@ void frmTradeOffsB::cmdNext_Click() {
   cmdFinish.Enabled = true;
   cmdNext.Enabled = false;
   ShowResults(Results.gridBRJ, Results.gridCRJ, data_);
-  Results.tsWeightRatios.SelectedItem = 1;
-  tsWeightRatios_Click();
 }
 
 void frmTradeOffsB::cmdBack_Click() {

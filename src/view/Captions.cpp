@@ -13,8 +13,8 @@ bool IsLower(char c) { return c >= 'a' && c <= 'z'; }
 
 bool BeginsMnemonic(const String& caption, std::size_t at) {
   if (at + 1 >= caption.size() || !IsLetterOrDigit(caption[at + 1])) return false;
-  const bool insideWord = at > 0 && IsLetterOrDigit(caption[at - 1]);
-  return !insideWord || IsLower(caption[at + 1]);
+  const char before = at == 0 ? ' ' : caption[at - 1];
+  return !IsLetterOrDigit(before) || IsLower(caption[at + 1]);
 }
 
 }  // namespace

@@ -77,16 +77,15 @@ void DragSession::OverNothing() {
   target_ = nullptr;
 }
 
-void DragSession::OverPoint(Single x, Single y) {
+void DragSession::OverPoint(Double x, Double y) {
   if (source_ == nullptr) return;
-  Control* const target = DragTargetAt(source_->Owner, x, y);
+  Control* const target = DragTargetAt(source_->Owner, {x, y});
   if (target == nullptr) {
     OverNothing();
     return;
   }
-  const Rect place = PlaceOnForm(*target);
-  const Single unit = UnitOf(*target);
-  Over(*target, (x - place.X) / unit, (y - place.Y) / unit);
+  const ControlPoint at = InScaleOf(*target, {x, y});
+  Over(*target, at.X, at.Y);
 }
 
 void DragSession::Drop() {
@@ -130,6 +129,11 @@ void DragSession::Step(Single dx, Single dy) {
   Over(area, std::clamp(x_ + dx * unit, 0.0F, area.Width()), std::clamp(y_ + dy * unit, 0.0F, area.Height()));
 }
 
+void DragSession::OverMiddle(Control& target) {
+  const ControlPoint middle = InScaleOf(target, MiddleOnForm(target));
+  Over(target, middle.X, middle.Y);
+}
+
 void DragSession::Walk(int by) {
   const std::vector<Control*> panels = PanelsFor(*source_);
   if (panels.empty()) return;
@@ -139,7 +143,7 @@ void DragSession::Walk(int by) {
     next = std::clamp<std::ptrdiff_t>(present - panels.begin() + by, 0, static_cast<std::ptrdiff_t>(panels.size()) - 1);
   }
   Control& target = *panels[static_cast<std::size_t>(next)];
-  Over(target, target.Width / 2.0F / UnitOf(target), target.Height / 2.0F / UnitOf(target));
+  OverMiddle(target);
 }
 
 void DragSession::WalkAcross() {
@@ -148,7 +152,7 @@ void DragSession::WalkAcross() {
                                   [this](const Control* panel) { return panel->Parent != target_->Parent; });
   if (other == panels.end()) return;
   Control& target = **other;
-  Over(target, target.Width / 2.0F / UnitOf(target), target.Height / 2.0F / UnitOf(target));
+  OverMiddle(target);
 }
 
 void DragSession::Forget(const Control& control) {

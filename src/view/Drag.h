@@ -19,8 +19,8 @@ class DragSession {
   // The pointer stands at (x, y) of a control that takes drags, in that control's scale; or over nothing that does.
   void Over(Control& target, Single x, Single y);
   void OverNothing();
-  // The pointer stands at (x, y) of the source's form, in twips.
-  void OverPoint(Single x, Single y);
+  // The pointer stands at a point of the source's form, in twips.
+  void OverPoint(Double x, Double y);
 
   void Drop();    // on the present target; without one nothing happens
   void Cancel();  // the target gets its leave
@@ -34,6 +34,7 @@ class DragSession {
  private:
   void Notify(DragState state);
   void Step(Single dx, Single dy);
+  void OverMiddle(Control& target);
   void Walk(int by);
   void WalkAcross();
 

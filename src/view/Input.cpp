@@ -5,6 +5,7 @@
 #include "view/Reach.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace Tarnwise::Input {
 
@@ -60,6 +61,37 @@ bool RowKey(Control& list, int code) {
   if (rows.Last < rows.First) return true;
   row = std::clamp(row, rows.First, rows.Last);
   if (row != rows.Present) SelectRow(list, row);
+  return true;
+}
+
+String RowText(const Control& list, int row) {
+  const auto at = static_cast<std::size_t>(row);
+  switch (list.Type) {
+    case Kind::ListBox: return static_cast<const ListBox&>(list).List()[at];
+    case Kind::ComboBox: return static_cast<const ComboBox&>(list).List()[at];
+    case Kind::ImageCombo: return static_cast<const ImageCombo&>(list).Items[at - 1].Text;
+    default: return {};
+  }
+}
+
+// Marks and blanks may stand before the letter that a row begins with.
+bool BeginsWith(const String& text, int capital) {
+  const auto first = std::find_if(text.begin(), text.end(), [](char c) { return c > 0 && std::isalnum(c) != 0; });
+  return first != text.end() && std::toupper(*first) == capital;
+}
+
+// A letter or a digit chooses the next row that begins with it, from the first again after the last.
+bool LetterKey(Control& list, int code) {
+  const bool isLetterOrDigit = (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z');
+  if (!isLetterOrDigit || list.Type == Kind::TabStrip) return false;
+  const Rows rows = RowsOf(list);
+  const int count = rows.Last - rows.First + 1;
+  for (int step = 1; step < count; ++step) {
+    const int row = rows.First + (std::max(rows.Present, rows.First - 1) - rows.First + step + count) % count;
+    if (!BeginsWith(RowText(list, row), code)) continue;
+    SelectRow(list, row);
+    break;
+  }
   return true;
 }
 
@@ -217,7 +249,7 @@ bool ControlKey(Control& control, int code, int shift) {
     case Kind::ListBox:
     case Kind::ComboBox:
     case Kind::ImageCombo:
-    case Kind::TabStrip: return RowKey(control, code);
+    case Kind::TabStrip: return RowKey(control, code) || LetterKey(control, code);
     case Kind::VScrollBar: return BarKey(static_cast<VScrollBar&>(control), code);
     case Kind::Toolbar: return ToolbarKey(static_cast<Toolbar&>(control), code);
     default: return false;

@@ -28,7 +28,7 @@ void KeyUp(TextBox& box, KeyEvent key);
 void TextEdited(TextBox& box, const String& text, int caret);
 
 // A key on the control with the focus that is no text box: Space and Return press, pick up and drop, arrows choose rows
-// and scroll. False: not used.
+// and scroll, a letter or a digit goes to the next row that begins with it. False: not used.
 bool ControlKey(Control& control, int code, int shift);
 // Tab and Shift+Tab.
 void TabKey(Form& form, bool back);

@@ -18,19 +18,19 @@ Rect Intersection(const Rect& a, const Rect& b) {
   Rect r;
   r.X = std::max(a.X, b.X);
   r.Y = std::max(a.Y, b.Y);
-  r.W = std::max(0.0F, std::min(a.X + a.W, b.X + b.W) - r.X);
-  r.H = std::max(0.0F, std::min(a.Y + a.H, b.Y + b.H) - r.Y);
+  r.W = std::max(0.0, std::min(a.X + a.W, b.X + b.W) - r.X);
+  r.H = std::max(0.0, std::min(a.Y + a.H, b.Y + b.H) - r.Y);
   return r;
 }
 
 // One container, front to back. `blocked` comes back true when a panel hides whatever is farther back.
-Control* TargetIn(const Form& form, const Control& container, Single x, Single y, bool& blocked) {
+Control* TargetIn(const Form& form, const Control& container, FormPoint at, bool& blocked) {
   std::vector<Control*> children = ChildrenOf(form, &container);
   for (auto child = children.rbegin(); child != children.rend(); ++child) {
     Control& control = **child;
-    if (!control.Visible || !HasPlace(control) || !PlaceOnForm(control).Contains(x, y)) continue;
+    if (!control.Visible || !HasPlace(control) || !PlaceOnForm(control).Contains(at.X, at.Y)) continue;
     bool inside = false;
-    if (Control* const found = TargetIn(form, control, x, y, inside)) return found;
+    if (Control* const found = TargetIn(form, control, at, inside)) return found;
     if (control.Enabled && control.TakesDrags()) return &control;
     if (inside || (IsPanel(control) && !control.DragAutomatic)) {
       blocked = true;
@@ -42,13 +42,35 @@ Control* TargetIn(const Form& form, const Control& container, Single x, Single y
 
 }  // namespace
 
-Single UnitOf(const Control& container) { return container.Scale == ScaleMode::Pixels ? kTwipsPerPixel : 1.0F; }
+Double UnitOf(const Control& container) {
+  return container.Scale == ScaleMode::Pixels ? static_cast<Double>(kTwipsPerPixel) : 1.0;
+}
 
 Rect PlaceOnForm(const Control& control) {
-  if (control.Parent == nullptr) return {0.0F, 0.0F, control.Width, control.Height};
+  const auto width = static_cast<Double>(control.Width());
+  const auto height = static_cast<Double>(control.Height());
+  if (control.Parent == nullptr) return {0.0, 0.0, width, height};
   const Rect around = PlaceOnForm(*control.Parent);
-  const Single unit = UnitOf(*control.Parent);
-  return {around.X + control.Left * unit, around.Y + control.Top * unit, control.Width * unit, control.Height * unit};
+  const Double unit = UnitOf(*control.Parent);
+  return {around.X + static_cast<Double>(control.Left()) * unit, around.Y + static_cast<Double>(control.Top()) * unit,
+          width * unit, height * unit};
+}
+
+FormPoint OnForm(const Control& control, ControlPoint at) {
+  const Rect place = PlaceOnForm(control);
+  const Double unit = UnitOf(control);
+  return {place.X + static_cast<Double>(at.X) * unit, place.Y + static_cast<Double>(at.Y) * unit};
+}
+
+ControlPoint InScaleOf(const Control& control, FormPoint at) {
+  const Rect place = PlaceOnForm(control);
+  const Double unit = UnitOf(control);
+  return {static_cast<Single>((at.X - place.X) / unit), static_cast<Single>((at.Y - place.Y) / unit)};
+}
+
+FormPoint MiddleOnForm(const Control& control) {
+  const Rect place = PlaceOnForm(control);
+  return {place.X + place.W / 2.0, place.Y + place.H / 2.0};
 }
 
 Rect VisiblePlace(const Control& control) {
@@ -134,11 +156,15 @@ String Refusal(const Control& control) {
   return {};
 }
 
-Control* DragTargetAt(const Form& form, Single x, Single y) {
+Control* DragTargetAt(const Form& form, FormPoint at) {
   bool blocked = false;
-  if (Control* const found = TargetIn(form, form, x, y, blocked)) return found;
-  if (!PlaceOnForm(form).Contains(x, y)) return nullptr;
+  if (Control* const found = TargetIn(form, form, at, blocked)) return found;
+  if (!PlaceOnForm(form).Contains(at.X, at.Y)) return nullptr;
   return form.TakesDrags() ? const_cast<Form*>(&form) : nullptr;  // NOLINT: the form was const for looking only
+}
+
+FormPoint PointerOf(const DragSession& drag) {
+  return drag.Target() != nullptr ? OnForm(*drag.Target(), {drag.X(), drag.Y()}) : MiddleOnForm(*drag.Source());
 }
 
 Control* DragTargetFor(Control& control) {

@@ -1,26 +1,41 @@
 // Where controls stand and what a person can get at: geometry on the form, covering, hit testing, tab order.
 #pragma once
 
+#include "view/Drag.h"
 #include "view/Form.h"
 
 #include <vector>
 
 namespace Tarnwise {
 
+// Double, so that a point on a control is the same again after its way to the form and back.
 struct Rect {
-  Single X = 0.0F;
-  Single Y = 0.0F;
-  Single W = 0.0F;
-  Single H = 0.0F;
-  bool Contains(Single x, Single y) const { return x >= X && y >= Y && x <= X + W && y <= Y + H; }
+  Double X = 0.0;
+  Double Y = 0.0;
+  Double W = 0.0;
+  Double H = 0.0;
+  bool Contains(Double x, Double y) const { return x >= X && y >= Y && x <= X + W && y <= Y + H; }
   bool Contains(const Rect& r) const { return r.X >= X && r.Y >= Y && r.X + r.W <= X + W && r.Y + r.H <= Y + H; }
 };
 
-// Twips in a unit of the container that the control stands in, or of the control's own scale.
-Single UnitOf(const Control& container);
+struct FormPoint {  // twips
+  Double X = 0.0;
+  Double Y = 0.0;
+};
 
-// The control on its form, in twips.
+struct ControlPoint {  // in the control's own scale
+  Single X = 0.0F;
+  Single Y = 0.0F;
+};
+
+// Twips in a unit of the container that the control stands in, or of the control's own scale.
+Double UnitOf(const Control& container);
+
+// The control on its form, in twips; a point of it there, and back.
 Rect PlaceOnForm(const Control& control);
+FormPoint OnForm(const Control& control, ControlPoint at);
+FormPoint MiddleOnForm(const Control& control);
+ControlPoint InScaleOf(const Control& control, FormPoint at);
 // The part of it that its viewports let through; no width or height when there is none.
 Rect VisiblePlace(const Control& control);
 
@@ -43,7 +58,9 @@ Control* LabelledBy(const Label& label);
 String Refusal(const Control& control);
 
 // The topmost visible control at a point of the form (twips) that handles drag notifications; null when there is none.
-Control* DragTargetAt(const Form& form, Single x, Single y);
+Control* DragTargetAt(const Form& form, FormPoint at);
+// Where a drag's pointer stands; over nothing that takes it, the middle of its source.
+FormPoint PointerOf(const DragSession& drag);
 // The control itself or the nearest container of it that handles drag notifications.
 Control* DragTargetFor(Control& control);
 

@@ -105,6 +105,12 @@ TEST(ReStart, FromThePairOfReferencesShowsTheFirstTargetsOrderPanel) {
   EXPECT_EQ(session.Status(), 0);
 }
 
+TEST(ReStart, LeavesTheRangesInFrontWhereTheirTabIsChosen) {
+  Ward session;
+  EXPECT_EQ(session.Ask("select tsTab 2\nclick cmdReStart\nclick lblTargetAtt\nget tsTab.SelectedItem"), Lines{"2"});
+  EXPECT_EQ(session.Status(), 0);
+}
+
 TEST(ReStart, NeedsAnotherCommitBeforeItCanBeClickedAgain) {
   Ward session;
   EXPECT_EQ(Only(session.Play("click cmdReStart\nclick cmdReStart"), "refused").size(), 1U);

@@ -121,6 +121,17 @@ TEST(ReferenceStage, EachTickTurnsRedIntoBlueAndAnythingElseIntoRed) {
   EXPECT_EQ(cost.BackColor(), kBlue);
 }
 
+TEST(ReferenceStage, GivesItsButtonsTheirSizeBeforeItIsShown) {
+  Ranked o;
+  for (const CommandButton* button :
+       {&o.BRows.cmdAttButtons[0], &o.BRows.cmdAttButtons[2], &o.CRows.cmdAttButtons[0]}) {
+    EXPECT_EQ(button->Left(), 770.0F);
+    EXPECT_EQ(button->Height(), kH);
+    EXPECT_GT(button->Width(), 0.0F);
+    EXPECT_FALSE(button->Visible);
+  }
+}
+
 TEST(ReferenceStage, ShowsTheOrderWithoutItsEmptyRows) {
   Ranked o;
   o.PlaceAll().Click("cmdNext");

@@ -1,6 +1,7 @@
 // What a script's user can do, and what is refused because a person could not.
 #include "direct/Ward.h"
 #include "player/Played.h"
+#include "runtime/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -112,6 +113,34 @@ TEST(Select, CountsAsEachControlCounts) {
       Ward().Ask("select imgcmbTargetAtt 7\nget imgcmbTargetAtt.SelectedItem\nselect tsTab 2\nget tsTab.SelectedItem"),
       (Lines{"7", "2"}));
   EXPECT_EQ(Why(Ward().Play("select tsTab 3")), "tsTab: has no such row");
+}
+
+TEST(Drag, BringsThePointerToThePointAsItIsNamed) {
+  Ward session;
+  for (int k = 1; k < 60; ++k) {
+    const String at = NumberText(k * 2.37);  // some of them no Single can hold
+    EXPECT_EQ(session.Ask("drag picHandle(0) picTradeOffsRange " + at + " " + at +
+                          "\nget BorderL(0).X2\nget BorderL(0).Y2\n"),
+              (Lines{at, at}));
+  }
+  EXPECT_EQ(session.Ask("drag picHandle(1) picTradeOffsRange 150.57 80.43\ndrag picHandle(0) picHandle(1)\n"
+                        "get BorderL(0).X2\nget BorderL(0).Y2"),
+            (Lines{"150.57", "80.43"}));
+}
+
+TEST(Drag, OverWhatTakesNoDragsIsOverNothing) {
+  Session session(ModelOf(2, 2));
+  session.Given(
+      "host points zero\nhost show\nselect lstMethods 1\nclick cmdNext\ndrag cmdAttA(0) picOrder(0)\nclick cmdAdd\n"
+      "drag cmdAttA(1) picOrder(1)\ndrag cmdAttA1(0) picOrder1(0)\nclick cmdAdd1\ndrag cmdAttA1(1) picOrder1(1)\n"
+      "click cmdNext\nclick cmdAttButtons(0)\nclick cmdAttButtons1(0)\nclick cmdNext");
+  const String left = "get shpPCA.Left\n";
+  const Lines before = session.Ask(left);
+  EXPECT_EQ(session.Ask("drag shpPCA picTradeOffsRange 2000 2000\n" + left), Lines{"1925"});
+  EXPECT_EQ(session.Ask("drag shpPCA frmTradeOffsB 10 10\n" + left), before);
+  EXPECT_EQ(session.Ask("grab shpPCA\nover picTradeOffsRange 2000 2000\nover cmdEnter\ndrop\n" + left), before);
+  EXPECT_EQ(session.Status(), 0);
+  EXPECT_EQ(Why(session.Play("drag shpPCA cmdEnter\ndrop")), "nothing is being dragged");
 }
 
 TEST(Focus, InATextBoxStandsAtTheEndWithNothingSelected) {

@@ -65,6 +65,7 @@ TEST(RuntimeError, DescribesItsNumber) {
   const std::pair<int, const char*> rows[] = {
       {5, "Invalid procedure call or argument"},
       {6, "Overflow"},
+      {7, "Out of memory"},
       {9, "Subscript out of range"},
       {11, "Division by zero"},
       {13, "Type mismatch"},

@@ -132,5 +132,14 @@ TEST(NumberText, OfWhatIsNoNumberOverflows) {
   EXPECT_EQ(ErrorNumber([] { return NumberText(-std::numeric_limits<Single>::infinity()); }), 6);
 }
 
+TEST(AppendUtf8, WritesEveryLengthOfACharacter) {
+  String text = "x";
+  const char32_t characters[] = {0x01, 0x7F, 0x80, 0x7FF, 0x800, 0x20FF, 0xFFFD, 0x10000, 0x1F9FF, 0x10FFFD};
+  for (const char32_t character : characters) AppendUtf8(text, character);
+  EXPECT_EQ(
+      text,
+      "x\x01\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xE2\x83\xBF\xEF\xBF\xBD\xF0\x90\x80\x80\xF0\x9F\xA7\xBF\xF4\x8F\xBF\xBD");
+}
+
 }  // namespace
 }  // namespace Tarnwise

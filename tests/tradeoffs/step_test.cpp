@@ -406,10 +406,22 @@ TEST(ResultsPage, ItsTabsBringTheGridsForward) {
   TradeOffStep step(Judged(Ward(), kTradeOffsType));
   step.Click("cmdNext");
   ResultsControls& results = step.Form->Results;
+  EXPECT_GT(results.gridBRJ.Order(), results.gridCRJ.Order());
   Input::SelectRow(results.tsWeightRatios, 2);
   EXPECT_GT(results.gridCRJ.Order(), results.gridBRJ.Order());
   Input::SelectRow(results.tsWeightRatios, 1);
   EXPECT_GT(results.gridBRJ.Order(), results.gridCRJ.Order());
+}
+
+TEST(ResultsPage, KeepsTheTabThatWasChosenOnAnEarlierVisit) {
+  TradeOffStep step(Judged(Ward(), kTradeOffsType));
+  ResultsControls& results = step.Form->Results;
+  step.Click("cmdNext");
+  Input::SelectRow(results.tsWeightRatios, 2);
+  step.Click("cmdBack");
+  step.Click("cmdNext");
+  EXPECT_EQ(results.tsWeightRatios.SelectedItem(), 2);
+  EXPECT_GT(results.gridCRJ.Order(), results.gridBRJ.Order());
 }
 
 TEST(ToolTabs, BringTheirFrameForward) {

@@ -91,24 +91,24 @@ TEST(Drag, GivesThePointInTheScaleOfItsTarget) {
 TEST(DragTarget, IsTheTopmostThatTakesDragsUnderThePointer) {
   Dragging bench;
   const Rect row = PlaceOnForm(bench.On->picRow[0]);
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), &bench.On->picRow[0]);
   CommandButton button(*bench.On, &bench.On->picContent, "cmdOnRow");
   Place(button, 0, 0, 2000, 500);
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), &bench.On->picRow[0]);
   bench.NoteDrags(button);
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &button);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), &button);
   button.Visible = false;
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), &bench.On->picRow[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), &bench.On->picRow[0]);
 }
 
 TEST(DragTarget, IsTheContainerWhereNothingInItTakesDrags) {
   Dragging bench;
   const Rect chart = PlaceOnForm(bench.On->picChart);
-  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), nullptr);
+  EXPECT_EQ(DragTargetAt(*bench.On, {chart.X + 9, chart.Y + 9}), nullptr);
   bench.NoteDrags(bench.On->picPanel[0]);
-  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), &bench.On->picPanel[0]);
+  EXPECT_EQ(DragTargetAt(*bench.On, {chart.X + 9, chart.Y + 9}), &bench.On->picPanel[0]);
   bench.NoteDrags(bench.On->picChart);
-  EXPECT_EQ(DragTargetAt(*bench.On, chart.X + 9, chart.Y + 9), &bench.On->picChart);
+  EXPECT_EQ(DragTargetAt(*bench.On, {chart.X + 9, chart.Y + 9}), &bench.On->picChart);
   EXPECT_EQ(DragTargetFor(bench.On->picHandle[0]), &bench.On->picChart);
   EXPECT_EQ(DragTargetFor(bench.On->lblText), &bench.On->picPanel[0]);
 }
@@ -117,9 +117,9 @@ TEST(DragTarget, IsNeverBehindThePanelInFront) {
   Dragging bench;
   const Rect row = PlaceOnForm(bench.On->picRow[0]);
   bench.On->picPanel[1].ZOrder();
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), nullptr);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), nullptr);
   bench.NoteDrags(*bench.On);
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), bench.On.get());
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), bench.On.get());
 }
 
 TEST(DragTarget, IsNeverALineOrATimer) {
@@ -127,27 +127,27 @@ TEST(DragTarget, IsNeverALineOrATimer) {
   Line line(*bench.On, &bench.On->picPanel[0], "line");
   Place(line, 100, 100, 500, 500);
   Place(bench.On->tmrBlink, 100, 600, 500, 500);
-  const Control* const without = DragTargetAt(*bench.On, 200, 700);
+  const Control* const without = DragTargetAt(*bench.On, {200, 700});
   bench.NoteDrags(line);
   bench.NoteDrags(bench.On->tmrBlink);
-  EXPECT_EQ(DragTargetAt(*bench.On, 200, 700), without);
-  EXPECT_EQ(DragTargetAt(*bench.On, 200, 1050), without);
+  EXPECT_EQ(DragTargetAt(*bench.On, {200, 700}), without);
+  EXPECT_EQ(DragTargetAt(*bench.On, {200, 1050}), without);
 }
 
 TEST(DragTarget, IsNotWhatAViewportClips) {
   Dragging bench;
   const Rect row = PlaceOnForm(bench.On->picRow[3]);
-  EXPECT_EQ(DragTargetAt(*bench.On, row.X + 5, row.Y + 5), nullptr);
+  EXPECT_EQ(DragTargetAt(*bench.On, {row.X + 5, row.Y + 5}), nullptr);
   bench.On->picContent.Top = -1800;
   const Rect scrolled = PlaceOnForm(bench.On->picRow[3]);
-  EXPECT_EQ(DragTargetAt(*bench.On, scrolled.X + 5, scrolled.Y + 5), &bench.On->picRow[3]);
+  EXPECT_EQ(DragTargetAt(*bench.On, {scrolled.X + 5, scrolled.Y + 5}), &bench.On->picRow[3]);
 }
 
 TEST(DragTarget, IsTheFormOutsideItsPanelsAndNothingOutsideTheForm) {
   Dragging bench;
   bench.NoteDrags(*bench.On);
-  EXPECT_EQ(DragTargetAt(*bench.On, 50, 50), bench.On.get());
-  EXPECT_EQ(DragTargetAt(*bench.On, 10001, 50), nullptr);
+  EXPECT_EQ(DragTargetAt(*bench.On, {50, 50}), bench.On.get());
+  EXPECT_EQ(DragTargetAt(*bench.On, {10001, 50}), nullptr);
 }
 
 constexpr int kLeft = 37;

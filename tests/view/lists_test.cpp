@@ -61,10 +61,37 @@ TEST(ImageCombo, ClearedHasNoItemAndNoSelection) {
   EXPECT_EQ(combo.SelectedItem(), 0);
 }
 
+TEST(ListKeys, LettersAndDigitsGoToTheNextRowThatBeginsWithThem) {
+  Lists lists;
+  ListBox& list = lists.On->lstRows;
+  list.List = std::vector<String>{"Beds", "  care", "2 beds", "Born", "\xC2\xA4 Doctors", "\xC3\x84rzte"};
+  list.ListIndex = 0;
+  list.Click = [&] { lists.Notes.push_back(std::to_string(list.ListIndex())); };
+  for (const int code : {'B', 'B', 'C', '2', 'D', 'D', 'X', 'A'}) EXPECT_TRUE(lists.Key(list, code));
+  EXPECT_EQ(lists.Notes, (Lines{"3", "0", "1", "2", "4"}));
+
+  ImageCombo combo(*lists.On, lists.On.get(), "combo");
+  for (const char* const name : {"Alpha", "Beta", "Bravo"}) combo.Add({name, name, "", ""});
+  combo.Click = [&] { lists.Notes.push_back(combo.Items[static_cast<std::size_t>(combo.SelectedItem()) - 1].Text); };
+  lists.Notes.clear();
+  for (const int code : {'A', 'B', 'B', 'B'}) EXPECT_TRUE(lists.Key(combo, code));
+  EXPECT_EQ(lists.Notes, (Lines{"Alpha", "Beta", "Bravo", "Beta"}));
+
+  ComboBox box(*lists.On, lists.On.get(), "box");
+  box.List = std::vector<String>{"3.33", "2.50", "2.00"};
+  box.ListIndex = 0;
+  EXPECT_TRUE(lists.Key(box, '2'));
+  EXPECT_EQ(box.ListIndex(), 1);
+
+  TabStrip strip(*lists.On, lists.On.get(), "strip");
+  strip.Tabs = {{"One", "one"}, {"Two", "two"}};
+  EXPECT_FALSE(lists.Key(strip, 'T'));
+}
+
 TEST(ListKeys, LeaveAllOtherKeysAlone) {
   Lists lists;
   lists.On->lstRows.ListIndex = 1;
-  for (const int code : {33, 34, 41, 97}) EXPECT_FALSE(lists.Key(lists.On->lstRows, code)) << code;
+  for (const int code : {33, 34, 41, 47, 58, 64, 91, 97}) EXPECT_FALSE(lists.Key(lists.On->lstRows, code)) << code;
   EXPECT_EQ(lists.On->lstRows.ListIndex(), 1);
   EXPECT_FALSE(lists.Key(lists.On->lblText, kDown));
   EXPECT_FALSE(lists.Key(lists.On->picContent, 32));

@@ -29,12 +29,70 @@ TEST(Place, IsSeenInBothDirectionsWithinItsContainersAndNotOutsideThem) {
   const auto seen = [&](Single left, Single top, Single width, Single height) {
     Place(label, left, top, width, height);
     const Rect place = VisiblePlace(label);
-    return std::vector<Single>{place.X, place.Y, place.W, place.H};
+    return std::vector<Double>{place.X, place.Y, place.W, place.H};
   };
-  EXPECT_EQ(seen(200, 300, 100, 50), (std::vector<Single>{300, 2800, 100, 50}));
-  EXPECT_EQ(seen(1500, 1000, 5000, 6000), (std::vector<Single>{1600, 3500, 500, 200}));
-  EXPECT_EQ(seen(-70, -80, 100, 100), (std::vector<Single>{100, 2500, 30, 20}));
-  EXPECT_EQ(seen(3000, 2000, 100, 100), (std::vector<Single>{3100, 4500, 0, 0}));
+  EXPECT_EQ(seen(200, 300, 100, 50), (std::vector<Double>{300, 2800, 100, 50}));
+  EXPECT_EQ(seen(1500, 1000, 5000, 6000), (std::vector<Double>{1600, 3500, 500, 200}));
+  EXPECT_EQ(seen(-70, -80, 100, 100), (std::vector<Double>{100, 2500, 30, 20}));
+  EXPECT_EQ(seen(3000, 2000, 100, 100), (std::vector<Double>{3100, 4500, 0, 0}));
+}
+
+TEST(Place, OfAPointIsTheSameAfterItsWayToTheFormAndBack) {
+  const Bench bench;
+  PictureBox& handle = bench.On->picHandle[0];
+  Place(handle, 33.37F, 147.3F, 6, 6);
+  for (int k = 0; k < 1000; ++k) {
+    const auto at = static_cast<Single>(k) * 0.337F;
+    const ControlPoint back = InScaleOf(handle, OnForm(handle, {at, -at}));
+    EXPECT_EQ(back.X, at);
+    EXPECT_EQ(back.Y, -at);
+  }
+  const FormPoint middle = MiddleOnForm(bench.On->picRow[1]);
+  EXPECT_EQ(middle.X, 1100.0);
+  EXPECT_EQ(middle.Y, 2500.0 + 600.0 + 250.0);
+}
+
+TEST(Kinds, OfWhichACaptionIsCutARowIsPressedOrTheNativeControlAnswersKeys) {
+  Bench bench;
+  BenchForm& form = *bench.On;
+  const std::vector<Control*> all = {&form.lblText, &form.cmdGo,    &form.optOne, &form.chkBox,
+                                     &form.lstRows, &form.txtFirst, &form.vsrBar, &form.picChart};
+  const auto those = [&all](bool (*is)(const Control&)) {
+    String names;
+    for (const Control* control : all) names += is(*control) ? control->Name + " " : "";
+    return names;
+  };
+  EXPECT_EQ(those(HasCaption), "lblText cmdGo optOne chkBox ");
+  EXPECT_EQ(those(HasRows), "lstRows ");
+  EXPECT_EQ(those(AnswersKeys), "lstRows ");
+  const ComboBox box(form, &form, "box");
+  const ImageCombo combo(form, &form, "combo");
+  const Grid grid(form, &form, "grid");
+  const TabStrip strip(form, &form, "strip");
+  EXPECT_TRUE(AnswersKeys(box));
+  EXPECT_TRUE(AnswersKeys(combo));
+  EXPECT_TRUE(AnswersKeys(grid));
+  EXPECT_FALSE(AnswersKeys(strip));
+  EXPECT_TRUE(HasRows(strip));
+  EXPECT_FALSE(HasRows(box));
+}
+
+TEST(Mnemonic, OfALabelGoesToTheNextControlBesideItThatTakesTheFocus) {
+  Bench bench;
+  BenchForm& form = *bench.On;
+  Label label(form, &form.picPanel[0], "label");
+  EXPECT_EQ(LabelledBy(label), nullptr) << "those in front of it are not meant";
+  TextBox elsewhere(form, &form.picPanel[1], "elsewhere");
+  const Label other(form, &form.picPanel[0], "other");
+  TextBox untabbed(form, &form.picPanel[0], "untabbed");
+  untabbed.TabIndex = -1;
+  elsewhere.TabIndex = 20;
+  EXPECT_EQ(LabelledBy(label), nullptr);
+  TextBox meant(form, &form.picPanel[0], "meant");
+  TextBox later(form, &form.picPanel[0], "later");
+  meant.TabIndex = 22;
+  later.TabIndex = 21;
+  EXPECT_EQ(LabelledBy(label), &meant);
 }
 
 TEST(Refusal, SaysWhyAPersonCannot) {

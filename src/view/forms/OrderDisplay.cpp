@@ -2,6 +2,18 @@
 
 namespace Tarnwise {
 
+namespace {
+
+constexpr Single kFirstButtonTop = 180.0F;
+
+Single RowWidth(const OrderDisplay& display) { return display.picOP.Width - kRowLeft - 120.0F; }
+
+void PlaceButton(const OrderDisplay& display, CommandButton& button, Single top) {
+  Place(button, 770.0F, top, RowWidth(display) - 580.0F, kAttButtonHeight);
+}
+
+}  // namespace
+
 String Named(const char* name, bool benefit) { return benefit ? name : String(name) + "1"; }
 
 OrderDisplay::OrderDisplay(Form& form, Control& stage, bool benefit, int tabIndex)
@@ -21,7 +33,8 @@ OrderDisplay::OrderDisplay(Form& form, Control& stage, bool benefit, int tabInde
                label.Bold = true;
                label.Visible = false;
              }),
-      cmdAttButtons(form, &picOP, Named("cmdAttButtons", benefit), [benefit, tabIndex](CommandButton& button) {
+      cmdAttButtons(form, &picOP, Named("cmdAttButtons", benefit), [this, benefit, tabIndex](CommandButton& button) {
+        PlaceButton(*this, button, kFirstButtonTop);
         button.BackColor = benefit ? kBenefitColour : kCostColour;
         button.Visible = false;
         button.TabIndex = tabIndex;
@@ -47,11 +60,12 @@ void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width) 
   PlaceViewport(display.picOrderFrame, left, top, width, kOrderFrameHeight);
   Place(display.picOP, 0.0F, 0.0F, width - kScrollBarWidth - 60.0F, kOrderContentHeight);
   display.picOP.BackColor = kPaper;
+  PlaceButton(display, display.cmdAttButtons[0], kFirstButtonTop);
   PlaceBar(display.vsrO, display.picOrderFrame, static_cast<int>(kOrderContentHeight));
 }
 
 Single LayOutRows(OrderDisplay& display, const std::vector<std::vector<int>>& atts) {
-  const Single width = display.picOP.Width - kRowLeft - 120.0F;
+  const Single width = RowWidth(display);
   Single bottom = 0.0F;
   for (int k = 0; k < static_cast<int>(atts.size()); ++k) {
     PictureBox& row = display.picO.Has(k) ? display.picO[k] : display.picO.Load(k);
@@ -68,8 +82,7 @@ Single LayOutRows(OrderDisplay& display, const std::vector<std::vector<int>>& at
     for (std::size_t j = 0; j < ids.size(); ++j) {
       display.cmdAttButtons.Each([&](CommandButton& button) {
         if (button.Tag().empty() || button.Tag().substr(1) != std::to_string(ids[j])) return;
-        Place(button, 770.0F, row.Top + 60.0F + static_cast<Single>(j) * kAttButtonHeight, width - 580.0F,
-              kAttButtonHeight);
+        PlaceButton(display, button, row.Top + 60.0F + static_cast<Single>(j) * kAttButtonHeight);
         button.Visible = true;
         button.ZOrder();
       });

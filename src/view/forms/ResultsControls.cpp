@@ -23,6 +23,7 @@ ResultsControls::ResultsControls(Form& form, Control& stage)
   tsWeightRatios.TabIndex = 500;
   PlaceGrid(gridBRJ, stage, "Benefit value judgments", 501);
   PlaceGrid(gridCRJ, stage, "Cost value judgments", 502);
+  gridBRJ.ZOrder();
 }
 
 }  // namespace Tarnwise

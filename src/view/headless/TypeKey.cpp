@@ -49,17 +49,7 @@ void CharacterAction(TextBox& box, int character) {
     box.SelLength = Length(box.Text());
   } else if (character >= kBlank && character != 127) {
     String typed;
-    if (character < 0x80) {
-      typed = String(1, static_cast<char>(character));
-    } else if (character < 0x800) {
-      typed = {static_cast<char>(0xC0 | (character >> 6)), static_cast<char>(0x80 | (character & 0x3F))};
-    } else if (character < 0x10000) {
-      typed = {static_cast<char>(0xE0 | (character >> 12)), static_cast<char>(0x80 | ((character >> 6) & 0x3F)),
-               static_cast<char>(0x80 | (character & 0x3F))};
-    } else {
-      typed = {static_cast<char>(0xF0 | (character >> 18)), static_cast<char>(0x80 | ((character >> 12) & 0x3F)),
-               static_cast<char>(0x80 | ((character >> 6) & 0x3F)), static_cast<char>(0x80 | (character & 0x3F))};
-    }
+    AppendUtf8(typed, static_cast<char32_t>(character));
     box.SetSelText(typed);
   }
 }

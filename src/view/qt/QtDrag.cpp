@@ -66,7 +66,7 @@ bool QtDrag::Move(const QPointF& inWindow) {
   Begin();
   Platform& platform = form.Tree()->Screen();
   if (QRectF(form.Window().rect()).contains(inWindow)) {
-    platform.Drag.OverPoint(static_cast<Single>(inWindow.x() * kTwips), static_cast<Single>(inWindow.y() * kTwips));
+    platform.Drag.OverPoint(inWindow.x() * kTwips, inWindow.y() * kTwips);
   } else {
     platform.Drag.OverNothing();
   }
@@ -109,13 +109,8 @@ void QtDrag::Show(QtForm& form) {
     if (source_ == nullptr) Clear();
     return;
   }
-  const Control& seen = drag.Target() != nullptr ? *drag.Target() : *drag.Source();
-  const Rect place = PlaceOnForm(seen);
-  const Single unit = UnitOf(seen);
-  const bool onTarget = drag.Target() != nullptr;
-  const Single x = place.X + (onTarget ? drag.X() * unit : place.W / 2.0F);
-  const Single y = place.Y + (onTarget ? drag.Y() * unit : place.H / 2.0F);
-  Follow(form, QPointF(static_cast<double>(x), static_cast<double>(y)) / kTwips);
+  const FormPoint at = PointerOf(drag);
+  Follow(form, QPointF(at.X, at.Y) / kTwips);
 }
 
 QPixmap QtDrag::PictureOf(QtForm& form, const Control& source) {

@@ -42,7 +42,7 @@ QString Caption(const String& caption) { return Text(MarkedCaption(caption)); }
 
 QString PlainCaption(const String& caption) { return Text(UnmarkedCaption(caption)); }
 
-double PixelsPerUnit(const Control& container) { return static_cast<double>(UnitOf(container) / kTwipsPerPixel); }
+double PixelsPerUnit(const Control& container) { return UnitOf(container) / static_cast<double>(kTwipsPerPixel); }
 
 QRect PixelPlace(const Control& control) {
   const double unit = control.Parent == nullptr ? 1.0 / 15.0 : PixelsPerUnit(*control.Parent);

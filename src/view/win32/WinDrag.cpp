@@ -91,7 +91,7 @@ bool WinDrag::Move(double x, double y) {
   GetClientRect(form.Window(), &client);
   if (x >= 0 && y >= 0 && x < client.right && y < client.bottom) {
     const double twips = kTwips / form.Scale();
-    platform.Drag.OverPoint(static_cast<Single>(x * twips), static_cast<Single>(y * twips));
+    platform.Drag.OverPoint(x * twips, y * twips);
   } else {
     platform.Drag.OverNothing();
   }
@@ -138,14 +138,9 @@ void WinDrag::Show(WinForm& form) {
     if (source_ == nullptr) Clear();
     return;
   }
-  const Control& seen = drag.Target() != nullptr ? *drag.Target() : *drag.Source();
-  const Rect place = PlaceOnForm(seen);
-  const Single unit = UnitOf(seen);
-  const bool onTarget = drag.Target() != nullptr;
-  const Single x = place.X + (onTarget ? drag.X() * unit : place.W / 2.0F);
-  const Single y = place.Y + (onTarget ? drag.Y() * unit : place.H / 2.0F);
+  const FormPoint at = PointerOf(drag);
   const double pixels = form.Scale() / kTwips;
-  Follow(form, static_cast<double>(x) * pixels, static_cast<double>(y) * pixels);
+  Follow(form, at.X * pixels, at.Y * pixels);
 }
 
 void WinDrag::MakeGhost(WinForm& form, const Control& source) {

@@ -78,7 +78,7 @@ void DrawShape(HDC dc, const PictureShape& shape, double scale, double left, dou
 }  // namespace
 
 double PixelsPerUnit(const Control& container, double scale) {
-  return static_cast<double>(UnitOf(container) / kTwipsPerPixel) * scale;
+  return UnitOf(container) / static_cast<double>(kTwipsPerPixel) * scale;
 }
 
 RECT PixelPlace(const Control& control, double scale) {

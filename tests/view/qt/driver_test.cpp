@@ -90,7 +90,7 @@ TEST_F(QtDriverTest, DragsToFractionsOfAPixel) {
   platform->Show(*form);
   driver->Grab(form->cmdSource);
   EXPECT_TRUE(platform->Drag.Active());
-  driver->Over(form->picRow[1], 401.0F, 33.0F);
+  driver->Over(form->picRow[1], {401.0F, 33.0F});
   driver->Drop();
   EXPECT_EQ(x, 401.0F);
   EXPECT_EQ(y, 33.0F);

@@ -286,7 +286,6 @@ void frmIniImpOrder::ResetList(Group g) {
   }
   for (int i = c.cmdAttB.Count() - 1; i > 0; --i) c.cmdAttB.Unload(i);
   c.cmdAttB[0].Visible = false;
-  c.cmdAttB[0].Tag = "";
   ResetOrder(order_, data_, g);
   EnableRowButtons(g, true);
   if (GroupSize(data_, g) > 0) c.cmdAttA.Each([](CommandButton& button) { button.Visible = true; });

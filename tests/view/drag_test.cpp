@@ -173,6 +173,18 @@ TEST(KeyboardDrag, WalksTheTargetsAndDropsWithTheSameNotifications) {
                                 "picRow(0) over cmdSource 1000,250", "picRow(0) drop cmdSource 1000,250"}));
 }
 
+TEST(KeyboardDrag, UsesItsOwnKeysAndNoOthers) {
+  Dragging bench;
+  Control& source = bench.On->cmdSource;
+  for (const int code : {kSpace, kDown, kLeft, kSpace, kSpace, kEscape}) {
+    EXPECT_TRUE(Input::ControlKey(source, code, 0)) << code;
+  }
+  EXPECT_FALSE(bench.Drag().Active());
+  EXPECT_TRUE(Input::ControlKey(source, kSpace, 0));
+  EXPECT_FALSE(Input::ControlKey(source, 'A', 0));
+  EXPECT_TRUE(bench.Drag().Active());
+}
+
 TEST(KeyboardDrag, BeginsAtTheLastTargetByTheUpKey) {
   Dragging bench;
   bench.KeyOn(bench.On->cmdSource, kSpace);

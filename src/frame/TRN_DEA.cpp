@@ -3,8 +3,6 @@
 #include "frame/ModelFile.h"
 #include "frame/Wizard.h"
 
-#include <array>
-
 namespace Tarnwise {
 
 TRN_DEA::TRN_DEA(std::shared_ptr<Platform> platform) : wizard_(std::make_shared<Wizard>(std::move(platform))) {}

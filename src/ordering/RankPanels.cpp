@@ -4,7 +4,6 @@
 #include "runtime/Text.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Tarnwise {
 

@@ -3,8 +3,6 @@
 #include "runtime/Text.h"
 #include "tradeoffs/frmTradeOffsB.h"
 
-#include <algorithm>
-
 namespace Tarnwise {
 
 namespace {

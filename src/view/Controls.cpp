@@ -1,6 +1,5 @@
 #include "view/Dispatch.h"
 #include "view/Form.h"
-#include "view/Platform.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 #include "view/Drag.h"
 
 #include "view/Dispatch.h"
-#include "view/Platform.h"
 #include "view/Reach.h"
 
 #include <algorithm>

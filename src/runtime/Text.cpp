@@ -60,30 +60,30 @@ String NumberTextOf(Double x, int significant) {
 
 bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
+bool IsSign(char c) { return c == '+' || c == '-'; }
+
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-// The length of the number at the start of the text (no blanks in it), 0 if there is none.
+// The length of the number at the start of the text (no blanks in it), 0 if there is none. Behind its last character a
+// string has a zero, which is no part of a number.
 std::size_t NumberLength(const std::string& s) {
   std::size_t i = 0;
-  if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
+  if (IsSign(s[i])) ++i;
   const std::size_t first = i;
-  while (i < s.size() && IsDigit(s[i])) ++i;
+  while (IsDigit(s[i])) ++i;
   std::size_t digits = i - first;
-  if (i < s.size() && s[i] == '.') {
+  if (s[i] == '.') {
     const std::size_t point = i++;
-    while (i < s.size() && IsDigit(s[i])) ++i;
+    while (IsDigit(s[i])) ++i;
     digits += i - point - 1;
   }
   if (digits == 0) return 0;
-  std::size_t e = i;
-  if (e < s.size() && (s[e] == 'e' || s[e] == 'E' || s[e] == 'd' || s[e] == 'D')) {
-    ++e;
-    if (e < s.size() && (s[e] == '+' || s[e] == '-')) ++e;
-    const std::size_t power = e;
-    while (e < s.size() && IsDigit(s[e])) ++e;
-    if (e > power) i = e;
-  }
-  return i;
+  if (s[i] != 'e' && s[i] != 'E' && s[i] != 'd' && s[i] != 'D') return i;
+  std::size_t e = i + 1;
+  if (IsSign(s[e])) ++e;
+  if (!IsDigit(s[e])) return i;
+  while (IsDigit(s[e])) ++e;
+  return e;
 }
 
 // Whether a number that no Double holds is too large (else it is too small). The text has no blanks.

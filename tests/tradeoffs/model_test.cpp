@@ -146,6 +146,31 @@ TEST(SuggestionAboveOne, ABeginningInTheBandSkipsTheLoop) {
   EXPECT_NEAR(p.BY, 53.333F, 0.02F);
 }
 
+// Curves with their points at the scores of the first pass, and numbers without a rounding: B's second value is above
+// A's by just `times` fifths of the room there.
+WizardData AtTheEdge(Double times) {
+  WizardData data = Pair();
+  GiveScale(data, 0, 0.0, 3.0);
+  GiveScale(data, 1, 0.0, 3.0);
+  const Double ofA = 0.25 + 0.0625 * times;  // room is 5/8, a fifth of it 1/8, halved by the ratio 2
+  GiveCurve(data, 0, {0, 1, static_cast<Double>(1.3F), 3}, {0, 0.25, ofA, 1});
+  GiveCurve(data, 1, {0, 1, 2, 3}, {0, 0.375, 0.75, 1});
+  return data;
+}
+
+TEST(SuggestionAboveOne, BothEndsOfTheBandCountAtTheBeginning) {
+  for (const Double times : {1.0, 2.0}) {
+    WizardData data = AtTheEdge(times);
+    SuggestABPoints(data, 0, 1, 2.0);
+    EXPECT_EQ(data.ABPoints2[0].AX, 1.3F) << times;
+  }
+  for (const Double times : {0.999, 2.001}) {
+    WizardData data = AtTheEdge(times);
+    SuggestABPoints(data, 0, 1, 2.0);
+    EXPECT_LT(data.ABPoints2[0].AX, 1.3F) << times;
+  }
+}
+
 // c after each pass, as the loop has it.
 Double NextC(Double c) { return std::nearbyint(c * 0.999 * 10000.0) / 10000.0; }
 

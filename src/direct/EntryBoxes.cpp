@@ -1,5 +1,6 @@
 // The two boxes in which an interval is typed: which keys pass, what is checked on leaving, and how the typed value
 // moves its handle.
+#include "direct/NumberKeys.h"
 #include "direct/frmDirectB.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
@@ -11,8 +12,6 @@ namespace {
 enum Key { kBackspace = 8, kReturn = 13, kCtrlV = 22, kBlank = 32, kInsert = 45 };
 constexpr int kShift = 1;
 
-bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
-
 }  // namespace
 
 void frmDirectB::ConnectEntryBox(TextBox& box, Box which) {
@@ -23,7 +22,7 @@ void frmDirectB::ConnectEntryBox(TextBox& box, Box which) {
     if (key.Code == kCtrlV) key.Code = 0;
     FilterEntryKey(box, which, key);
   };
-  box.KeyUp = [this, &box](KeyEvent&) { RemoveSecondPoint(box); };
+  box.KeyUp = [&box](KeyEvent&) { RemoveSecondPoint(box); };
   box.LostFocus = [this, &box, which] { EntryLeft(box, which); };
 }
 
@@ -49,31 +48,14 @@ void frmDirectB::FilterEntryKey(TextBox& box, Box which, KeyEvent& key) {
   if (!IsNumeric(key.Code)) key.Code = 0;
 }
 
-void frmDirectB::RemoveSecondPoint(TextBox& box) {
-  const String& text = box.Text();
-  const auto point = text.find('.');
-  if (point == String::npos || text.find('.', point + 1) == String::npos) return;
-  if (box.SelStart < 1) return;
-  box.SelStart = box.SelStart - 1;
-  box.SelLength = 1;
-  box.SetSelText("");
-}
-
 void frmDirectB::CheckEntry(TextBox& box) {
   const Double v = Val(Trim(box.Text()));
   const Double hi = Val(txtWRUpper.Text());
   if (v > 0.0 && v <= hi) {
     mEntryOK = 1;
-    return;
+  } else {
+    RefuseEntry(box, "greater than zero and less than or equal to " + NumberText(hi));
   }
-  mEntryOK = 0;
-  Screen().Beep();
-  Screen().SetFocus(box);
-  box.SelStart = 0;
-  box.SelLength = Length(box.Text());
-  Screen().MessageBox(
-      "The weight ratio you entered should be greater than zero and less than or equal to " + NumberText(hi) + "!",
-      kExclamation, kKesta);
 }
 
 // Ready for use, but no event calls it: an upper value below the lower one is let through, and the chart sorts the two.
@@ -82,15 +64,18 @@ void frmDirectB::CheckUpperEntry(TextBox& box) {
   const Double lo = Val(txtWRLower.Text());
   if (v >= lo) {
     mEntryOK = 1;
-    return;
+  } else {
+    RefuseEntry(box, "greater than or equal to " + NumberText(lo));
   }
+}
+
+void frmDirectB::RefuseEntry(TextBox& box, const String& wanted) {
   mEntryOK = 0;
   Screen().Beep();
   Screen().SetFocus(box);
   box.SelStart = 0;
   box.SelLength = Length(box.Text());
-  Screen().MessageBox("The weight ratio you entered should be greater than or equal to " + NumberText(lo) + "!",
-                      kExclamation, kKesta);
+  Screen().MessageBox("The weight ratio you entered should be " + wanted + "!", kExclamation, kKesta);
 }
 
 void frmDirectB::EntryLeft(TextBox& box, Box which) {

@@ -66,9 +66,9 @@ struct frmDirectB : DirectBForm {
 
   // The entry boxes.
   void FilterEntryKey(TextBox& box, Box which, KeyEvent& key);
-  void RemoveSecondPoint(TextBox& box);
   void CheckEntry(TextBox& box);
   void CheckUpperEntry(TextBox& box);
+  void RefuseEntry(TextBox& box, const String& wanted);
   void EntryLeft(TextBox& box, Box which);
   void ApplyTypedValue(Box which);
 

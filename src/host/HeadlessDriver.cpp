@@ -1,5 +1,4 @@
 #include "host/Driver.h"
-#include "runtime/Text.h"
 #include "view/Dispatch.h"
 #include "view/Input.h"
 #include "view/Platform.h"
@@ -17,7 +16,7 @@ class HeadlessDriver : public Driver {
   void Click(Control& control) override {
     const auto held = control.Owner.shared_from_this();
     if (!Input::Press(control)) return;
-    if (control.Type == Kind::TextBox) PutCaretAtEnd(control);
+    Input::PutCaretAtEnd(control);
     Input::Activate(control);
   }
 
@@ -33,7 +32,7 @@ class HeadlessDriver : public Driver {
 
   void Focus(Control& control) override {
     const auto held = control.Owner.shared_from_this();
-    if (Input::MoveFocus(control) && control.Type == Kind::TextBox) PutCaretAtEnd(control);
+    if (Input::MoveFocus(control)) Input::PutCaretAtEnd(control);
   }
 
   void Key(Form& form, const KeyStroke& key) override { TypeKey(form, key.Code, key.Character, key.Shift); }
@@ -53,12 +52,6 @@ class HeadlessDriver : public Driver {
   bool Shot(Form& /*form*/, const String& /*path*/) override { return false; }
 
  private:
-  static void PutCaretAtEnd(Control& control) {
-    auto& box = static_cast<TextBox&>(control);
-    box.SelStart = Length(box.Text());
-    box.SelLength = 0;
-  }
-
   std::shared_ptr<HeadlessToolkit> toolkit_ = std::make_shared<HeadlessToolkit>();
   std::shared_ptr<Platform> screen_ = std::make_shared<Platform>(toolkit_);
 };

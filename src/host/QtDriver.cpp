@@ -1,6 +1,5 @@
 // Real mouse and key events to the real widgets: a script's user under the Qt toolkit.
 #include "host/Driver.h"
-#include "runtime/Text.h"
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
@@ -86,12 +85,7 @@ class QtDriver : public Driver {
 
   void Focus(Control& control) override {
     const auto held = control.Owner.shared_from_this();
-    const bool there = Input::MoveFocus(control);
-    if (there && control.Type == Kind::TextBox) {
-      auto& box = static_cast<TextBox&>(control);
-      box.SelStart = Length(box.Text());
-      box.SelLength = 0;
-    }
+    if (Input::MoveFocus(control)) Input::PutCaretAtEnd(control);
     screen_->SyncAll();
   }
 

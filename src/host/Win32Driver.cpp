@@ -2,7 +2,6 @@
 #include "host/Win32Driver.h"
 
 #include "host/WindowPicture.h"
-#include "runtime/Text.h"
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
@@ -126,12 +125,7 @@ class Win32Driver : public Driver {
   void Focus(Control& control) override {
     const auto held = Ready(control);
     const WinEntry entry(control.Owner);
-    const bool there = Input::MoveFocus(control);
-    if (there && control.Type == Kind::TextBox) {
-      auto& box = static_cast<TextBox&>(control);
-      box.SelStart = Length(box.Text());
-      box.SelLength = 0;
-    }
+    if (Input::MoveFocus(control)) Input::PutCaretAtEnd(control);
     screen_->SyncAll();
   }
 

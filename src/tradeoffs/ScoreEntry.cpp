@@ -1,4 +1,5 @@
 // The four scores, typed or stepped.
+#include "direct/NumberKeys.h"
 #include "numerics/mdGraphs.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
@@ -14,8 +15,6 @@ constexpr int kShift = 1;
 constexpr Integer kYes = -1;
 
 String ScoreText(Double score) { return StripTrailingDot(Format(score, "0.##")); }
-
-bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
 
 }  // namespace
 
@@ -65,15 +64,7 @@ void frmTradeOffsB::ScoreKey(KeyEvent& key, TextBox& box) {
   }
 }
 
-void frmTradeOffsB::DropExtraPoint(TextBox& box) {
-  const String& text = box.Text();
-  const auto point = text.find('.');
-  if (point == String::npos || text.find('.', point + 1) == String::npos) return;
-  if (box.SelStart < 1) return;
-  box.SelStart = box.SelStart - 1;
-  box.SelLength = 1;
-  box.SetSelText("");
-}
+void frmTradeOffsB::DropExtraPoint(TextBox& box) { RemoveSecondPoint(box); }
 
 bool frmTradeOffsB::CheckScore(TextBox& box, Single low, Single high) {
   const auto v = static_cast<Single>(Val(Trim(box.Text())));  // what no Single holds is out of every range

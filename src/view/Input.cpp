@@ -1,5 +1,6 @@
 #include "view/Input.h"
 
+#include "runtime/Text.h"
 #include "view/Dispatch.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
@@ -217,6 +218,13 @@ void TextEdited(TextBox& box, const String& text, int caret) {
   if (text == box.Text()) return;
   box.Text = text;
   RaiseEvent(box, "Change", box.Change);
+}
+
+void PutCaretAtEnd(Control& control) {
+  if (control.Type != Kind::TextBox) return;
+  auto& box = static_cast<TextBox&>(control);
+  box.SelStart = Length(box.Text());
+  box.SelLength = 0;
 }
 
 bool ControlKey(Control& control, int code, int shift) {

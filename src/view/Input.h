@@ -24,6 +24,8 @@ void CloseForm(Form& form);
 bool KeyDown(TextBox& box, KeyEvent& key);
 bool KeyPress(TextBox& box, KeyEvent& key);
 void KeyUp(TextBox& box, KeyEvent key);
+// Behind the last character, with nothing selected; what is no text box is left alone.
+void PutCaretAtEnd(Control& control);
 // The text has become this one by the person's hand.
 void TextEdited(TextBox& box, const String& text, int caret);
 

@@ -126,6 +126,21 @@ bool TakesFocus(const Control& control) {
 
 bool TakesTab(const Control& control) { return TakesFocus(control) || control.Type == Kind::Toolbar; }
 
+bool FollowsMouse(const Control& control) {
+  switch (control.Type) {
+    case Kind::CommandButton:
+    case Kind::OptionButton:
+    case Kind::CheckBox:
+    case Kind::TextBox:
+    case Kind::VScrollBar:
+    case Kind::ComboBox:
+    case Kind::ImageCombo:
+    case Kind::Toolbar:
+    case Kind::Grid: return true;
+    default: return false;
+  }
+}
+
 bool HasCaption(const Control& control) {
   return control.Type == Kind::Label || control.Type == Kind::CommandButton || control.Type == Kind::OptionButton ||
          control.Type == Kind::CheckBox;

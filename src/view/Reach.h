@@ -45,8 +45,10 @@ bool IsCovered(const Control& control);   // a panel stands in front of it or of
 bool TakesFocus(const Control& control);  // by its kind, from a press
 bool TakesTab(const Control& control);    // Tab also goes to toolbars, whose buttons a press leaves without the focus
 
-// What toolkits ask of a kind: a caption that is cut where there is no room, rows of which a press chooses one, keys
-// that the native control may answer when the tree has no use for them.
+// What toolkits ask of a kind: a native control that does the rest of a press by itself, a caption that is cut where
+// there is no room, rows of which a press chooses one, keys that the native control may answer when the tree has no use
+// for them.
+bool FollowsMouse(const Control& control);
 bool HasCaption(const Control& control);
 bool HasRows(const Control& control);
 bool AnswersKeys(const Control& control);

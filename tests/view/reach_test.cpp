@@ -52,7 +52,7 @@ TEST(Place, OfAPointIsTheSameAfterItsWayToTheFormAndBack) {
   EXPECT_EQ(middle.Y, 2500.0 + 600.0 + 250.0);
 }
 
-TEST(Kinds, OfWhichACaptionIsCutARowIsPressedOrTheNativeControlAnswersKeys) {
+TEST(Kinds, OfWhichTheNativeControlFollowsTheMouseACaptionIsCutARowIsPressedOrKeysAreAnswered) {
   Bench bench;
   BenchForm& form = *bench.On;
   const std::vector<Control*> all = {&form.lblText, &form.cmdGo,    &form.optOne, &form.chkBox,
@@ -62,6 +62,7 @@ TEST(Kinds, OfWhichACaptionIsCutARowIsPressedOrTheNativeControlAnswersKeys) {
     for (const Control* control : all) names += is(*control) ? control->Name + " " : "";
     return names;
   };
+  EXPECT_EQ(those(FollowsMouse), "cmdGo optOne chkBox txtFirst vsrBar ");
   EXPECT_EQ(those(HasCaption), "lblText cmdGo optOne chkBox ");
   EXPECT_EQ(those(HasRows), "lstRows ");
   EXPECT_EQ(those(AnswersKeys), "lstRows ");

@@ -74,19 +74,11 @@ bool QtDrag::Move(const QPointF& inWindow) {
   return true;
 }
 
-bool QtDrag::Release() {
-  if (!on_ || form_.isNull() || form_->Tree() == nullptr) {
-    Clear();
-    return false;
-  }
-  const QtEntry entry(*form_->Tree());
-  Platform& platform = form_->Tree()->Screen();
-  Clear();
-  platform.Drag.Drop();
-  return true;
-}
+bool QtDrag::Release() { return End(&DragSession::Drop); }
 
-bool QtDrag::Cancel() {
+bool QtDrag::Cancel() { return End(&DragSession::Cancel); }
+
+bool QtDrag::End(void (DragSession::*how)()) {
   if (!on_ || form_.isNull() || form_->Tree() == nullptr) {
     Clear();
     return false;
@@ -94,7 +86,7 @@ bool QtDrag::Cancel() {
   const QtEntry entry(*form_->Tree());
   Platform& platform = form_->Tree()->Screen();
   Clear();
-  platform.Drag.Cancel();
+  (platform.Drag.*how)();
   return true;
 }
 

@@ -1,7 +1,7 @@
 // The pointer's side of an automatic drag: from the press through the moves to the release, and what is seen of it.
 #pragma once
 
-#include "view/Controls.h"
+#include "view/Drag.h"
 
 #include <QPixmap>
 #include <QPointF>
@@ -32,6 +32,7 @@ class QtDrag {
   void Follow(QtForm& form, const QPointF& inWindow);
   QPixmap PictureOf(QtForm& form, const Control& source);
   void SetCursor(int mousePointer, bool overTarget);
+  bool End(void (DragSession::*how)());
   void Clear();
 
   QPointer<QtForm> form_;

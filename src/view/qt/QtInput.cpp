@@ -23,22 +23,6 @@ namespace Tarnwise {
 
 namespace {
 
-// The widget does the rest of a press by itself.
-bool FollowsMouse(const Control& control) {
-  switch (control.Type) {
-    case Kind::CommandButton:
-    case Kind::OptionButton:
-    case Kind::CheckBox:
-    case Kind::TextBox:
-    case Kind::VScrollBar:
-    case Kind::ComboBox:
-    case Kind::ImageCombo:
-    case Kind::Toolbar:
-    case Kind::Grid: return true;
-    default: return false;
-  }
-}
-
 // In the control's own numbers, -1 where there is none.
 int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
   if (control.Type == Kind::ListBox) return static_cast<const QListWidget&>(widget).indexAt(at).row();

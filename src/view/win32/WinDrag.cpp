@@ -99,19 +99,11 @@ bool WinDrag::Move(double x, double y) {
   return true;
 }
 
-bool WinDrag::Release() {
-  if (!on_ || !Alive()) {
-    Clear();
-    return false;
-  }
-  const WinEntry entry(*form_->Tree());
-  Platform& platform = form_->Tree()->Screen();
-  Clear();
-  platform.Drag.Drop();
-  return true;
-}
+bool WinDrag::Release() { return End(&DragSession::Drop); }
 
-bool WinDrag::Cancel() {
+bool WinDrag::Cancel() { return End(&DragSession::Cancel); }
+
+bool WinDrag::End(void (DragSession::*how)()) {
   if (!on_ || !Alive()) {
     Clear();
     return false;
@@ -119,7 +111,7 @@ bool WinDrag::Cancel() {
   const WinEntry entry(*form_->Tree());
   Platform& platform = form_->Tree()->Screen();
   Clear();
-  platform.Drag.Cancel();
+  (platform.Drag.*how)();
   return true;
 }
 

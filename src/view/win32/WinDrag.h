@@ -1,8 +1,7 @@
 // The pointer's side of an automatic drag: from the press through the moves to the release, and what is seen of it.
 #pragma once
 
-#include "view/Controls.h"
-
+#include "view/Drag.h"
 #include "view/win32/WinApi.h"
 
 namespace Tarnwise {
@@ -34,6 +33,7 @@ class WinDrag {
   bool Alive() const;
   void Follow(WinForm& form, double x, double y);
   void MakeGhost(WinForm& form, const Control& source);
+  bool End(void (DragSession::*how)());
   void Clear();
 
   WinForm* form_ = nullptr;

@@ -100,6 +100,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   bool Mnemonic(WPARAM character);
   bool KeyDown(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
   bool Character(HWND window, WPARAM unit);
+  void TakeText(TextBox& box, HWND edit);
   void KeyUp(int code);
   void CloseWanted();
   void Ticked(UINT_PTR id);

@@ -18,23 +18,6 @@ namespace {
 
 constexpr UINT kDpiChanged = 0x02E0;
 
-// The window does the rest of a press by itself.
-bool FollowsMouse(const Control& control) {
-  if (control.DragAutomatic) return false;
-  switch (control.Type) {
-    case Kind::CommandButton:
-    case Kind::OptionButton:
-    case Kind::CheckBox:
-    case Kind::TextBox:
-    case Kind::VScrollBar:
-    case Kind::ComboBox:
-    case Kind::ImageCombo:
-    case Kind::Toolbar:
-    case Kind::Grid: return true;
-    default: return false;
-  }
-}
-
 POINT PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
 POINT Mapped(HWND from, HWND to, POINT at) {
@@ -99,7 +82,7 @@ std::optional<LRESULT> WinForm::Mouse(HWND window, Control& control, UINT messag
 bool WinForm::Press(HWND window, Control& control, POINT inWindow) {
   const auto held = shared_from_this();
   const WinEntry entry(*form_);
-  const bool native = FollowsMouse(control);
+  const bool native = !control.DragAutomatic && FollowsMouse(control);
   press_ = {&control, -1, false, native};
   toolkit_.Drag().Cancel();
   if (form_->Screen().Drag.Active()) form_->Screen().Drag.Cancel();

@@ -114,12 +114,7 @@ bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam
     SyncControl(box);
     if (edit != window) return true;
     DefSubclassProc(window, message, static_cast<WPARAM>(down.Code), lParam);
-    const std::wstring text = TextOf(edit);
-    if (Utf8(text) != box.Text())
-      Input::TextEdited(box, Utf8(text), CharactersBefore(text, CaretOf(edit)));
-    else
-      StoreCaret(box, edit);
-    Settle(form_ != nullptr ? ControlOf(edit) : nullptr);
+    TakeText(box, edit);
     return true;
   }
   if ((shift & 2) == 0 && Input::ControlKey(*active, code, shift)) {
@@ -166,13 +161,18 @@ bool WinForm::Character(HWND window, WPARAM unit) {
   }
   SyncControl(box);
   if (types) TypeCharacter(edit, press.Code);
+  TakeText(box, edit);
+  return true;
+}
+
+// What a key left in the native box.
+void WinForm::TakeText(TextBox& box, HWND edit) {
   const std::wstring text = TextOf(edit);
   if (Utf8(text) != box.Text())
     Input::TextEdited(box, Utf8(text), CharactersBefore(text, CaretOf(edit)));
   else
     StoreCaret(box, edit);
   Settle(form_ != nullptr ? ControlOf(edit) : nullptr);
-  return true;
 }
 
 void WinForm::KeyUp(int code) {

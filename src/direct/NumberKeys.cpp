@@ -1,0 +1,17 @@
+#include "direct/NumberKeys.h"
+
+namespace Tarnwise {
+
+bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
+
+void RemoveSecondPoint(TextBox& box) {
+  const String& text = box.Text();
+  const auto point = text.find('.');
+  if (point == String::npos || text.find('.', point + 1) == String::npos) return;
+  if (box.SelStart < 1) return;
+  box.SelStart = box.SelStart - 1;
+  box.SelLength = 1;
+  box.SetSelText("");
+}
+
+}  // namespace Tarnwise

@@ -1,0 +1,14 @@
+// What both judgment steps do with what is typed into their number boxes.
+#pragma once
+
+#include "view/Controls.h"
+
+namespace Tarnwise {
+
+// Digits and the point; there are no signs and no exponents.
+bool IsNumeric(int character);
+
+// Where the text holds two points, the character before the caret goes; with the caret at the start, none.
+void RemoveSecondPoint(TextBox& box);
+
+}  // namespace Tarnwise

@@ -56,33 +56,21 @@ keys alt+n
 window 'Give rank orders'
 lose_screen KILL
 
-judge_intervals() {  # on to the last step, with an interval judged
+judge_interval() {
   keys alt+n
-  window 'Give rank orders'
-  keys space Down space
-  keys Tab Tab Tab Return
-  keys shift+Tab shift+Tab space Down Down space
-  drag 605 135 890 139
-  click 819 424
-  drag 605 162 890 181
-  keys alt+n
-  window 'Designate reference'
-  click 200 115
-  click 700 157
-  keys alt+n
-  window 'Estimate intervals'
+  rank_and_choose_references
   drag 257 218 170 214
   keys alt+e
 }
 
 moment='modal step inside a modal step, an interval judged'
 open_wizard
-judge_intervals
+judge_interval
 lose_screen TERM
 
 moment='message box open'
 open_wizard
-judge_intervals
+judge_interval
 click 800 95
 keys End Return
 keys Tab ctrl+a 0 Return

@@ -27,3 +27,22 @@ drag() {  # drag FROM_X FROM_Y TO_X TO_Y
   xdotool mouseup 1
   sleep 0.2
 }
+
+# From the second step to the last, on samples/hospitals.kst.
+rank_and_choose_references() {
+  window 'Give rank orders'
+  # Benefit by keyboard: the first attribute to rank 1, a second rank, the other attribute to it.
+  keys space Down space
+  keys Tab Tab Tab Return
+  keys shift+Tab shift+Tab space Down Down space
+  # Cost by mouse: the first to rank 1, Add, the second to the new rank.
+  drag 605 135 890 139
+  click 819 424
+  drag 605 162 890 181
+  keys alt+n
+  window 'Designate reference'
+  click 200 115
+  click 700 157
+  keys alt+n
+  window 'Estimate intervals'
+}

@@ -25,24 +25,8 @@ wizard=$!
 window 'Select an approach'
 keys alt+n
 
-# Benefit by keyboard: the first attribute to rank 1, a second rank, the other attribute to it.
-window 'Give rank orders'
-keys space Down space
-keys Tab Tab Tab Return
-keys shift+Tab shift+Tab space Down Down space
-# Cost by mouse: the first to rank 1, Add, the second to the new rank.
-drag 605 135 890 139
-click 819 424
-drag 605 162 890 181
-keys alt+n
-
-window 'Designate reference'
-click 200 115
-click 700 157
-keys alt+n
-
+rank_and_choose_references
 # The first pair by mouse, the other by typing.
-window 'Estimate intervals'
 drag 257 218 170 214
 keys alt+e
 click 800 95

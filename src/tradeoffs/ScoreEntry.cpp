@@ -87,7 +87,6 @@ void frmTradeOffsB::CheckScores() {
   if (!CheckScore(Scores.txtTradeOffAFirstScore, XMin, XMax)) return;
   mScoresBad = 0;
   if (!CheckScore(Scores.txtTradeOffBFirstScore, XMin, XMax)) return;
-  mScoresBad = 0;
   if (!CheckScore(Scores.txtTradeOffASecondScore, YMin, YMax)) return;
   CheckScore(Scores.txtTradeOffBSecondScore, YMin, YMax);
 }

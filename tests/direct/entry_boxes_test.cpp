@@ -65,6 +65,12 @@ TEST(EntryKeys, KeepAPointThatReplacesTheOnlyOne) {
             Lines{R"(".5")"});
 }
 
+TEST(EntryKeys, WithShiftPassButForInsert) {
+  EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Shift+Left\nget txtWRLower.SelStart\n"
+                                                 "key Shift+Insert\nget txtWRLower.Text"),
+            (Lines{"2", R"("1.3")"}));
+}
+
 TEST(LeavingABox, AppliesAPassedValueToItsHandle) {
   const Lines printed =
       Ward().Play(InEmptied("txtWRLower") +

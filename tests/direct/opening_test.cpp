@@ -2,6 +2,7 @@
 #include "direct/Ward.h"
 #include "direct/frmDirectB.h"
 #include "support/TestHost.h"
+#include "view/Input.h"
 
 #include <gtest/gtest.h>
 
@@ -311,6 +312,17 @@ TEST(EmptyGroup, OfBenefitsLeavesTheCostGroupToBeJudgedAlone) {
       session.Ask(Wedge(120, 150) + "click cmdEnter\nselect imgcmbTargetAtt 3\nclick cmdEnter\nget cmdNext.Enabled\n"
                                     "data Weights\nclick cmdNext\nget gridBRJ.Rows\nget gridCRJ.Rows"),
       (Lines{"true", "[1.35,1,0.8]", "1", "4"}));
+}
+
+TEST(EntryKeys, DropASecondPointBeforeTheNextCharacterToo) {
+  OpenForm<frmDirectB> step(WardData());
+  step.Open();
+  TextBox& box = step.Form->txtWRLower;
+  box.SetText("1.2.3");
+  box.SelStart = 4;
+  KeyEvent five{'5', 0};
+  EXPECT_TRUE(Input::KeyPress(box, five));
+  EXPECT_EQ(box.Text(), "1.23");
 }
 
 }  // namespace

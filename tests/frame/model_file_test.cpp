@@ -316,5 +316,19 @@ TEST_F(ModelFile, NumbersKeepEveryBit) {
   EXPECT_TRUE(std::signbit(data.Scores.Scores(1, 0)));
 }
 
+TEST(ClearModel, LeavesNoVariantOfAnyKind) {
+  WizardData data;
+  ClearModel(data);
+  const std::vector<Variant> kinds = {Null(), Variant(Integer{1}), Variant(1.5), Variant(String("text")),
+                                      Variant(true)};
+  for (std::size_t k = 0; k < kinds.size(); ++k) {
+    data.AttValueData.ValuePointX(static_cast<int>(k), 0) = kinds[k];
+    data.AttValueData.ValuePointY(0, static_cast<int>(k)) = kinds[k];
+  }
+  ClearModel(data);
+  for (const Variant& value : data.AttValueData.ValuePointX.Items()) EXPECT_EQ(value.index(), 0U);
+  for (const Variant& value : data.AttValueData.ValuePointY.Items()) EXPECT_EQ(value.index(), 0U);
+}
+
 }  // namespace
 }  // namespace Tarnwise

@@ -270,6 +270,17 @@ TEST(KeyboardDrag, IsGivenUpByTab) {
   EXPECT_FALSE(bench.Drag().Active());
 }
 
+TEST(Drag, PointerStandsInTheMiddleOfItsSourceUntilItIsOverATarget) {
+  Dragging bench;
+  bench.Drag().Begin(bench.On->cmdSource);
+  EXPECT_EQ(PointerOf(bench.Drag()).X, 3600.0 + 500.0);
+  EXPECT_EQ(PointerOf(bench.Drag()).Y, 500.0 + 100.0 + 150.0);
+  bench.Drag().Over(bench.On->picRow[1], 30.0F, 40.0F);
+  EXPECT_EQ(PointerOf(bench.Drag()).X, 100.0 + 30.0);
+  EXPECT_EQ(PointerOf(bench.Drag()).Y, 500.0 + 2000.0 + 600.0 + 40.0);
+  bench.Drag().Cancel();
+}
+
 TEST(KeyboardDrag, KeepsAHandleWithinItsContainer) {
   Dragging bench;
   bench.NoteDrags(bench.On->picChart);

@@ -75,10 +75,13 @@ String RowText(const Control& list, int row) {
   }
 }
 
-// Marks and blanks may stand before the letter that a row begins with.
+// Marks and blanks may stand before the letter that a row begins with. Letters beyond ASCII have no key here.
 bool BeginsWith(const String& text, int capital) {
-  const auto first = std::find_if(text.begin(), text.end(), [](char c) { return c > 0 && std::isalnum(c) != 0; });
-  return first != text.end() && std::toupper(*first) == capital;
+  const auto first = std::find_if(text.begin(), text.end(), [](char c) {
+    const int byte = static_cast<unsigned char>(c);
+    return byte < 0x80 ? std::isalnum(byte) != 0 : byte >= 0xC3;  // 0xC2 and what follows it are marks
+  });
+  return first != text.end() && std::toupper(static_cast<unsigned char>(*first)) == capital;
 }
 
 // A letter or a digit chooses the next row that begins with it, from the first again after the last.
@@ -87,9 +90,10 @@ bool LetterKey(Control& list, int code) {
   if (!isLetterOrDigit || list.Type == Kind::TabStrip) return false;
   const Rows rows = RowsOf(list);
   const int count = rows.Last - rows.First + 1;
-  for (int step = 1; step < count; ++step) {
-    const int row = rows.First + (std::max(rows.Present, rows.First - 1) - rows.First + step + count) % count;
-    if (!BeginsWith(RowText(list, row), code)) continue;
+  const int before = std::max(rows.Present - rows.First, -1);  // counted from 0; -1 where none is chosen
+  for (int step = 1; step <= count; ++step) {
+    const int row = rows.First + (before + step) % count;
+    if (row == rows.Present || !BeginsWith(RowText(list, row), code)) continue;
     SelectRow(list, row);
     break;
   }

@@ -67,7 +67,7 @@ TEST(ListKeys, LettersAndDigitsGoToTheNextRowThatBeginsWithThem) {
   list.List = std::vector<String>{"Beds", "  care", "2 beds", "Born", "\xC2\xA4 Doctors", "\xC3\x84rzte"};
   list.ListIndex = 0;
   list.Click = [&] { lists.Notes.push_back(std::to_string(list.ListIndex())); };
-  for (const int code : {'B', 'B', 'C', '2', 'D', 'D', 'X', 'A'}) EXPECT_TRUE(lists.Key(list, code));
+  for (const int code : {'B', 'B', 'C', '2', 'D', 'D', 'X', 'A', 'R'}) EXPECT_TRUE(lists.Key(list, code));
   EXPECT_EQ(lists.Notes, (Lines{"3", "0", "1", "2", "4"}));
 
   ImageCombo combo(*lists.On, lists.On.get(), "combo");
@@ -79,13 +79,27 @@ TEST(ListKeys, LettersAndDigitsGoToTheNextRowThatBeginsWithThem) {
 
   ComboBox box(*lists.On, lists.On.get(), "box");
   box.List = std::vector<String>{"3.33", "2.50", "2.00"};
-  box.ListIndex = 0;
+  box.ListIndex = -1;
+  EXPECT_TRUE(lists.Key(box, '3'));
+  EXPECT_EQ(box.ListIndex(), 0);
   EXPECT_TRUE(lists.Key(box, '2'));
   EXPECT_EQ(box.ListIndex(), 1);
 
   TabStrip strip(*lists.On, lists.On.get(), "strip");
   strip.Tabs = {{"One", "one"}, {"Two", "two"}};
   EXPECT_FALSE(lists.Key(strip, 'T'));
+}
+
+TEST(ListKeys, ReachEveryRowWhereNoneIsChosen) {
+  Lists lists;
+  ImageCombo combo(*lists.On, lists.On.get(), "combo");
+  combo.Add({"Alpha", "Alpha", "", ""});
+  EXPECT_TRUE(lists.Key(combo, 'A'));
+  EXPECT_EQ(combo.SelectedItem(), 1);
+  combo.Add({"Beta", "Beta", "", ""});
+  combo.SelectedItem = 0;
+  EXPECT_TRUE(lists.Key(combo, 'B'));
+  EXPECT_EQ(combo.SelectedItem(), 2);
 }
 
 TEST(ListKeys, LeaveAllOtherKeysAlone) {

@@ -294,8 +294,6 @@ void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFi
     throw;
   }
   data.OrderChanged = false;
-  data.BRefAttID = 0;
-  data.CRefAttID = 0;
   platform.SetPointer(0);
 }
 

@@ -131,14 +131,18 @@ TEST_F(OpenModelFile, PathMayHoldAnyLetter) {
   EXPECT_EQ(data.NumAtts(), 5);
 }
 
-TEST_F(OpenModelFile, ReadFileResetsWhatSpeaksOfTheFormerOne) {
+TEST_F(OpenModelFile, NothingDiffersFromAFileJustRead) {
   data.OrderChanged = true;
+  Read(WholeFile());
+  EXPECT_FALSE(data.OrderChanged);
+}
+
+TEST_F(OpenModelFile, ReferencesOfARunningSessionOutliveTheReading) {
   data.BRefAttID = 3;
   data.CRefAttID = 4;
   Read(WholeFile());
-  EXPECT_FALSE(data.OrderChanged);
-  EXPECT_EQ(data.BRefAttID, 0);
-  EXPECT_EQ(data.CRefAttID, 0);
+  EXPECT_EQ(data.BRefAttID, 3);
+  EXPECT_EQ(data.CRefAttID, 4);
 }
 
 TEST_F(OpenModelFile, FailedOpenKeepsWhatSpeaksOfTheFormerFile) {

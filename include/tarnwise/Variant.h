@@ -4,6 +4,7 @@
 #include <tarnwise/Scalars.h>
 
 #include <cstdint>
+#include <optional>
 #include <variant>
 
 namespace Tarnwise {
@@ -34,5 +35,8 @@ Double ToDouble(const Variant& v);
 Single ToSingle(const Variant& v);
 Integer ToInteger(const Variant& v);
 String ToText(const Variant& v);
+
+// The number that is held; nothing for Empty, Null and a text that is no number.
+std::optional<Double> NumberIn(const Variant& v);
 
 }  // namespace Tarnwise

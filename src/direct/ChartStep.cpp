@@ -80,7 +80,7 @@ void frmDirectB::ComputeStoredRegion(int att) { mHandlePos[att] = RegionOf(att);
 void frmDirectB::ShowStoredRegion(int att) { ShowRegion(mHandlePos[att]); }
 
 void frmDirectB::ShowRefPairRegion() {
-  const ChartPoint p = RatioToPoint(ToDouble(data_.RefAttWR));
+  const ChartPoint p = RatioToPoint(NumberIn(data_.RefAttWR).value_or(0.0));  // none yet: at the bottom edge
   const HandlePoints at{p.X, p.Y, p.X, p.Y};
   PlaceHandles(at);
   DrawRegion(at);

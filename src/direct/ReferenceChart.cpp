@@ -16,8 +16,8 @@ Single Whole(Single x) { return static_cast<Single>(RoundHalfEven(static_cast<Do
 }  // namespace
 
 ChartPoint RatioToPoint(Double ratio) {
-  if (ratio > 1.0) return {static_cast<Single>(kLongSide / ratio), static_cast<Single>(kSide - kLongSide)};
-  if (ratio < 1.0) return {static_cast<Single>(kLongSide), static_cast<Single>(kSide - kLongSide * ratio)};
+  if (ratio > 1.0) return {ToSingleChecked(kLongSide / ratio), ToSingleChecked(kSide - kLongSide)};
+  if (ratio < 1.0) return {ToSingleChecked(kLongSide), ToSingleChecked(kSide - kLongSide * ratio)};
   return {kChartSize / 2.0F, kChartSize / 2.0F};
 }
 

@@ -25,7 +25,7 @@ struct HandlePoints {
 };
 
 // The point for a ratio: 1 stands in the centre, larger ones on the horizontal at 0.7 of the height, smaller ones on
-// the vertical at 0.7 of the width.
+// the vertical at 0.7 of the width. Error 6 where the point is beyond a Single.
 ChartPoint RatioToPoint(Double ratio);
 
 // The slope of the ray through a point. Error 11 at x = 0, 6 in the corner itself.

@@ -12,10 +12,8 @@ constexpr Group kGroups[] = {Group::Benefit, Group::Cost};
 constexpr Colour kRed = 255;
 constexpr Colour kBlue = 16711680;
 
-// Whether a stored reference is this attribute. Nothing stored reads as attribute 0; Null differs from nothing.
-bool DiffersFrom(const Variant& saved, int att) {
-  if (std::holds_alternative<Null>(saved)) return false;
-  return ToDouble(saved) != att;
+const Variant& SavedReference(const WizardData& data, Group g) {
+  return g == Group::Benefit ? data.SavedJudgments.SavedBRefAttID : data.SavedJudgments.SavedCRefAttID;
 }
 
 }  // namespace
@@ -26,7 +24,7 @@ void frmIniImpOrder::BuildDisplay(Group g) {
   display.vsrO.Enabled = false;
   display.vsrO.Top = 0.0F;
   display.vsrO.Height = display.picOrderFrame.Height - 60.0F;
-  const Single bottom = LayOutRows(display, AttsByRank(data_, g));
+  const Single bottom = LayOutRows(display, FinishedRanks(data_, g));
   if (display.picOrderFrame.Height + 20.0F < bottom) display.vsrO.Enabled = true;
 }
 
@@ -35,8 +33,7 @@ void frmIniImpOrder::ChooseReference(Group g, const CommandButton& button) {
   ReferenceOf(g).lblRefAtt.Caption = data_.AttName(att);
   Integer& reference = g == Group::Benefit ? data_.BRefAttID : data_.CRefAttID;
   reference = static_cast<Integer>(att);
-  const SavedJudgments& saved = data_.SavedJudgments;
-  if (DiffersFrom(g == Group::Benefit ? saved.SavedBRefAttID : saved.SavedCRefAttID, att)) data_.OrderChanged = true;
+  if (NumberIn(SavedReference(data_, g)) != att) data_.OrderChanged = true;
   PictureBox& mark = picIndicator[g == Group::Benefit ? 0 : 1];
   mark.Top = button.Top + (button.Height - mark.Height) * 0.5F;
   mark.Visible = true;
@@ -44,13 +41,13 @@ void frmIniImpOrder::ChooseReference(Group g, const CommandButton& button) {
   if (!BReference.lblRefAtt.Caption().empty() && !CReference.lblRefAtt.Caption().empty()) cmdNext.Enabled = true;
 }
 
+// What is stored may belong to no attribute of the group: then nothing is chosen, and nobody is told.
 void frmIniImpOrder::ChooseSavedReference(Group g) {
-  const SavedJudgments& saved = data_.SavedJudgments;
-  const Variant& stored = g == Group::Benefit ? saved.SavedBRefAttID : saved.SavedCRefAttID;
-  if (std::holds_alternative<Null>(stored)) return;  // equals no id
+  const std::optional<Double> stored = NumberIn(SavedReference(data_, g));
+  if (!stored) return;
   CommandButton* found = nullptr;
   ReferenceOf(g).Rows.cmdAttButtons.Each([&](CommandButton& button) {
-    if (!button.Tag().empty() && ToDouble(stored) == AttOfTag(button.Tag)) found = &button;
+    if (!button.Tag().empty() && *stored == AttOfTag(button.Tag)) found = &button;
   });
   if (found != nullptr) ChooseReference(g, *found);
 }

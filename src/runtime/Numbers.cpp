@@ -28,15 +28,14 @@ Double Divide(Double numerator, Double denominator) {
 
 Single DivideSingle(Single numerator, Single denominator) {
   if (denominator == 0.0F) throw RuntimeError(numerator == 0.0F ? 6 : 11);
-  const Single quotient = numerator / denominator;
-  if (!std::isfinite(quotient)) throw RuntimeError(6);
-  return quotient;
+  return CheckedSingle(numerator / denominator);
 }
 
-Single ToSingleChecked(Double x) {
-  const auto narrow = static_cast<Single>(x);
-  if (!std::isfinite(narrow)) throw RuntimeError(6);
-  return narrow;
+Single ToSingleChecked(Double x) { return CheckedSingle(static_cast<Single>(x)); }
+
+Single CheckedSingle(Single x) {
+  if (!std::isfinite(x)) throw RuntimeError(6);
+  return x;
 }
 
 }  // namespace Tarnwise

@@ -21,4 +21,7 @@ Single DivideSingle(Single numerator, Single denominator);
 // A Double stored as a Single: error 6 when it is too large for one.
 Single ToSingleChecked(Double x);
 
+// What came out of an operation on Singles: error 6 when it is too large for one.
+Single CheckedSingle(Single x);
+
 }  // namespace Tarnwise

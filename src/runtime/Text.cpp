@@ -1,5 +1,7 @@
 #include "runtime/Text.h"
 
+#include "runtime/Numbers.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -173,6 +175,12 @@ String Format(Double x, std::string_view pattern) {
 String NumberText(Double x) { return NumberTextOf(x, 15); }
 
 String NumberText(Single x) { return NumberTextOf(static_cast<Double>(x), 7); }
+
+String FourDecimalText(Double x) {
+  const Double rounded = RoundToFourDecimals(x);
+  char buffer[32];
+  return {buffer, std::to_chars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed).ptr};
+}
 
 String Trim(std::string_view text) {
   const auto first = text.find_first_not_of(' ');

@@ -23,6 +23,10 @@ String Format(Double x, std::string_view pattern);
 String NumberText(Double x);
 String NumberText(Single x);
 
+// x rounded to four decimals, with as many digits as read back as that number and never an exponent:
+// "332008345238.4678", "0.5", "-2". Error 6 beyond 64 bits.
+String FourDecimalText(Double x);
+
 // The text without the blanks at both ends (blanks alone, not tabs).
 String Trim(std::string_view text);
 

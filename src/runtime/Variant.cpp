@@ -33,6 +33,15 @@ Integer ToInteger(const Variant& v) {
   return static_cast<Integer>(rounded);
 }
 
+std::optional<Double> NumberIn(const Variant& v) {
+  if (std::holds_alternative<std::monostate>(v) || std::holds_alternative<Null>(v)) return std::nullopt;
+  try {
+    return ToDouble(v);
+  } catch (const RuntimeError&) {
+    return std::nullopt;
+  }
+}
+
 String ToText(const Variant& v) {
   if (std::holds_alternative<std::monostate>(v)) return {};
   if (const auto* text = std::get_if<String>(&v)) return *text;

@@ -20,7 +20,7 @@ Scale ScaleOf(const WizardData& data, int att) {
 
 String RatioText(Double numerator, Double denominator) {
   if (denominator == 0.0) return kInfinity;
-  return NumberText(RoundToFourDecimals(numerator / denominator));
+  return FourDecimalText(numerator / denominator);
 }
 
 // The scores of A and B on the way to a suggestion.

@@ -265,13 +265,26 @@ TEST(Resuming, ShowsTheStoredRatioOfTheReferences) {
 TEST(Resuming, WithoutAStoredRatioPlacesThePairOfReferencesAtTheBottomAndKeepsTheBoxes) {
   WizardData model = WardModel();
   StoreJudgments(model, kDirectType, 0, 3, 0.37, {1.0, 2.0, 2.0, 1.0, 0.5, 0.5, 0.5});
-  model.SavedJudgments.SavedRefAttWR = Variant();
+  for (const Variant& none : {Variant(), Variant(Null()), Variant(String("abc"))}) {
+    SCOPED_TRACE(none.index());
+    model.SavedJudgments.SavedRefAttWR = none;
+    Session session(model);
+    session.Given("host show\nclick cmdNext\nclick cmdNext\nclick cmdNext");
+    EXPECT_EQ(session.Ask(Choose(kNurses) + "get picHandle(0).Top\nget picHandle(1).Left\nget txtWRLower.Text\n"
+                                            "get txtWRUpper.Text\nget cmdEnter.Enabled\nget Timer1.Interval\n"
+                                            "get shpAlarm(0).FillColor\nget shpAlarm(1).FillColor"),
+              (Lines{"249", "173.4", R"("1.87")", R"("2.13")", "true", "0", "65280", "8421504"}));
+  }
+}
+
+TEST(Resuming, ARatioBeyondTheChartsNumbersIsReportedAndPlacesNothing) {
+  WizardData model = WardModel();
+  StoreJudgments(model, kDirectType, 0, 3, -1e300, {1.0, 2.0, 2.0, 1.0, 0.5, 0.5, 0.5});
   Session session(model);
   session.Given("host show\nclick cmdNext\nclick cmdNext\nclick cmdNext");
-  EXPECT_EQ(session.Ask(Choose(kNurses) + "get picHandle(0).Top\nget picHandle(1).Left\nget txtWRLower.Text\n"
-                                          "get txtWRUpper.Text\nget cmdEnter.Enabled\nget Timer1.Interval\n"
-                                          "get shpAlarm(0).FillColor\nget shpAlarm(1).FillColor"),
-            (Lines{"249", "173.4", R"("1.87")", R"("2.13")", "true", "0", "65280", "8421504"}));
+  EXPECT_EQ(Only(session.Play(Choose(kNurses)), "runtime_error"),
+            Lines{R"({"runtime_error":6,"description":"Overflow","in":"frmDirectB.imgcmbTargetAtt_Click"})"});
+  EXPECT_EQ(session.Play(Choose(kNurses) + "get picHandle(0).Top").back(), session.Play("get picHandle(0).Top").back());
 }
 
 TEST(Resuming, GoesByTheStoredTypeAloneEvenWhenTheOrderHasChanged) {

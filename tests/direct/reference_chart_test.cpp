@@ -1,5 +1,7 @@
 #include "direct/ReferenceChart.h"
 
+#include "runtime/ErrorNumber.h"
+
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
@@ -32,6 +34,13 @@ TEST(RatioToPoint, JumpsFromTheCentreToTheEdgesOfItsSquare) {
 TEST(RatioToPoint, PutsNothingAtTheBottomEdge) {
   EXPECT_EQ(RatioToPoint(0.0).X, 176.4F);
   EXPECT_EQ(RatioToPoint(0.0).Y, 252.0F);
+}
+
+TEST(RatioToPoint, BeyondASingleOverflows) {
+  EXPECT_EQ(ErrorNumber([] { return RatioToPoint(-1e37); }), 6);
+  EXPECT_EQ(ErrorNumber([] { return RatioToPoint(-1e300); }), 6);
+  EXPECT_LT(RatioToPoint(-1e36).Y, 2e38F);
+  EXPECT_EQ(RatioToPoint(1e300).X, 0.0F);
 }
 
 RC_GTEST_PROP(RatioToPoint, ComesBackAsTheSlope, ()) {

@@ -132,6 +132,24 @@ TEST(NumberText, OfWhatIsNoNumberOverflows) {
   EXPECT_EQ(ErrorNumber([] { return NumberText(-std::numeric_limits<Single>::infinity()); }), 6);
 }
 
+TEST(FourDecimalText, HasAllDigitsOfTheRoundedNumberAndNoExponent) {
+  EXPECT_EQ(FourDecimalText(332008345238.46777), "332008345238.4678");
+  EXPECT_EQ(FourDecimalText(-332008345238.46777), "-332008345238.4678");
+  EXPECT_EQ(FourDecimalText(900000000000000.0), "900000000000000");
+  EXPECT_EQ(FourDecimalText(0.466666), "0.4667");
+  EXPECT_EQ(FourDecimalText(0.5), "0.5");
+  EXPECT_EQ(FourDecimalText(-2.0), "-2");
+  EXPECT_EQ(FourDecimalText(0.0001), "0.0001");
+  EXPECT_EQ(FourDecimalText(0.00005), "0") << "half a ten-thousandth goes to the even one";
+  EXPECT_EQ(FourDecimalText(-0.00003), "0") << "there is no -0";
+}
+
+TEST(FourDecimalText, OfWhatSixtyFourBitsDoNotHoldOverflows) {
+  EXPECT_EQ(FourDecimalText(922337203685477.0), "922337203685477");
+  EXPECT_EQ(ErrorNumber([] { return FourDecimalText(922337203685478.0); }), 6);
+  EXPECT_EQ(ErrorNumber([] { return FourDecimalText(std::numeric_limits<Double>::quiet_NaN()); }), 6);
+}
+
 TEST(AppendUtf8, WritesEveryLengthOfACharacter) {
   String text = "x";
   const char32_t characters[] = {0x01, 0x7F, 0x80, 0x7FF, 0x800, 0x20FF, 0xFFFD, 0x10000, 0x1F9FF, 0x10FFFD};

@@ -54,6 +54,17 @@ TEST(Variant, TextThatIsNoNumberIsATypeMismatch) {
   }
 }
 
+TEST(Variant, HoldsANumberOrNot) {
+  EXPECT_EQ(NumberIn(Variant(0.37)), 0.37);
+  EXPECT_EQ(NumberIn(Variant(Integer{1})), 1.0);
+  EXPECT_EQ(NumberIn(Variant(true)), -1.0);
+  EXPECT_EQ(NumberIn(Variant(String(" 3.17 "))), 3.17);
+  for (const Variant& none : {Variant(), Variant(Null()), Variant(String()), Variant(String("abc")),
+                              Variant(String("1,5")), Variant(String("1e999"))}) {
+    EXPECT_EQ(NumberIn(none), std::nullopt) << none.index();
+  }
+}
+
 TEST(Variant, RoundsToIntegerFromATieToEven) {
   EXPECT_EQ(ToInteger(Variant(0.5)), 0);
   EXPECT_EQ(ToInteger(Variant(1.5)), 2);

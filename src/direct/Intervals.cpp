@@ -83,23 +83,23 @@ void PushNeighbours(WizardData& data, int target) {
   eachUntilJudged(own + 1, last + 1, 1, [&](int k) { LowerHigh(data, k, LowOf(data, target)); });
 }
 
-std::vector<int> CommitInterval(WizardData& data, int target, Double lo, Double hi) {
+void CommitInterval(WizardData& data, int target, Double lo, Double hi, const Settled& settled) {
   const Double mid = (hi + lo) / 2.0;
   const Interval interval = lo == hi ? Interval{mid, mid, mid} : Interval{lo, mid, hi};
   StoreInterval(data, target, interval);
   data.WeightDone[target] = true;
-  std::vector<int> judged = SameRankPeers(data, target);
-  for (const int k : judged) {
+  for (const int k : SameRankPeers(data, target)) {
     StoreInterval(data, k, interval);
     data.WeightDone[k] = true;
+    settled(k);
   }
   PushNeighbours(data, target);
-  return judged;
 }
 
 bool AllJudged(const WizardData& data) {
-  const auto& done = data.WeightDone.Items();
-  return std::all_of(done.begin(), done.end(), [](bool d) { return d; });
+  bool all = true;
+  for (int k = 0; k < data.NumAtts(); ++k) all = data.WeightDone[k] && all;
+  return all;
 }
 
 int FirstTarget(const WizardData& data) {

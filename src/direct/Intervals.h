@@ -4,6 +4,7 @@
 
 #include "frame/Groups.h"
 
+#include <functional>
 #include <vector>
 
 namespace Tarnwise {
@@ -28,10 +29,16 @@ std::vector<int> SameRankPeers(const WizardData& data, int target);
 // important end at its lower one. The nearest judged attribute on each side shields all that lie beyond it.
 void PushNeighbours(WizardData& data, int target);
 
-// The judgment lo to hi enters: stored, copied to the same-ranked attributes, pushed to the neighbours.
-// Returns the attributes that are judged by it now, in ascending id.
-std::vector<int> CommitInterval(WizardData& data, int target, Double lo, Double hi);
+// Called for each attribute that a judgment settles, in its turn: what has been settled stays so when a later one
+// fails.
+using Settled = std::function<void(int att)>;
+inline void NobodyIsTold(int /*att*/) {}
 
+// The judgment lo to hi enters: stored, copied to the same-ranked attributes, pushed to the neighbours. The attributes
+// that are judged by it now are settled in ascending id.
+void CommitInterval(WizardData& data, int target, Double lo, Double hi, const Settled& settled = NobodyIsTold);
+
+// Whether all attributes that the model has now are judged. Error 9 where it has more than were ranked.
 bool AllJudged(const WizardData& data);
 
 // Which attribute the judgment steps show first: the first one whose rank differs from its reference's. Error 9 when

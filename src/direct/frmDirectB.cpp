@@ -48,7 +48,8 @@ void frmDirectB::Disconnect() {
 void frmDirectB::Load() {
   mLoading = 1;
   mHandlePos.Allocate(data_.NumAtts());
-  ShowStage(0);
+  NameStage(0);
+  picPanel[0].ZOrder();
   BuildAttributeButtons();
   BuildOrderPanel(Group::Benefit);
   BuildOrderPanel(Group::Cost);
@@ -67,9 +68,8 @@ void frmDirectB::Load() {
   mLoading = 0;
 }
 
-void frmDirectB::ShowStage(int stage) {
+void frmDirectB::NameStage(int stage) {
   mResultsStage = static_cast<Integer>(stage);
-  picPanel[stage].ZOrder();
   if (stage == 0) {
     Caption = kJudgmentTitle;
     SetHeading("How important is each attribute, compared with its reference?",
@@ -102,7 +102,7 @@ void frmDirectB::BuildOrderPanel(Group g) {
   order.vsrO.Visible = false;
   order.vsrO.SetValue(0);
   order.vsrO.Height = order.picOrderFrame.Height - 60.0F;
-  if (LayOutRows(order, AttsByRank(data_, g)) <= order.picOrderFrame.Height + 20.0F) return;
+  if (LayOutRows(order, FinishedRanks(data_, g)) <= order.picOrderFrame.Height + 20.0F) return;
   order.vsrO.Visible = true;
   order.vsrO.Min = 0;
   order.vsrO.Max = static_cast<int>(order.picOP.Height());
@@ -225,10 +225,10 @@ void frmDirectB::cmdEnter_Click() {
 
 // What the boxes show is what is stored, two decimals and not the handle's full precision.
 void frmDirectB::CommitJudgment(int att) {
-  for (const int k : CommitInterval(data_, att, Val(txtWRLower.Text()), Val(txtWRUpper.Text()))) {
+  CommitInterval(data_, att, Val(txtWRLower.Text()), Val(txtWRUpper.Text()), [this, att](int k) {
     mHandlePos[k] = mHandlePos[att];
     MarkJudged(imgcmbTargetAtt, data_, k);
-  }
+  });
   cmdEnter.Enabled = false;
   cmdReStart.Enabled = true;
   if (AllJudged(data_)) {
@@ -246,6 +246,7 @@ void frmDirectB::cmdReStart_Click() {
 
 void frmDirectB::ResetJudgments() {
   Screen().SetPointer(kHourglass);
+  imgcmbTargetAtt.Clear();
   SetDefaultIntervals(data_);
   FillTargetList();
   ShowDefaultRegion(mTargetAtt);
@@ -254,11 +255,12 @@ void frmDirectB::ResetJudgments() {
 }
 
 void frmDirectB::cmdNext_Click() {
-  ShowStage(1);
+  NameStage(1);
   cmdBack.Enabled = true;
   cmdFinish.Enabled = true;
   cmdNext.Enabled = false;
   ShowResults(Results.gridBRJ, Results.gridCRJ, data_);
+  picPanel[1].ZOrder();
   Results.gridBRJ.ZOrder();
 }
 
@@ -267,9 +269,10 @@ void frmDirectB::cmdBack_Click() {
     Raise(UnloadDirectB);
     return;
   }
-  ShowStage(0);
+  NameStage(0);
   cmdFinish.Enabled = false;
   cmdNext.Enabled = true;
+  picPanel[0].ZOrder();
 }
 
 void frmDirectB::cmdFinish_Click() {

@@ -82,7 +82,7 @@ struct frmDirectB : DirectBForm {
   void cmdFinish_Click();
   void cmdCancel_Click();
   void cmdHelp_Click();
-  void ShowStage(int stage);
+  void NameStage(int stage);
 
   WizardData& data_;
   bool returning_ = false;  // Return is moving the focus: leaving the box is part of it

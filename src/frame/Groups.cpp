@@ -18,15 +18,17 @@ bool IsReferencePair(const WizardData& data, int target, int reference) {
   return target == data.CRefAttID && reference == data.BRefAttID && data.BRankCount > 0 && data.CRankCount > 0;
 }
 
-std::vector<std::vector<int>> AttsByRank(const WizardData& data, Group g) {
-  const int ranks = g == Group::Benefit ? data.BAttCount : data.CAttCount;
-  std::vector<std::vector<int>> rows(static_cast<std::size_t>(ranks));
-  for (int rank = 1; rank <= ranks; ++rank) {
+std::vector<FinishedRank> FinishedRanks(const WizardData& data, Group g) {
+  const int count = g == Group::Benefit ? data.BAttCount : data.CAttCount;
+  const Array<Integer>& sizes = g == Group::Benefit ? data.BOM : data.COM;
+  std::vector<FinishedRank> ranks;
+  for (int rank = 1; rank <= count; ++rank) {
+    ranks.push_back({sizes[rank], {}});
     for (int i = 0; i < data.NumAtts(); ++i) {
-      if (InGroup(data, i, g) && data.AttO[i] == rank) rows[static_cast<std::size_t>(rank) - 1].push_back(i);
+      if (InGroup(data, i, g) && data.AttO[i] == rank) ranks.back().Atts.push_back(i);
     }
   }
-  return rows;
+  return ranks;
 }
 
 }  // namespace Tarnwise

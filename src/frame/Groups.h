@@ -19,7 +19,14 @@ Integer ReferenceOf(const WizardData& data, int att);
 bool IsReference(const WizardData& data, int att);
 bool IsReferencePair(const WizardData& data, int target, int reference);
 
-// The attributes on each rank, the best rank first, in ascending id.
-std::vector<std::vector<int>> AttsByRank(const WizardData& data, Group g);
+// A rank of the finished order: how many attributes it was given, and which of the model's are on it, in ascending id.
+// The two agree unless the host has loaded another model since.
+struct FinishedRank {
+  int Size = 0;
+  std::vector<int> Atts;
+};
+
+// The best rank first.
+std::vector<FinishedRank> FinishedRanks(const WizardData& data, Group g);
 
 }  // namespace Tarnwise

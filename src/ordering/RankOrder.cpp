@@ -136,7 +136,6 @@ bool AllPlaced(const RankOrder& order, const WizardData& data) {
 
 void ResetOrder(RankOrder& order, WizardData& data, Group g) {
   order.RowCount(g) = 1;
-  order.CurRank(g) = 1;
   AllocateRankSize(order, data, g);
   for (int i = 0; i < data.NumAtts(); ++i) {
     if (!InGroup(data, i, g)) continue;
@@ -145,6 +144,7 @@ void ResetOrder(RankOrder& order, WizardData& data, Group g) {
   }
   order.PlacedCount(g) = 0;
   order.LoadedRows(g) = 1;
+  order.CurRank(g) = 1;
 }
 
 void RankFromSavedWeights(RankOrder& order, const WizardData& data) {

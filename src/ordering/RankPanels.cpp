@@ -285,8 +285,8 @@ void frmIniImpOrder::ResetList(Group g) {
   }
   for (int i = c.cmdAttB.Count() - 1; i > 0; --i) c.cmdAttB.Unload(i);
   c.cmdAttB[0].Visible = false;
-  ResetOrder(order_, data_, g);
   EnableRowButtons(g, true);
+  ResetOrder(order_, data_, g);
   if (GroupSize(data_, g) > 0) c.cmdAttA.Each([](CommandButton& button) { button.Visible = true; });
   BuildFirstRow(g);
   // The cost list's first label has always taken its caption from the benefit list's first row.

@@ -44,8 +44,8 @@ void frmTradeOffsB::SetDragIcon(Control& source, DragState state) {
 
 Single frmTradeOffsB::ScaleX() const { return DivideSingle(Chart.picTradeOffsRange.Width, XStep * 6.0F); }
 Single frmTradeOffsB::ScaleY() const { return DivideSingle(Chart.picTradeOffsRange.Height, YStep * 6.0F); }
-Single frmTradeOffsB::ScoreToPlotX(Single score) const { return (score - XMin) * ScaleX(); }
-Single frmTradeOffsB::ScoreToPlotY(Single score) const { return (YMax - score) * ScaleY(); }
+Single frmTradeOffsB::ScoreToPlotX(Single score) const { return CheckedSingle((score - XMin) * ScaleX()); }
+Single frmTradeOffsB::ScoreToPlotY(Single score) const { return CheckedSingle((YMax - score) * ScaleY()); }
 
 Double frmTradeOffsB::ChartXToScore(Single x) const {
   return RoundToFourDecimals(static_cast<Double>(x / ScaleX() + XMin));
@@ -63,8 +63,8 @@ void frmTradeOffsB::BuildChart() {
   XMax = ToSingleChecked(values.ScoreMax[mTargetAtt]);
   YMin = ToSingleChecked(values.ScoreMin[mRefAtt]);
   YMax = ToSingleChecked(values.ScoreMax[mRefAtt]);
-  XStep = (XMax - XMin) / 6.0F;
-  YStep = (YMax - YMin) / 6.0F;
+  XStep = CheckedSingle(XMax - XMin) / 6.0F;
+  YStep = CheckedSingle(YMax - YMin) / 6.0F;
   Chart.labPCX[0].Caption = OriginText(XMin);
   Chart.labPCY[0].Caption = OriginText(YMin);
   for (int k = 1; k <= 5; ++k) {
@@ -131,7 +131,7 @@ void frmTradeOffsB::ShowState() {
     ShowVerdict(Lights, cmdEnter, verdict.State == kInvalid ? kInvalid : kConsistent);
     return;
   }
-  const TradeOffRatios ratios = RatiosOf(data_, mTargetAtt, mRefAtt, Points);
+  const CornerRatios ratios = CornerRatiosOf(data_, mTargetAtt, mRefAtt, Points);
   const TradeOffVerdict verdict = DecideJudgmentState(data_, mTargetAtt, ratios.First, ratios.Second);
   mJudgmentState = verdict.State;
   lblWeightRatio.Caption = verdict.Caption;

@@ -1,6 +1,5 @@
 #include "tradeoffs/TradeOffJudgment.h"
 
-#include "direct/Intervals.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 
@@ -70,18 +69,22 @@ TradeOffVerdict DecideRefPairState(const String& ratio) {
   return {state, ratio == kInfinity ? String(kInfinity) : Shown(Val(ratio)) + "/1"};
 }
 
-TradeOffRatios RatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& p) {
+CornerRatios CornerRatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& p) {
   return {PointRatio(data, xAtt, yAtt, p.ALX, p.ALY, p.BX, p.BY),
-          PointRatio(data, xAtt, yAtt, p.AUX, p.AUY, p.BX, p.BY), PointRatio(data, xAtt, yAtt, p.AX, p.AY, p.BX, p.BY)};
+          PointRatio(data, xAtt, yAtt, p.AUX, p.AUY, p.BX, p.BY)};
 }
 
-std::vector<int> CommitTradeOff(WizardData& data, int target, const TradeOffRatios& ratios) {
-  const Double a = StrictNumber(ratios.First);
-  const Double b = StrictNumber(ratios.Second);
+TradeOffRatios RatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& p) {
+  return {CornerRatiosOf(data, xAtt, yAtt, p), PointRatio(data, xAtt, yAtt, p.AX, p.AY, p.BX, p.BY)};
+}
+
+void CommitTradeOff(WizardData& data, int target, const TradeOffRatios& ratios, const Settled& settled) {
+  const Double a = StrictNumber(ratios.Corners.First);
+  const Double b = StrictNumber(ratios.Corners.Second);
   const Double m = StrictNumber(ratios.Middle);
   const Interval interval = a == b ? Interval{m, m, m} : Interval{std::min(a, b), m, std::max(a, b)};
   StoreInterval(data, target, interval);
-  std::vector<int> judged;
+  data.WeightDone[target] = true;
   for (int i = 0; i < data.NumAtts(); ++i) {
     if (i != target && !IsPeer(data, i, target)) continue;
     if (i != target) {
@@ -89,10 +92,9 @@ std::vector<int> CommitTradeOff(WizardData& data, int target, const TradeOffRati
       SuggestForPeer(data, i, ReferenceOf(data, target));
     }
     data.WeightDone[i] = true;
-    judged.push_back(i);
+    settled(i);
   }
   PushNeighbours(data, target);
-  return judged;
 }
 
 void SuggestAll(WizardData& data) {

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "direct/Consistency.h"
+#include "direct/Intervals.h"
 #include "tradeoffs/TradeOffModel.h"
-
-#include <vector>
 
 namespace Tarnwise {
 
@@ -20,17 +19,23 @@ TradeOffVerdict DecideJudgmentState(const WizardData& data, int target, const St
 // The one ratio of the reference pair: state 0 or invalid.
 TradeOffVerdict DecideRefPairState(const String& ratio);
 
-// The pair of an attribute: at both corners and in the middle.
-struct TradeOffRatios {
+// What the pair of an attribute is judged by while it is moved: the ratios at both corners of A.
+struct CornerRatios {
   String First;
   String Second;
+};
+CornerRatios CornerRatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& points);
+
+// What Enter takes: those, and the ratio at A itself.
+struct TradeOffRatios {
+  CornerRatios Corners;
   String Middle;
 };
 TradeOffRatios RatiosOf(const WizardData& data, int xAtt, int yAtt, const ABPoint& points);
 
 // The judgment enters: stored, copied to the same-ranked attributes with fresh points of their own, pushed to the
-// neighbours. Returns the attributes that are judged by it. Error 13 when a ratio is no number.
-std::vector<int> CommitTradeOff(WizardData& data, int target, const TradeOffRatios& ratios);
+// neighbours. The target and its peers are settled in ascending id. Error 13 when a ratio is no number.
+void CommitTradeOff(WizardData& data, int target, const TradeOffRatios& ratios, const Settled& settled = NobodyIsTold);
 
 // Points for every attribute from the present intervals; no uncertainty.
 void SuggestAll(WizardData& data);

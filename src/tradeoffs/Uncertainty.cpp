@@ -95,7 +95,7 @@ void frmTradeOffsB::Move(const String& key) {
   if (key == "MovUpBack") mover = {&u.tbMovUp, 2, &p.AUY, -mStepV, p.AY};
   if (mover.Tools == nullptr) return;
 
-  *mover.Corner = *mover.Corner + mover.Step;
+  *mover.Corner = CheckedSingle(*mover.Corner + mover.Step);
   const bool upward = key == "MovLeftBack" || key == "MovRight" || key == "MovDownBack" || key == "MovUp";
   if (upward ? *mover.Corner >= mover.Limit : *mover.Corner <= mover.Limit) {
     *mover.Corner = mover.Limit;

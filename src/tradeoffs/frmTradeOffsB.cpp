@@ -73,7 +73,8 @@ void frmTradeOffsB::Load() {
   cmdNext.Enabled = false;
   cmdFinish.Enabled = false;
   cmdReStart.Enabled = false;
-  ShowPage(1);
+  NamePage(1);
+  picTabs[0].ZOrder();
   Scores.framePCNumericalC.ZOrder();
   bool judged = true;
   if (data_.RJType() == kTradeOffsType && !data_.OrderChanged) {
@@ -189,9 +190,8 @@ void frmTradeOffsB::cmdEnter_Click() {
 }
 
 void frmTradeOffsB::CommitJudgment(int att) {
-  for (const int k : CommitTradeOff(data_, att, RatiosOf(data_, mTargetAtt, mRefAtt, Points))) {
-    MarkJudged(imgcmbTargetAtt, data_, k);
-  }
+  const TradeOffRatios ratios = RatiosOf(data_, mTargetAtt, mRefAtt, Points);
+  CommitTradeOff(data_, att, ratios, [this](int k) { MarkJudged(imgcmbTargetAtt, data_, k); });
   cmdEnter.Enabled = false;
   cmdReStart.Enabled = true;
   if (AllJudged(data_)) {
@@ -202,6 +202,7 @@ void frmTradeOffsB::CommitJudgment(int att) {
 
 void frmTradeOffsB::cmdReStart_Click() {
   Screen().SetPointer(kHourglass);
+  imgcmbTargetAtt.Clear();
   SetDefaultIntervals(data_);
   StartFresh();
   cmdEnter.Enabled = true;
@@ -210,9 +211,8 @@ void frmTradeOffsB::cmdReStart_Click() {
   Screen().SetPointer(0);
 }
 
-void frmTradeOffsB::ShowPage(int page) {
+void frmTradeOffsB::NamePage(int page) {
   mPage = static_cast<Integer>(page);
-  picTabs[page - 1].ZOrder();
   if (page == 1) {
     Caption = kJudgmentTitle;
     SetHeading("When are A and B equally good to you?",
@@ -225,11 +225,12 @@ void frmTradeOffsB::ShowPage(int page) {
 }
 
 void frmTradeOffsB::cmdNext_Click() {
-  ShowPage(2);
+  NamePage(2);
   cmdBack.Enabled = true;
   cmdFinish.Enabled = true;
   cmdNext.Enabled = false;
   ShowResults(Results.gridBRJ, Results.gridCRJ, data_);
+  picTabs[1].ZOrder();
 }
 
 void frmTradeOffsB::cmdBack_Click() {
@@ -238,9 +239,10 @@ void frmTradeOffsB::cmdBack_Click() {
     Raise(UnloadTRNTradeOffsB);
     return;
   }
-  ShowPage(1);
+  NamePage(1);
   cmdFinish.Enabled = false;
   cmdNext.Enabled = true;
+  picTabs[0].ZOrder();
 }
 
 void frmTradeOffsB::cmdFinish_Click() {

@@ -105,7 +105,7 @@ struct frmTradeOffsB : TradeOffsBForm {
   void cmdTarnwisePrint_Click();
   void tbsTradeOffs_Click();
   void tsWeightRatios_Click();
-  void ShowPage(int page);
+  void NamePage(int page);
   void Timer1_Timer();
 
   bool takingFocusBack_ = false;  // from the box that Return was pressed in to the wrong one: one message is enough

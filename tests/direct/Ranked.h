@@ -57,6 +57,13 @@ inline void Judge(WizardData& data, int att, Double low, Double high) {
   data.WeightDone[att] = true;
 }
 
+// Commits the judgment; the attributes that it settles, in the order in which they were told.
+inline std::vector<int> SettledBy(WizardData& data, int target, Double lo, Double hi) {
+  std::vector<int> settled;
+  CommitInterval(data, target, lo, hi, [&settled](int att) { settled.push_back(att); });
+  return settled;
+}
+
 inline bool operator==(const Interval& a, const Interval& b) {
   return a.Low == b.Low && a.Mid == b.Mid && a.High == b.High;
 }

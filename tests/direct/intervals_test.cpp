@@ -105,7 +105,7 @@ TEST(Commit, StopsWithinARankAtItsFirstJudgedAttribute) {
 
 TEST(Commit, MarksTwoPeersAsDoneWithTheSameInterval) {
   WizardData data = RankedData({B(1), B(2), B(1), B(1), C(1), C(2)}, 1, 5);
-  EXPECT_EQ(CommitInterval(data, 2, 1.37, 2.41), (std::vector<int>{0, 2, 3}));
+  EXPECT_EQ(SettledBy(data, 2, 1.37, 2.41), (std::vector<int>{0, 2, 3}));
   for (const int k : {0, 2, 3}) {
     EXPECT_EQ(IntervalOf(data, k), Range(1.37, 2.41));
     EXPECT_TRUE(data.WeightDone[k]);
@@ -116,7 +116,7 @@ TEST(Commit, MarksTwoPeersAsDoneWithTheSameInterval) {
 
 TEST(Commit, NeverCopiesToAReference) {
   WizardData data = RankedData({B(1), B(1), C(1)}, 1, 2);
-  EXPECT_EQ(CommitInterval(data, 0, 1.37, 2.41), (std::vector<int>{0}));
+  EXPECT_EQ(SettledBy(data, 0, 1.37, 2.41), (std::vector<int>{0}));
   EXPECT_EQ(IntervalOf(data, 1), kOne);
 }
 
@@ -265,7 +265,7 @@ RC_GTEST_PROP(Commits, LeaveJudgedAttributesOfOtherRanksAlone, ()) {
     const std::vector<Interval> before = IntervalsOf(data);
     const std::vector<bool> done = DoneOf(data);
     const auto [low, high] = AnyBounds();
-    const std::vector<int> judged = CommitInterval(data, t, low, high);
+    const std::vector<int> judged = SettledBy(data, t, low, high);
     for (int i = 0; i < data.NumAtts(); ++i) {
       const bool now = std::find(judged.begin(), judged.end(), i) != judged.end();
       const auto k = static_cast<std::size_t>(i);

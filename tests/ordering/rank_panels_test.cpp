@@ -481,6 +481,19 @@ TEST(Reset, TakesAllOfAGroupBackToItsList) {
   EXPECT_TRUE(o.C.cmdAttB[0].Visible);
 }
 
+TEST(Reset, HasEnabledAddAndInsertBeforeTheRanksThatFailAreTakenBack) {
+  Ordering o(ModelOf(2, 2));
+  o.Open();
+  o.Click("cmdAdd");
+  EXPECT_FALSE(o.B.cmdAdd.Enabled);
+  o.Data.ModelHeader.NumAtts = 9;  // the host has loaded a larger model
+  o.Click("cmdResetB");
+  EXPECT_EQ(Only(o.Notes, "error"), Lines({"error 9 in frmIniImpOrder.cmdResetB_Click"}));
+  EXPECT_TRUE(o.B.cmdAdd.Enabled);
+  EXPECT_TRUE(o.B.cmdInsert.Enabled);
+  EXPECT_TRUE(o.B.cmdReset.Enabled) << "that comes after it";
+}
+
 TEST(Reset, IsOfferedAgainByTheNextPlacing) {
   Ordering o(ModelOf(2, 2));
   o.Open();

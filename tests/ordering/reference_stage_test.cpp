@@ -158,6 +158,17 @@ TEST(ReferenceStage, ShowsTheOrderWithoutItsEmptyRows) {
   EXPECT_EQ(o.CRows.cmdAttButtons[0].BackColor(), 255U * 65536U + 192U * 256U + 192U);
 }
 
+TEST(ReferenceStage, ARowIsAsHighAsItsRankWasFilledWhateverIsLeftOfIt) {
+  Ranked o;
+  o.PlaceAll();
+  o.Data.AttributeList.AttOrientation[2] = "1";  // the host has loaded another model
+  o.Click("cmdNext");
+  EXPECT_EQ(o.Data.BOM.Items(), Integers({0, 1, 2}));
+  ExpectRow(o.BRows, 1, 120.0F + 515.0F + 120.0F, 2.0F * kH + 140.0F);
+  EXPECT_TRUE(o.BRows.cmdAttButtons[1].Visible);
+  EXPECT_FALSE(o.BRows.cmdAttButtons[2].Visible);
+}
+
 TEST(ReferenceStage, ScrollsOnlyWhenTheLastRowPassesTheViewportByMoreThan20) {
   // Five rows end at 120 + 4 * 635 + 515 = 3175.
   const std::pair<Single, bool> cases[] = {{3000.0F, true}, {3154.0F, true}, {3155.0F, false}, {4000.0F, false}};
@@ -361,14 +372,23 @@ TEST(StoredJudgments, ReferenceIdsOfAnyNumericKindAreFound) {
   }
 }
 
-TEST(StoredJudgments, ANullReferenceIsNotFound) {
-  WizardData model = Judged();
-  model.SavedJudgments.SavedBRefAttID = Null();
-  Ranked o(model);
-  o.Click("cmdNext");
-  EXPECT_TRUE(Only(o.Notes, "error").empty());
-  EXPECT_EQ(o.BName.Caption(), "");
-  EXPECT_EQ(o.Form->Stage, 1);
+TEST(StoredJudgments, AReferenceThatIsNoNumberIsNotFoundAndDiffersFromAnyThatIsChosen) {
+  const Variant kinds[] = {Variant(), Variant(Null()), Variant(String()), Variant(String("abc")),
+                           Variant(String("1e999"))};
+  for (const Variant& kind : kinds) {
+    WizardData model = Judged();
+    model.SavedJudgments.SavedBRefAttID = kind;
+    Ranked o(model);
+    o.Click("cmdNext");
+    EXPECT_TRUE(Only(o.Notes, "error").empty()) << kind.index();
+    EXPECT_EQ(o.BName.Caption(), "") << kind.index();
+    EXPECT_EQ(o.CName.Caption(), "Cost 1") << kind.index();
+    EXPECT_EQ(o.Form->Stage, 1) << kind.index();
+    EXPECT_FALSE(o.Data.OrderChanged) << kind.index();
+    o.Click("cmdAttButtons(0)");
+    EXPECT_TRUE(o.Data.OrderChanged) << kind.index();
+    EXPECT_EQ(o.Data.BRefAttID, 0) << kind.index();
+  }
 }
 
 TEST(StoredJudgments, AFractionNamesNoAttribute) {

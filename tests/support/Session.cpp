@@ -20,6 +20,11 @@ constexpr const char* kMarkPrinted = R"({"data":"ValueFuncType")";
 
 Session::Session(const WizardData& model) { WriteModel(folder_.Path("model.kst"), model); }
 
+Session& Session::With(const String& file, const WizardData& model) {
+  WriteModel(folder_.Path(file), model);
+  return *this;
+}
+
 Session& Session::Given(const String& lines) {
   given_ += lines + "\n";
   return *this;

@@ -11,6 +11,9 @@ class Session {
  public:
   explicit Session(const WizardData& model);
 
+  // Another model in the script's folder, for "host load FILE".
+  Session& With(const String& file, const WizardData& model);
+
   // Lines that every Play begins with, after the model has been loaded: "host show", clicks, drags. What they print is
   // left out of the answers, and none of them may be refused.
   Session& Given(const String& lines);

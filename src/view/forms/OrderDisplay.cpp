@@ -64,14 +64,14 @@ void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width) 
   PlaceBar(display.vsrO, display.picOrderFrame, static_cast<int>(kOrderContentHeight));
 }
 
-Single LayOutRows(OrderDisplay& display, const std::vector<std::vector<int>>& atts) {
+Single LayOutRows(OrderDisplay& display, const std::vector<FinishedRank>& ranks) {
   const Single width = RowWidth(display);
   Single bottom = 0.0F;
-  for (int k = 0; k < static_cast<int>(atts.size()); ++k) {
+  for (int k = 0; k < static_cast<int>(ranks.size()); ++k) {
     PictureBox& row = display.picO.Has(k) ? display.picO[k] : display.picO.Load(k);
     Label& label = display.lblOID.Has(k) ? display.lblOID[k] : display.lblOID.Load(k);
-    const auto& ids = atts[static_cast<std::size_t>(k)];
-    Place(row, kRowLeft, bottom + 120.0F, width, static_cast<Single>(ids.size()) * kAttButtonHeight + 140.0F);
+    const FinishedRank& rank = ranks[static_cast<std::size_t>(k)];
+    Place(row, kRowLeft, bottom + 120.0F, width, static_cast<Single>(rank.Size) * kAttButtonHeight + 140.0F);
     row.Tag = std::to_string(k + 1);
     row.Visible = true;
     row.ZOrder();
@@ -79,9 +79,9 @@ Single LayOutRows(OrderDisplay& display, const std::vector<std::vector<int>>& at
     label.Tag = row.Tag();
     label.Caption = row.Tag();
     label.Visible = true;
-    for (std::size_t j = 0; j < ids.size(); ++j) {
+    for (std::size_t j = 0; j < rank.Atts.size(); ++j) {
       display.cmdAttButtons.Each([&](CommandButton& button) {
-        if (button.Tag().empty() || button.Tag().substr(1) != std::to_string(ids[j])) return;
+        if (button.Tag().empty() || button.Tag().substr(1) != std::to_string(rank.Atts[j])) return;
         PlaceButton(display, button, row.Top + 60.0F + static_cast<Single>(j) * kAttButtonHeight);
         button.Visible = true;
         button.ZOrder();

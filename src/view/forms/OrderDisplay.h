@@ -1,6 +1,7 @@
 // A finished rank order of one group, to look at or to choose from: rows of buttons in a scrolled viewport.
 #pragma once
 
+#include "frame/Groups.h"
 #include "view/forms/WizardForm.h"
 
 namespace Tarnwise {
@@ -29,8 +30,8 @@ void PlaceViewport(PictureBox& box, Single left, Single top, Single width, Singl
 void PlaceBar(VScrollBar& bar, const Control& viewport, int max);  // at the viewport's right edge
 void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width);
 
-// One row for each inner list, with the buttons of these attributes (found by their Tags) one below the other. Rows are
-// made as they are needed. Returns where the last row ends.
-Single LayOutRows(OrderDisplay& display, const std::vector<std::vector<int>>& atts);
+// One row for each rank, as high as its size, with the buttons of its attributes (found by their Tags) one below the
+// other. Rows are made as they are needed. Returns where the last row ends.
+Single LayOutRows(OrderDisplay& display, const std::vector<FinishedRank>& ranks);
 
 }  // namespace Tarnwise

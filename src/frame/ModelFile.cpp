@@ -1,11 +1,11 @@
 #include "frame/ModelFile.h"
 
 #include "runtime/AnsiText.h"
+#include "runtime/Paths.h"
 #include "view/Platform.h"
 
 #include <algorithm>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <optional>
 
@@ -23,7 +23,8 @@ struct BadTag {};
 // Reads from where it stands. What does not fit any more is left as it was, and the stream stands at its end.
 class Stream {
  public:
-  explicit Stream(const std::vector<char>& bytes) : at_(bytes.data()), end_(bytes.data() + bytes.size()) {}
+  Stream(const std::vector<char>& bytes, const CodePage& texts)
+      : at_(bytes.data()), end_(bytes.data() + bytes.size()), texts_(texts) {}
 
   template <class T>
   bool Read(T& value) {
@@ -59,7 +60,7 @@ class Stream {
     if (IsAscii(ansi)) {
       text = ansi;
     } else {
-      text = FromAnsi(ansi);
+      text = texts_.ToText(ansi);
     }
     at_ += length;
     return true;
@@ -96,6 +97,7 @@ class Stream {
 
   const char* at_;
   const char* end_;
+  const CodePage& texts_;
 };
 
 void Stream::Read(Variant& value) {
@@ -226,14 +228,10 @@ void Leniently(Read read) {
   }
 }
 
-std::filesystem::path PathOf(const String& text) {
-  return std::filesystem::path(std::u8string(text.begin(), text.end()));
-}
-
 // All bytes of the file, which comes to be when it is missing; nothing when it can't be opened.
 std::optional<std::vector<char>> Contents(const String& text) {
   std::error_code error;
-  const std::filesystem::path path = PathOf(text);
+  const std::filesystem::path path = PathFromText(text);
   std::vector<char> bytes;
   std::ifstream file(path, std::ios::binary);
   if (!file) {
@@ -264,9 +262,9 @@ void ClearModel(WizardData& data) {
   ClearSaved(data.SavedJudgments);
 }
 
-void ReadModel(WizardData& data, const std::vector<char>& bytes) {
+void ReadModel(WizardData& data, const std::vector<char>& bytes, const CodePage& texts) {
   ClearModel(data);
-  Stream in(bytes);
+  Stream in(bytes, texts);
   Leniently([&] { ReadHeader(in, data.ModelHeader); });
   in.ReadAll(data.ModelSettings.Unused);
   Leniently([&] { ReadAlternatives(in, data.AlternativeList); });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/mdTRNMain.h"
+#include "runtime/CodePage.h"
 
 namespace Tarnwise {
 
@@ -12,10 +13,10 @@ class Platform;
 // message, and the earlier model stays wholly as it was.
 void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFileName);
 
-// The eight items from bytes, as far as they go.
-void ReadModel(WizardData& data, const std::vector<char>& bytes);
+// The eight items from bytes, as far as they go, their texts in that code page.
+void ReadModel(WizardData& data, const std::vector<char>& bytes, const CodePage& texts = SystemCodePage());
 
-// Sizes every record of the model and sets all of it to zero, empty, unallocated.
+// Sizes every record of the model; its numbers are zero and its texts empty then.
 void ClearModel(WizardData& data);
 
 }  // namespace Tarnwise

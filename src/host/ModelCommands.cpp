@@ -3,6 +3,7 @@
 #include "frame/ModelFile.h"
 #include "host/ModelJson.h"
 #include "host/ModelWriter.h"
+#include "host/NamedCodePage.h"
 
 #include <ostream>
 
@@ -19,9 +20,15 @@ WizardData DescribedModel(const String& path) {
   }
 }
 
-std::vector<char> BytesToWrite(const WizardData& data, const String& from) {
+CodePage ChosenCodePage(const String& name) {
+  if (name.empty()) return SystemCodePage();
+  if (auto page = NamedCodePage(name)) return std::move(*page);
+  throw ModelFault("there is no code page \"" + name + "\" here; " + kCodePageNames);
+}
+
+std::vector<char> BytesToWrite(const WizardData& data, const String& from, const CodePage& texts) {
   try {
-    return ModelBytes(data);
+    return ModelBytes(data, texts);
   } catch (const ModelFault& fault) {
     throw ModelFault(from + ": " + fault.what());
   }
@@ -44,10 +51,12 @@ int CountNamed(const Array<String>& names) {
 
 }  // namespace
 
-int BuildModel(const String& jsonPath, const String& kstPath, std::ostream& out, std::ostream& err) {
+int BuildModel(const String& jsonPath, const String& kstPath, const String& codePage, std::ostream& out,
+               std::ostream& err) {
   try {
+    const CodePage texts = ChosenCodePage(codePage);
     const WizardData data = DescribedModel(jsonPath);
-    const std::vector<char> bytes = BytesToWrite(data, jsonPath);
+    const std::vector<char> bytes = BytesToWrite(data, jsonPath, texts);
     for (const String& warning : ModelWarnings(data)) err << jsonPath << ": warning: " << warning << "\n";
     RefuseSameFile(jsonPath, kstPath);
     WriteFileAtomically(kstPath, bytes);
@@ -60,12 +69,13 @@ int BuildModel(const String& jsonPath, const String& kstPath, std::ostream& out,
   }
 }
 
-int ShowModel(const String& kstPath, std::ostream& out, std::ostream& err) {
+int ShowModel(const String& kstPath, const String& codePage, std::ostream& out, std::ostream& err) {
   try {
+    const CodePage texts = ChosenCodePage(codePage);
     const std::vector<char> bytes = FileBytes(kstPath);
     WizardData data;
-    ReadModel(data, bytes);
-    if (const auto difference = Difference(bytes, data)) {
+    ReadModel(data, bytes, texts);
+    if (const auto difference = Difference(bytes, data, texts)) {
       err << kstPath << ": warning: " << *difference << "; building this description would not give that file again\n";
     }
     out << DescriptionText(ModelToJson(data));

@@ -1,7 +1,5 @@
 #include "host/ModelWriter.h"
 
-#include "runtime/AnsiText.h"
-
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -35,24 +33,26 @@ String CodePoint(std::string_view character) {
   return text.data();
 }
 
-[[noreturn]] void RefuseText(std::string_view text, const Place& place) {
+[[noreturn]] void RefuseText(std::string_view text, const Place& place, const CodePage& texts) {
   for (std::size_t i = 0; i < text.size();) {
     const std::size_t length = CharacterLength(static_cast<unsigned char>(text[i]));
     const std::string_view character = text.substr(i, length);
     i += length;
-    if (ToAnsi(character)) continue;
+    if (texts.ToBytes(character)) continue;
     const bool whole = length > 1 && character.size() == length &&
                        std::all_of(character.begin() + 1, character.end(),
                                    [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; });
     if (!whole) break;
     throw ModelFault(place.Text() + ": the character '" + String(character) + "' (" + CodePoint(character) +
-                     ") is not in code page 1252");
+                     ") is not in " + texts.Name);
   }
   throw ModelFault(place.Text() + ": the text is not valid UTF-8");
 }
 
 class Sink {
  public:
+  explicit Sink(const CodePage& texts) : texts_(texts) {}
+
   template <class T>
   void Number(T value) {
     const auto* const from = reinterpret_cast<const char*>(&value);
@@ -69,19 +69,22 @@ class Sink {
   }
 
   void Text(const String& text, const Place& place) {
-    const auto ansi = ToAnsi(text);
-    if (!ansi) RefuseText(text, place);
-    if (ansi->size() > kLongestText) {
-      throw ModelFault(place.Text() + ": the text takes " + std::to_string(ansi->size()) + " bytes, more than " +
+    const auto bytes = texts_.ToBytes(text);
+    if (!bytes) RefuseText(text, place, texts_);
+    if (bytes->size() > kLongestText) {
+      throw ModelFault(place.Text() + ": the text takes " + std::to_string(bytes->size()) + " bytes, more than " +
                        std::to_string(kLongestText));
     }
-    Number(static_cast<std::uint16_t>(ansi->size()));
-    Bytes.insert(Bytes.end(), ansi->begin(), ansi->end());
+    Number(static_cast<std::uint16_t>(bytes->size()));
+    Bytes.insert(Bytes.end(), bytes->begin(), bytes->end());
   }
 
   void Tagged(const Variant& value, const Place& place);
 
   std::vector<char> Bytes;
+
+ private:
+  const CodePage& texts_;
 };
 
 // One Variant: the tag, then its payload.
@@ -200,8 +203,8 @@ String NameInMessages(const char* kind, int id, const String& name) {
   return name.empty() ? number : number + " (" + name + ")";
 }
 
-std::vector<char> ModelBytes(const WizardData& data) {
-  Sink out;
+std::vector<char> ModelBytes(const WizardData& data, const CodePage& texts) {
+  Sink out(texts);
   WriteHeader(out, data.ModelHeader);
   out.Block(data.ModelSettings.Unused);
   WriteAlternatives(out, data.AlternativeList);
@@ -213,8 +216,13 @@ std::vector<char> ModelBytes(const WizardData& data) {
   return out.Bytes;
 }
 
-std::optional<String> Difference(const std::vector<char>& bytes, const WizardData& data) {
-  const std::vector<char> written = ModelBytes(data);
+std::optional<String> Difference(const std::vector<char>& bytes, const WizardData& data, const CodePage& texts) {
+  std::vector<char> written;
+  try {
+    written = ModelBytes(data, texts);
+  } catch (const ModelFault&) {
+    return "it holds text that can't be read in " + texts.Name;
+  }
   if (bytes == written) return std::nullopt;
   const auto parting = std::mismatch(bytes.begin(), bytes.end(), written.begin(), written.end());
   const String at = std::to_string(parting.first - bytes.begin());

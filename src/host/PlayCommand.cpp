@@ -1,7 +1,7 @@
 #include "host/Commands.h"
 #include "host/Player.h"
+#include "runtime/Paths.h"
 
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -25,18 +25,18 @@ constexpr int kUnreadable = 2;
 
 int Play(Driver& driver, const PlayOptions& options, const MakeHosted& make = nullptr) {
   std::error_code error;
-  if (options.Shots != ".") std::filesystem::create_directories(options.Shots, error);
+  if (options.Shots != ".") std::filesystem::create_directories(PathFromText(options.Shots), error);
   if (options.Script == "-") {
     return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr, make).Play();
   }
-  std::ifstream script(options.Script);
-  if (!script || std::filesystem::is_directory(options.Script, error)) {
+  const std::filesystem::path path = PathFromText(options.Script);
+  std::ifstream script(path);
+  if (!script || std::filesystem::is_directory(path, error)) {
     std::cerr << "The script " << options.Script << " can't be read.\n";
     return kUnreadable;
   }
-  const std::filesystem::path folder = std::filesystem::path(options.Script).parent_path();
-  return Player(driver, script, folder.empty() ? "." : folder.string(), options.Shots, std::cout, std::cerr, make)
-      .Play();
+  const String folder = path.has_parent_path() ? TextFromPath(path.parent_path()) : String(".");
+  return Player(driver, script, folder, options.Shots, std::cout, std::cerr, make).Play();
 }
 
 }  // namespace

@@ -2,9 +2,9 @@
 
 #include "frame/mdTRNMain.h"
 #include "host/ScriptLine.h"
+#include "runtime/Paths.h"
 #include "view/Platform.h"
 
-#include <filesystem>
 #include <istream>
 #include <ostream>
 
@@ -184,14 +184,12 @@ void Player::Host(const std::vector<String>& words) {
 
 void Player::HostLoad(const std::vector<String>& words) {
   Expect(words, 2, 4);
-  std::filesystem::path path = std::u8string(words[2].begin(), words[2].end());
-  if (path.is_relative()) path = std::filesystem::path(std::u8string(folder_.begin(), folder_.end())) / path;
-  const std::u8string text = path.u8string();
+  std::filesystem::path path = PathFromText(words[2]);
+  if (path.is_relative()) path = PathFromText(folder_) / path;
   const String kesta = words.size() > 3 ? words[3] : folder_;
   const int index = words.size() > 4 ? WholeNumber(words[4]) : 1;
-  HostCall("TRN_DEA.GetCurFileData", [&] {
-    dea_->GetCurFileData(kesta, ToInteger(Variant(static_cast<Long>(index))), String(text.begin(), text.end()));
-  });
+  HostCall("TRN_DEA.GetCurFileData",
+           [&] { dea_->GetCurFileData(kesta, ToInteger(Variant(static_cast<Long>(index))), TextFromPath(path)); });
 }
 
 void Player::HostPoints(const std::vector<String>& words) {

@@ -5,9 +5,8 @@
 #include "host/Player.h"
 #include "host/ScriptLine.h"
 #include "numerics/mdGraphs.h"
+#include "runtime/Paths.h"
 #include "view/Platform.h"
-
-#include <filesystem>
 
 namespace Tarnwise {
 
@@ -67,8 +66,7 @@ void Player::Call(const std::vector<String>& words) {
 void Player::Shot(const String& file) {
   Form* const form = screen_->ActiveForm();
   if (form == nullptr) throw Refused("no form is open");
-  const std::filesystem::path path = std::filesystem::path(shots_) / file;
-  if (driver_.Shot(*form, path.string())) {
+  if (driver_.Shot(*form, TextFromPath(PathFromText(shots_) / PathFromText(file)))) {
     Print({{"shot", file}});
   } else {
     Print({{"shot", nullptr}});

@@ -99,8 +99,6 @@ void CheckWritable(const fs::path& target, const fs::file_status& status, const 
 
 }  // namespace
 
-fs::path PathFromText(const String& path) { return {std::u8string(path.begin(), path.end())}; }
-
 std::vector<char> FileBytes(const String& path) {
   const fs::path from = PathFromText(path);
   std::error_code error;

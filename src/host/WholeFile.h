@@ -1,9 +1,8 @@
 // Whole files in and out, for the host's own use.
 #pragma once
 
-#include <tarnwise/Scalars.h>
+#include "runtime/Paths.h"
 
-#include <filesystem>
 #include <stdexcept>
 #include <vector>
 
@@ -13,8 +12,6 @@ namespace Tarnwise {
 struct ModelFault : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
-
-std::filesystem::path PathFromText(const String& path);
 
 // All bytes of a file that exists. It is never created; a folder or a file that can't be read is a ModelFault.
 std::vector<char> FileBytes(const String& path);

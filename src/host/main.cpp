@@ -1,9 +1,11 @@
 // The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files.
 #include "host/Commands.h"
 #include "host/ModelCommands.h"
+#include "host/SystemText.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -43,15 +45,21 @@ int Main(int argc, char** argv) {
   build->add_option("MODEL.kst", to)->required();
   CLI::App* const show = model->add_subcommand("show", "Print a model file as its JSON description");
   show->add_option("MODEL.kst", from)->required();
+  std::string codePage;
+  for (CLI::App* const command : {build, show}) {
+    command->add_option("--code-page", codePage, "Code page of the model file's texts, where it is not this system's");
+  }
 
   try {
-    app.parse(argc, argv);
+    std::vector<String> arguments = ProgramArguments(argc, argv);
+    std::reverse(arguments.begin(), arguments.end());  // the library takes them off the end
+    app.parse(arguments);
   } catch (const CLI::ParseError& error) {
     return app.exit(error);
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
-  if (build->parsed()) return BuildModel(from, to, std::cout, std::cerr);
-  if (show->parsed()) return ShowModel(from, std::cout, std::cerr);
+  if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
+  if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
 #ifdef TARNWISE_RUN
   if (runCommand->parsed()) return RunWizard(run, argc, argv);
 #endif
@@ -61,6 +69,7 @@ int Main(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const Utf8Output output;
   try {
     return Main(argc, argv);
   } catch (const std::exception& fault) {

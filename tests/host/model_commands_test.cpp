@@ -36,7 +36,7 @@ class ModelCommands : public testing::Test {
 
   int Build(const String& description) {
     folder.Write("model.json", description);
-    return BuildModel(json, kst, out, err);
+    return BuildModel(json, kst, "", out, err);
   }
 };
 
@@ -50,7 +50,7 @@ TEST_F(ModelCommands, BuildWritesTheModelAndSaysSo) {
 TEST_F(ModelCommands, ShowOfABuiltModelIsItsDescription) {
   ASSERT_EQ(Build(kDescription), 0);
   out.str("");
-  EXPECT_EQ(ShowModel(kst, out, err), 0);
+  EXPECT_EQ(ShowModel(kst, "", out, err), 0);
   EXPECT_EQ(out.str(), kDescription);
   EXPECT_EQ(err.str(), "");
 }
@@ -80,32 +80,32 @@ TEST_F(ModelCommands, WarningDoesNotHinderTheBuild) {
 }
 
 TEST_F(ModelCommands, MissingDescriptionIsRefused) {
-  EXPECT_EQ(BuildModel(json, kst, out, err), 1);
+  EXPECT_EQ(BuildModel(json, kst, "", out, err), 1);
   EXPECT_EQ(err.str(), "there is no file " + json + "\n");
 }
 
 TEST_F(ModelCommands, ModelDoesNotOverwriteItsDescription) {
   folder.Write("model.json", kDescription);
-  EXPECT_EQ(BuildModel(json, json, out, err), 1);
+  EXPECT_EQ(BuildModel(json, json, "", out, err), 1);
   EXPECT_EQ(err.str(), "the model would overwrite its description " + json + "\n");
   EXPECT_EQ(TemporaryFolder::Read(json).size(), String(kDescription).size());
 }
 
 TEST_F(ModelCommands, ModelThatCannotBeWrittenIsRefused) {
   folder.Write("model.json", kDescription);
-  EXPECT_EQ(BuildModel(json, folder.File("nowhere") + "/model.kst", out, err), 1);
+  EXPECT_EQ(BuildModel(json, folder.File("nowhere") + "/model.kst", "", out, err), 1);
   EXPECT_NE(err.str().find("can't write"), String::npos) << err.str();
 }
 
 TEST_F(ModelCommands, ShowOfAMissingFileDoesNotMakeIt) {
-  EXPECT_EQ(ShowModel(kst, out, err), 1);
+  EXPECT_EQ(ShowModel(kst, "", out, err), 1);
   EXPECT_EQ(err.str(), "there is no file " + kst + "\n");
   EXPECT_EQ(folder.CountFiles(), 0U);
 }
 
 TEST_F(ModelCommands, ShowOfAnEmptyFileWarnsThatItIsNoWholeModel) {
   folder.Write("model.kst", "");
-  EXPECT_EQ(ShowModel(kst, out, err), 0);
+  EXPECT_EQ(ShowModel(kst, "", out, err), 0);
   EXPECT_EQ(out.str(), "{\n  \"alternatives\": [],\n  \"attributes\": []\n}\n");
   EXPECT_EQ(err.str(), kst +
                            ": warning: it ends within the model, after 0 bytes; building this description would not "
@@ -114,7 +114,7 @@ TEST_F(ModelCommands, ShowOfAnEmptyFileWarnsThatItIsNoWholeModel) {
 
 TEST_F(ModelCommands, ShowOfAFilledModelBuildsTheSameFile) {
   const std::vector<char> bytes = ModelFileBytes().Whole(31).Bytes;
-  ASSERT_EQ(ShowModel(folder.Write("other.kst", bytes), out, err), 0);
+  ASSERT_EQ(ShowModel(folder.Write("other.kst", bytes), "", out, err), 0);
   ASSERT_EQ(Build(out.str()), 0) << err.str();
   EXPECT_EQ(TemporaryFolder::Read(kst), bytes);
 }

@@ -26,7 +26,7 @@ TEST_P(Samples, ModelIsWhatItsDescriptionBuilds) {
   TemporaryFolder folder;
   std::ostringstream out;
   std::ostringstream err;
-  ASSERT_EQ(BuildModel(json, folder.File("built.kst"), out, err), 0) << err.str();
+  ASSERT_EQ(BuildModel(json, folder.File("built.kst"), "", out, err), 0) << err.str();
   EXPECT_EQ(err.str(), "");
   EXPECT_EQ(FileBytes(folder.File("built.kst")), FileBytes(kst));
 }
@@ -34,7 +34,7 @@ TEST_P(Samples, ModelIsWhatItsDescriptionBuilds) {
 TEST_P(Samples, ModelShowsAsItsDescription) {
   std::ostringstream out;
   std::ostringstream err;
-  ASSERT_EQ(ShowModel(kst, out, err), 0);
+  ASSERT_EQ(ShowModel(kst, "", out, err), 0);
   EXPECT_EQ(err.str(), "");
   const std::vector<char> description = FileBytes(json);
   EXPECT_EQ(out.str(), String(description.begin(), description.end()));

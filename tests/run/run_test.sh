@@ -5,8 +5,10 @@
 set -euo pipefail
 program=$1
 model=$2
-work=$(mktemp -d)
-trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
+root=$(mktemp -d)
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$root"' EXIT
+work=$root/Jürgen-日本  # the model's folder may have any name
+mkdir "$work"
 cp "$model" "$work/model.kst"
 export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=1
 

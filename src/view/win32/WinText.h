@@ -1,16 +1,12 @@
-// Texts between the tree (UTF-8) and Windows (UTF-16).
+// Texts of windows, and carets in them.
 #pragma once
 
-#include <tarnwise/Scalars.h>
-
+#include "runtime/windows/WideText.h"
 #include "view/win32/WinApi.h"
 
 #include <string>
 
 namespace Tarnwise {
-
-std::wstring Wide(const String& text);
-String Utf8(const std::wstring& text);
 
 std::wstring TextOf(HWND window);
 void SetText(HWND window, const std::wstring& text);  // only where it differs

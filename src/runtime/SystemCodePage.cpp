@@ -1,0 +1,7 @@
+#include "runtime/CodePage.h"
+
+namespace Tarnwise {
+
+const CodePage& SystemCodePage() { return CodePage1252(); }
+
+}  // namespace Tarnwise

@@ -1,7 +1,8 @@
 // Benchmarks without a screen. Compare the rows of one run; the names say what belongs together:
 //   Drag/*     one movement of a handle with 31 attributes and the consistency control on
 //   Read/*     a full 31 x 51 model file: as the wizard reads it, and a plain read with a copy of the same bytes
-//   Score/*    the score of a value that is not reached: as built, the plain walk, and the additions alone
+//   Score/*    the score of a value that is not reached, and of the scale's top: as built, the plain walk, and the
+//              additions alone
 //   Akima/*    one interpolation by search: ours, and the GNU Scientific Library's with its accelerator
 //   TradeOff/* opening the step, one dropped point, and a commit with 15 attributes on the rank
 #include "Models.h"
@@ -85,6 +86,14 @@ void ScoreAsBuilt(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(GetAttScore(data, kCurveAtt, kOutOfReach));
 }
 BENCHMARK(ScoreAsBuilt)->Name("Score/AsBuilt");
+
+void ScoreOfTheTop(benchmark::State& state) {
+  const WizardData data = FullModel(16, 0);
+  const auto top = static_cast<Single>(data.AttValueData.ScoreMax[kCurveAtt]);
+  const auto value = static_cast<Single>(GetAttValue(data, kCurveAtt, top));
+  for (auto _ : state) benchmark::DoNotOptimize(GetAttScore(data, kCurveAtt, value));
+}
+BENCHMARK(ScoreOfTheTop)->Name("Score/OfTheTop");
 
 // The walk as it is defined: every point interpolated anew.
 void ScorePlainWalk(benchmark::State& state) {
@@ -214,14 +223,14 @@ BENCHMARK(TradeOffDrop)->Name("TradeOff/DropWithVerdict");
 void TradeOffCommit(benchmark::State& state) {
   WizardData data = FullModel(17, 16);
   data.ABPoints2.Allocate(kMaxAtts);
-  for (auto _ : state) benchmark::DoNotOptimize(CommitTradeOff(data, 1, {"0.61", "0.93", "0.77"}));
+  for (auto _ : state) CommitTradeOff(data, 1, {"0.61", "0.93", "0.77"});
 }
 BENCHMARK(TradeOffCommit)->Name("TradeOff/CommitWith15Peers/BelowOne")->Unit(benchmark::kMillisecond);
 
 void TradeOffCommitAbove(benchmark::State& state) {
   WizardData data = FullModel(17, 16);
   data.ABPoints2.Allocate(kMaxAtts);
-  for (auto _ : state) benchmark::DoNotOptimize(CommitTradeOff(data, 1, {"1.17", "1.93", "1.4"}));
+  for (auto _ : state) CommitTradeOff(data, 1, {"1.17", "1.93", "1.4"});
 }
 BENCHMARK(TradeOffCommitAbove)->Name("TradeOff/CommitWith15Peers/AboveOne")->Unit(benchmark::kMillisecond);
 

@@ -2,6 +2,7 @@
 
 #include "runtime/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -183,21 +184,43 @@ Double GetAttValue(const WizardData& data, int att, Single score) {
 namespace {
 
 constexpr Double kTolerance = 0.0001;
+constexpr int kStride = 100;
+
+// How far the piece's values, as they are computed, can go apart over a stretch within `h` of its origin: the steepest
+// that its slope can be there, and what rounding adds.
+Double Spread(const CurvePiece& piece, Double h, Double stretch, Double target) {
+  const Double k1 = std::fabs(piece.K[1]);
+  const Double k2 = std::fabs(piece.K[2]) * h;
+  const Double k3 = std::fabs(piece.K[3]) * h * h;
+  return (k1 + 2.0 * k2 + 3.0 * k3) * stretch +
+         1e-13 * (std::fabs(piece.K[0]) + (k1 + k2 + k3) * h + std::fabs(target));
+}
 
 // The first x of the walk whose value is near enough to the target; nothing when there is none. The coefficients change
 // only where the walk enters another interval, and one comparison tells where that, or the end of the scale, is
-// reached.
+// reached. Where a value is too far off for the next ones to come near, only the additions are carried out: each x is
+// the rounded sum of all steps before it.
 std::optional<Double> WalkAscending(const PreparedCurve& curve, Double x, Double step, Double top, Double target,
                                     int mostSteps) {
+  const Double perStep = 0.5 / step;  // a rounded step is less than two of them
   int left = mostSteps;
   x += step;
   while (x < top) {
     const CurvePiece piece = curve.PieceAt(x);
     const Double stop = std::fmin(top, piece.Stop);
+    const Double h = std::fmax(std::fabs(x - piece.Origin), std::fabs(stop - piece.Origin));
+    const Double spread = Spread(piece, h, kStride / perStep, target);
     do {
-      if (std::fabs(piece.ValueAt(x) - target) <= kTolerance) return x;
-      if (--left == 0) return std::nullopt;
-      x += step;
+      const Double off = std::fabs(piece.ValueAt(x) - target);
+      if (off <= kTolerance) return x;
+      int steps = 1;
+      if (off > kTolerance + spread) {
+        const auto room = static_cast<int>(std::fmin((stop - x) * perStep, kStride));
+        steps = std::clamp(room, 1, left);
+      }
+      left -= steps;
+      if (left == 0) return std::nullopt;
+      for (int k = 0; k < steps; ++k) x += step;
     } while (x < stop);
   }
   return std::nullopt;

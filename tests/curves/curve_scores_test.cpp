@@ -61,6 +61,22 @@ TEST(AttScoreWalk, IsThePlainWalkToTheLastBitOverTheWholeScale) {
   }
 }
 
+// Humps whose top just comes within the tolerance of the value, or just does not: nothing near may be passed over.
+TEST(AttScoreWalk, IsThePlainWalkWhereACurveOnlyTouchesTheValue) {
+  Chance chance(5);
+  for (int time = 0; time < 400; ++time) {
+    const Curve curve = chance.AnyCurve(3 + time % 9, chance.Real(-40.0, 40.0), -0.2, 1.2);
+    const Double low = curve.X[0];
+    const Double high = curve.X[static_cast<std::size_t>(curve.N) - 1];
+    Double top = -INFINITY;
+    for (Double x = low; x < high; x += (high - low) / 20000.0) {
+      top = std::fmax(top, AkimaInterpolate(curve, -1, x)[4]);
+    }
+    const Double off = 0.0001 + chance.Real(-1e-6, 1e-7);
+    ASSERT_TRUE(IsTheWalk(ModelWith(curve, low, high), static_cast<Single>(top + off))) << "case " << time;
+  }
+}
+
 TEST(AttScoreWalk, IsThePlainWalkWhereThePointsAreOutOfOrder) {
   const WizardData model = ModelWith(CurveThrough({0, 30, 20, 60, 50, 100}, {0, 0.2, 0.4, 0.5, 0.8, 1}), 0.0, 100.0);
   for (const Single value : {0.05F, 0.2F, 0.45F, 0.77F, 0.99F}) EXPECT_TRUE(IsTheWalk(model, value));

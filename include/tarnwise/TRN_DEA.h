@@ -21,10 +21,17 @@ namespace Tarnwise {
 class Platform;  // the screen that the wizard is shown on
 
 std::shared_ptr<Platform> MakeQtPlatform();        // needs a QApplication; in the library Tarnwise::TRN_DEA_Qt
-std::shared_ptr<Platform> MakeWin32Platform();     // Windows only, on a thread with a message loop; in Tarnwise_DEA
+std::shared_ptr<Platform> MakeWin32Platform();     // Windows only, on a thread with a message loop; in tarnwise_win32
 std::shared_ptr<Platform> MakeHeadlessPlatform();  // no screen: for tests and scripts
 
 using VariantArray = std::vector<Variant>;  // elements 0 to NumAtts - 1
+
+// The orientations that the corners of exported points show: 1 where A is a line across, 2 where it is one upward, 0
+// where it is a point. ExportABScores hands back the AOrientation that came in; a host that wants the user's lines back
+// gives TranferABCoordinates these instead. RuntimeError 9 where the arrays differ in length, 13 or 94 for an element
+// that is no number.
+VariantArray OrientationsOf(const VariantArray& ALX, const VariantArray& ALY, const VariantArray& AUX,
+                            const VariantArray& AUY);
 
 struct TRN_DEA_Events {
   // The wizard ends: answer by the method UnloadTarnwise. WeightsDone is false when the user cancelled.

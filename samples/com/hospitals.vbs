@@ -41,7 +41,8 @@ Sub Dea_ExportDirectBW(RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH
   Next
 End Sub
 
-' After trade-offs only: what to hand over by TranferABCoordinates next time.
+' After trade-offs only: what to hand over by TranferABCoordinates next time. AOrientation is what came in; the user's
+' lines come back by 1 where ALX(j) and AUX(j) differ, else 2 where ALY(j) and AUY(j) do, else 0.
 Sub Dea_ExportABScores(AX, AY, BX, BY, AOrientation, ALX, ALY, AUX, AUY)
   Dim j
   For j = 0 To UBound(AX)

@@ -12,7 +12,7 @@ enum JudgmentState : Integer { kNoneDecided = 0, kInvalid = 1, kConsistent = 2, 
 // counts.
 struct Limits {
   Double Lower = 0.0;    // upper bound of the nearest judged less important attribute
-  Double Upper = 100.0;  // lower bound of the nearest judged more important one
+  Double Upper = 100.0;  // lower bound of the nearest judged more important one; a bound of 0 counts as 100
 };
 
 Limits LimitsOf(const WizardData& data, int target);

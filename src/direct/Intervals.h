@@ -41,8 +41,8 @@ void CommitInterval(WizardData& data, int target, Double lo, Double hi, const Se
 // Whether all attributes that the model has now are judged. Error 9 where it has more than were ranked.
 bool AllJudged(const WizardData& data);
 
-// Which attribute the judgment steps show first: the first one whose rank differs from its reference's. Error 9 when
-// there is none.
+// Which attribute the judgment steps show first: the first one whose rank differs from its reference's, not counting
+// attribute 0 where there is one benefit attribute. Error 9 when there is none.
 int FirstTarget(const WizardData& data);
 
 }  // namespace Tarnwise

@@ -5,6 +5,20 @@
 
 namespace Tarnwise {
 
+VariantArray OrientationsOf(const VariantArray& ALX, const VariantArray& ALY, const VariantArray& AUX,
+                            const VariantArray& AUY) {
+  for (const VariantArray* corners : {&ALY, &AUX, &AUY}) {
+    if (corners->size() != ALX.size()) throw RuntimeError(9);
+  }
+  VariantArray orientations;
+  for (std::size_t i = 0; i < ALX.size(); ++i) {
+    const bool across = ToDouble(ALX[i]) != ToDouble(AUX[i]);
+    const bool upward = ToDouble(ALY[i]) != ToDouble(AUY[i]);
+    orientations.emplace_back(Integer(across ? 1 : upward ? 2 : 0));
+  }
+  return orientations;
+}
+
 TRN_DEA::TRN_DEA(std::shared_ptr<Platform> platform) : wizard_(std::make_shared<Wizard>(std::move(platform))) {}
 
 TRN_DEA::TRN_DEA(TRN_DEA&&) noexcept = default;

@@ -11,7 +11,7 @@ namespace Tarnwise {
 // One property; nothing when this kind of control has none of that name.
 std::optional<Json> PropertyJson(const Control& control, const String& property);
 
-// The control's name, kind and all its properties.
+// The control's full name and all those properties.
 Json ControlJson(const Control& control);
 
 }  // namespace Tarnwise

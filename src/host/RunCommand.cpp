@@ -62,11 +62,7 @@ Points StartingPoints(const String& model, int numAtts) {
 // The export has the orientations that went in; a resumed wizard wants those that the corners show.
 Points WithOrientations(Points p) {
   enum { kOrientation = 4, kALX, kALY, kAUX, kAUY };
-  for (std::size_t i = 0; i < p[kOrientation].size(); ++i) {
-    const bool across = p[kALX][i] != p[kAUX][i];
-    const bool upward = p[kALY][i] != p[kAUY][i];
-    p[kOrientation][i] = Integer(across ? 1 : upward ? 2 : 0);
-  }
+  p[kOrientation] = OrientationsOf(p[kALX], p[kALY], p[kAUX], p[kAUY]);
   return p;
 }
 
@@ -96,7 +92,7 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
     screen.End();
   };
   const std::filesystem::path folder = PathFromText(model).parent_path();
-  dea.GetCurFileData(folder.empty() ? String(".") : folder.string(), kFileIndex, model);
+  dea.GetCurFileData(folder.empty() ? String(".") : TextFromPath(folder), kFileIndex, model);
   dea.TranferABCoordinates(StartingPoints(model, dea.Data().NumAtts()));
   dea.ShowTarnwise();
   screen.Wait();

@@ -43,7 +43,7 @@ void SaveJudgments(const String& modelPath, const WizardData& judged, const Stri
   saved.RJType = RJType;
   saved.SavedBRefAttID = BRefAttID;
   saved.SavedCRefAttID = CRefAttID;
-  saved.SavedRefAttWR = ToDouble(RefAttWR);
+  saved.SavedRefAttWR = RefAttWR;  // its type tells whether the pair was ever judged
   saved.SavedWeights = Stored(Weights, data.NumAtts());
   saved.SavedWeightsH = Stored(WeightsH, data.NumAtts());
   saved.SavedWeightsL = Stored(WeightsL, data.NumAtts());

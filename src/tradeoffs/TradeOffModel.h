@@ -17,8 +17,9 @@ String PointRatio(const WizardData& data, int xAtt, int yAtt, Single x1, Single 
 // The same for the two references, of which one is cost and one benefit: its sign is the other way round.
 String RefPairRatio(const WizardData& data, int xAtt, int yAtt, Single x1, Single y1, Single x2, Single y2);
 
-// Places A and B of the x attribute's record so that their ratio is `ratio`, with room left on the chart. The corners
-// and the orientation are the caller's.
+// Places A and B of the x attribute's record for that ratio, with room left on the chart. The ratio of these points is
+// near it where the walk of GetAttScore comes to B's second score; for ratio 1 both are placed alike, whatever the
+// curves. The corners and the orientation are the caller's.
 void SuggestABPoints(WizardData& data, int xAtt, int yAtt, Double ratio);
 
 // The same for the two references: ratio 1, A up and to the right of B. Written to the x attribute's record.

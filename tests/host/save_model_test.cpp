@@ -51,6 +51,14 @@ TEST_F(SaveModel, NextReadResumesFromTheJudgments) {
   EXPECT_EQ(ToInteger(data.SavedJudgments.SavedBRefAttID), 2);
 }
 
+TEST_F(SaveModel, ARatioOfTheReferencesThatWasNeverJudgedKeepsItsType) {
+  for (const Variant& ratio : {Variant(Integer{1}), Variant(Null()), Variant()}) {
+    SaveJudgments(path, judged, kDirectType, 2, 1, ratio, VariantArray(3, Variant(1.0)), VariantArray(3, Variant(1.0)),
+                  VariantArray(3, Variant(1.0)));
+    EXPECT_EQ(ReadBack().SavedJudgments.SavedRefAttWR, ratio) << ratio.index();
+  }
+}
+
 TEST_F(SaveModel, SavingTwiceInOneSessionIsAllRight) {
   Save();
   EXPECT_EQ(FaultOfSaving(), "no fault");

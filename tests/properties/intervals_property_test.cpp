@@ -24,7 +24,7 @@ RC_GTEST_PROP(IntervalProperty, OfAJudgedAttributeIsMovedByNoOther, ()) {
   const std::vector<Interval> before = Intervals(data);
   const Array<bool> done = data.WeightDone;
   const int target = AnyTarget(data);
-  const std::vector<int> judged = CommitInterval(data, target, Hundredths(5, 100), Hundredths(100, 500));
+  const std::vector<int> judged = SettledBy(data, target, Hundredths(5, 100), Hundredths(100, 500));
   for (int i = 0; i < data.NumAtts(); ++i) {
     const bool own = std::find(judged.begin(), judged.end(), i) != judged.end();
     if (done[i] && !own) RC_ASSERT(IntervalOf(data, i) == before[static_cast<std::size_t>(i)]);

@@ -113,8 +113,8 @@ RC_GTEST_PROP(TradeOffCommitProperty, APointIsStoredAsTheDirectStepWould, ()) {
     const int t = AnyTarget(traded);
     const Double ratio = RoundToFourDecimals(Between(0.2, 4.0));
     const String text = NumberText(ratio);
-    const std::vector<int> one = CommitTradeOff(traded, t, {text, text, text});
-    const std::vector<int> other = CommitInterval(direct, t, ratio, ratio);
+    const std::vector<int> one = SettledByPoint(traded, t, text);
+    const std::vector<int> other = SettledBy(direct, t, ratio, ratio);
     RC_ASSERT(one == other);
   }
   RC_ASSERT(Intervals(traded) == Intervals(direct));
@@ -137,7 +137,7 @@ RC_GTEST_PROP(TradeOffCommitProperty, APeerGetsPointsOfItsOwnScale, ()) {
   const int t = AnyTarget(data);
   const Double ratio = RoundToFourDecimals(Between(0.3, 0.95));
   const String text = NumberText(ratio);
-  const std::vector<int> judged = CommitTradeOff(data, t, {text, text, text});
+  const std::vector<int> judged = SettledByPoint(data, t, text);
   for (const int i : judged) {
     if (i == t) continue;
     const ABPoint& p = data.ABPoints2[i];

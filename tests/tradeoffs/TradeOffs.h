@@ -52,6 +52,13 @@ inline ABPoint PointsAt(Single ax, Single ay, Single bx, Single by) {
   return p;
 }
 
+// Commits a trade-off of one ratio; the attributes that it settles, in the order in which they were told.
+inline std::vector<int> SettledByPoint(WizardData& data, int target, const String& ratio) {
+  std::vector<int> settled;
+  CommitTradeOff(data, target, {ratio, ratio, ratio}, [&settled](int att) { settled.push_back(att); });
+  return settled;
+}
+
 // The step opened on a model. Scores are moved by dropping marks and by typing, as a user would.
 struct TradeOffStep : OpenForm<frmTradeOffsB> {
   explicit TradeOffStep(const WizardData& model) : OpenForm(model) { Open(); }

@@ -196,14 +196,9 @@ TEST(TradeOffCommit, CopiesTheRatiosToTheSameRankButNotThePoints) {
 
 TEST(TradeOffCommit, TellsWhichAttributesAreJudgedByIt) {
   WizardData data = Ward();
-  const auto settledBy = [&data](int target, const TradeOffRatios& ratios) {
-    std::vector<int> settled;
-    CommitTradeOff(data, target, ratios, [&settled](int att) { settled.push_back(att); });
-    return settled;
-  };
-  EXPECT_EQ(settledBy(2, {"0.8", "0.8", "0.8"}), (std::vector<int>{2, 3}));
-  EXPECT_EQ(settledBy(3, {"0.8", "0.8", "0.8"}), (std::vector<int>{2, 3}));
-  EXPECT_EQ(settledBy(5, {"1.8", "1.8", "1.8"}), (std::vector<int>{5}));
+  EXPECT_EQ(SettledByPoint(data, 2, "0.8"), (std::vector<int>{2, 3}));
+  EXPECT_EQ(SettledByPoint(data, 3, "0.8"), (std::vector<int>{2, 3}));
+  EXPECT_EQ(SettledByPoint(data, 5, "1.8"), (std::vector<int>{5}));
 }
 
 TEST(TradeOffCommit, NeverCopiesToAReferenceOrToTheOtherGroup) {

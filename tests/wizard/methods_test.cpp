@@ -36,6 +36,34 @@ std::vector<Single> FieldsOf(const ABPoint& p) {
   return {p.AX, p.AY, p.BX, p.BY, static_cast<Single>(p.AOrientation), p.ALX, p.ALY, p.AUX, p.AUY};
 }
 
+TEST(OrientationsOf, AreWhatTheCornersShow) {
+  const auto singles = [](std::initializer_list<Single> values) { return VariantArray(values.begin(), values.end()); };
+  const VariantArray lowX = singles({1.5F, 1.5F, 1.5F, 1.5F});
+  const VariantArray lowY = singles({7.0F, 7.0F, 7.0F, 7.0F});
+  EXPECT_EQ(OrientationsOf(lowX, lowY, singles({1.5F, 3.25F, 1.5F, 3.25F}), singles({7.0F, 7.0F, 9.5F, 9.5F})),
+            (VariantArray{Integer(0), Integer(1), Integer(2), Integer(1)}));
+  EXPECT_EQ(OrientationsOf({Variant(1.5)}, {Variant()}, {Variant(String("1.5"))}, {Variant(0.0)}),
+            VariantArray{Integer(0)})
+      << "numbers of any kind";
+  EXPECT_EQ(OrientationsOf({}, {}, {}, {}), VariantArray());
+}
+
+TEST(OrientationsOf, NeedsArraysOfOneLengthAndNumbers) {
+  const VariantArray two(2, Variant(1.0));
+  const auto errorOf = [](const VariantArray& ALX, const VariantArray& AUY) {
+    try {
+      OrientationsOf(ALX, VariantArray(2, Variant(1.0)), VariantArray(2, Variant(1.0)), AUY);
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  };
+  EXPECT_EQ(errorOf(two, two), 0);
+  EXPECT_EQ(errorOf(two, VariantArray(3, Variant(1.0))), 9);
+  EXPECT_EQ(errorOf(VariantArray(2, Variant(String("x"))), two), 13);
+  EXPECT_EQ(errorOf(two, VariantArray(2, Variant(Null()))), 94);
+}
+
 TEST(GetCurFileData, StoresTheThreeAndReadsTheModel) {
   Wizarding host(ModelOf({{"Beds", Benefit}, {"Staff", Cost}}));
   host.Load();

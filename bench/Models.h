@@ -1,7 +1,7 @@
 // Models for the benchmarks: as large as the format allows.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 namespace Tarnwise {
 

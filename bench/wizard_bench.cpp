@@ -7,8 +7,8 @@
 //   TradeOff/* opening the step, one dropped point, and a commit with 15 attributes on the rank
 #include "Models.h"
 #include "direct/frmDirectB.h"
-#include "frame/ModelFile.h"
 #include "host/ModelWriter.h"
+#include "model/ModelFile.h"
 #include "numerics/mdGraphs.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Platform.h"

@@ -1,7 +1,7 @@
 // The model file read a second time in the plainest way, field by field, to be compared with the real reader.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ByteSource.h"
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 namespace Tarnwise {
 

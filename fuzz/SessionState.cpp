@@ -1,6 +1,6 @@
 #include "SessionState.h"
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 #include "view/Platform.h"
 
 #include <algorithm>

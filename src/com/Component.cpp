@@ -4,8 +4,8 @@
 #include "com/Convert.h"
 #include "com/Screen.h"
 #include "com/TypeInfo.h"
-#include "frame/mdTRNMain.h"
 #include "host/Win32Driver.h"
+#include "model/mdTRNMain.h"
 #include "view/Platform.h"
 
 #include <olectl.h>

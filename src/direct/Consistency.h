@@ -2,7 +2,7 @@
 #pragma once
 
 #include "direct/ReferenceChart.h"
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 namespace Tarnwise {
 

@@ -2,7 +2,7 @@
 // Both judgment steps commit into it. Comparisons are on doubles as stored; there is no tolerance.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 // The list of target attributes that both judgment steps show: item i + 1 is attribute i.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 #include "view/Controls.h"
 
 namespace Tarnwise {

@@ -4,7 +4,7 @@
 
 #include "direct/Consistency.h"
 #include "direct/Intervals.h"
-#include "frame/Steps.h"
+#include "model/StepEvents.h"
 #include "view/forms/DirectBForm.h"
 
 namespace Tarnwise {

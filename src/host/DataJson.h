@@ -1,8 +1,8 @@
 // The shared wizard data as JSON, by the names of its variables and of the model's fields.
 #pragma once
 
-#include "frame/mdTRNMain.h"
 #include "host/Json.h"
+#include "model/mdTRNMain.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "host/Hosted.h"
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 namespace Tarnwise {
 

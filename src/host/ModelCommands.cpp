@@ -1,9 +1,9 @@
 #include "host/ModelCommands.h"
 
-#include "frame/ModelFile.h"
 #include "host/ModelJson.h"
 #include "host/ModelWriter.h"
 #include "host/NamedCodePage.h"
+#include "model/ModelFile.h"
 
 #include <ostream>
 

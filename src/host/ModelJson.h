@@ -3,8 +3,8 @@
 // keys.
 #pragma once
 
-#include "frame/mdTRNMain.h"
 #include "host/JsonValues.h"
+#include "model/mdTRNMain.h"
 
 namespace Tarnwise {
 

@@ -1,8 +1,8 @@
 // The writer of model files. docs/model-format.md describes them; the reader is frame/ModelFile.h.
 #pragma once
 
-#include "frame/mdTRNMain.h"
 #include "host/WholeFile.h"
+#include "model/mdTRNMain.h"
 #include "runtime/CodePage.h"
 
 #include <optional>

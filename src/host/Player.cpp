@@ -1,7 +1,7 @@
 #include "host/Player.h"
 
-#include "frame/mdTRNMain.h"
 #include "host/ScriptLine.h"
+#include "model/mdTRNMain.h"
 #include "runtime/Paths.h"
 #include "view/Platform.h"
 

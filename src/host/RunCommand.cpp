@@ -1,10 +1,10 @@
-#include "frame/mdTRNMain.h"
 #include "host/Commands.h"
 #include "host/Json.h"
 #include "host/PointsFile.h"
 #include "host/RunScreen.h"
 #include "host/SaveModel.h"
 #include "host/WholeFile.h"
+#include "model/mdTRNMain.h"
 
 #include <iostream>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "host/SaveModel.h"
 
-#include "frame/ModelFile.h"
 #include "host/ModelWriter.h"
+#include "model/ModelFile.h"
 
 namespace Tarnwise {
 

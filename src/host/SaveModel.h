@@ -1,8 +1,8 @@
 // Judgments into a model file, so that the next run resumes from them.
 #pragma once
 
-#include "frame/mdTRNMain.h"
 #include "host/WholeFile.h"
+#include "model/mdTRNMain.h"
 
 #include <tarnwise/TRN_DEA.h>
 

@@ -1,7 +1,7 @@
 // The grids of the results page: what the judgments came to, read from the wizard data.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 #include "view/Controls.h"
 
 namespace Tarnwise {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "curves/Akima.h"
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 namespace Tarnwise {
 

@@ -2,7 +2,7 @@
 // Rank 1 is the most important; attributes may share a rank; empty rows stay until the commit.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 namespace Tarnwise {
 

@@ -2,7 +2,7 @@
 // RankPanels.cpp lays the rows out, RankDrag.cpp answers drags, ReferenceStage.cpp is stage 2.
 #pragma once
 
-#include "frame/Steps.h"
+#include "model/StepEvents.h"
 #include "ordering/RankOrder.h"
 #include "view/forms/IniImpOrderForm.h"
 

@@ -1,8 +1,8 @@
 // The first step: which approach, and whether consistency is controlled.
 #pragma once
 
-#include "frame/Steps.h"
-#include "frame/mdTRNMain.h"
+#include "model/StepEvents.h"
+#include "model/mdTRNMain.h"
 #include "view/forms/SelMethodForm.h"
 
 namespace Tarnwise {

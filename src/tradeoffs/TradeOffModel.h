@@ -4,7 +4,7 @@
 // Ratios travel as texts, since one of them is not a number: a decimal text of at most four decimals, or "Infinity!".
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 namespace Tarnwise {
 

@@ -2,7 +2,7 @@
 // into a weight ratio. AlternativesChart.cpp is the chart, ScoreEntry.cpp the boxes, Uncertainty.cpp the tools.
 #pragma once
 
-#include "frame/Steps.h"
+#include "model/StepEvents.h"
 #include "tradeoffs/TradeOffJudgment.h"
 #include "view/forms/TradeOffsBForm.h"
 

@@ -1,7 +1,7 @@
 // What the disk does to a model while it is saved or read.
-#include "frame/ModelFile.h"
 #include "host/ModelWriter.h"
 #include "host/SaveModel.h"
+#include "model/ModelFile.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // Two models field by field, in the order of the file.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 #include <functional>
 

@@ -2,7 +2,7 @@
 // writer or the reader.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 #include <functional>
 

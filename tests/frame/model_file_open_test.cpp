@@ -1,4 +1,4 @@
-#include "frame/ModelFile.h"
+#include "model/ModelFile.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"
 

@@ -1,8 +1,8 @@
 #include "host/ModelWriter.h"
 
 #include "FaultOf.h"
-#include "frame/ModelFile.h"
 #include "frame/ModelFileBytes.h"
+#include "model/ModelFile.h"
 
 #include <gtest/gtest.h>
 

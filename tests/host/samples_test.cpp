@@ -1,7 +1,7 @@
-#include "frame/ModelFile.h"
 #include "frame/TemporaryFolder.h"
 #include "host/ModelCommands.h"
 #include "host/ModelJson.h"
+#include "model/ModelFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "host/SaveModel.h"
 
 #include "FaultOf.h"
-#include "frame/ModelFile.h"
 #include "frame/ModelFileBytes.h"
 #include "frame/TemporaryFolder.h"
+#include "model/ModelFile.h"
 
 #include <gtest/gtest.h>
 

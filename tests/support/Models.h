@@ -1,7 +1,7 @@
 // Small models for tests, and files of them.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 #include <filesystem>
 #include <utility>

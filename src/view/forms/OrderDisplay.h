@@ -1,7 +1,7 @@
 // A finished rank order of one group, to look at or to choose from: rows of buttons in a scrolled viewport.
 #pragma once
 
-#include "frame/Groups.h"
+#include "model/Groups.h"
 #include "view/forms/WizardForm.h"
 
 namespace Tarnwise {

@@ -1,4 +1,4 @@
-#include "frame/Wizard.h"
+#include "wizard/Wizard.h"
 
 #include "view/Platform.h"
 

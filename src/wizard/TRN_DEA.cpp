@@ -1,7 +1,7 @@
 #include <tarnwise/TRN_DEA.h>
 
-#include "frame/ModelFile.h"
-#include "frame/Wizard.h"
+#include "model/ModelFile.h"
+#include "wizard/Wizard.h"
 
 namespace Tarnwise {
 

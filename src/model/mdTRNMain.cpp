@@ -1,6 +1,6 @@
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
-#include "frame/ModelFile.h"
+#include "model/ModelFile.h"
 #include "runtime/PerThread.h"
 #include "runtime/Text.h"
 

@@ -1,4 +1,4 @@
-#include "frame/Groups.h"
+#include "model/Groups.h"
 
 namespace Tarnwise {
 

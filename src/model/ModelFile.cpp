@@ -1,4 +1,4 @@
-#include "frame/ModelFile.h"
+#include "model/ModelFile.h"
 
 #include "runtime/AnsiText.h"
 #include "runtime/Paths.h"

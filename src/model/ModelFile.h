@@ -1,7 +1,7 @@
 // The model file's reader. The format is described in docs/model-format.md; its writer belongs to the host.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 #include "runtime/CodePage.h"
 
 namespace Tarnwise {

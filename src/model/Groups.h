@@ -1,7 +1,7 @@
 // The two groups of attributes and their references, as the wizard data has them.
 #pragma once
 
-#include "frame/mdTRNMain.h"
+#include "model/mdTRNMain.h"
 
 #include <vector>
 

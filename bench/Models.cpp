@@ -1,6 +1,6 @@
 #include "Models.h"
 
-#include "direct/Intervals.h"
+#include "judging/Intervals.h"
 
 #include <cmath>
 

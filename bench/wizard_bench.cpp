@@ -6,10 +6,10 @@
 //   Akima/*    one interpolation by search: ours, and the GNU Scientific Library's with its accelerator
 //   TradeOff/* opening the step, one dropped point, and a commit with 15 attributes on the rank
 #include "Models.h"
+#include "curves/mdGraphs.h"
 #include "direct/frmDirectB.h"
 #include "host/ModelWriter.h"
 #include "model/ModelFile.h"
-#include "numerics/mdGraphs.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"

@@ -1,7 +1,7 @@
 #include "CommitChecks.h"
 
 #include "Expect.h"
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 #include "runtime/Text.h"
 #include "tradeoffs/TradeOffModel.h"
 

@@ -1,7 +1,7 @@
 // What the commit of one judgment may do to the intervals, and what it must.
 #pragma once
 
-#include "direct/Intervals.h"
+#include "judging/Intervals.h"
 
 namespace Tarnwise {
 

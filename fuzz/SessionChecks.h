@@ -2,7 +2,7 @@
 // carried out, and when the next one is asked for, which inside a modal call is the first moment after it too.
 #pragma once
 
-#include "direct/Intervals.h"
+#include "judging/Intervals.h"
 
 #include <memory>
 #include <vector>

@@ -1,6 +1,6 @@
 // The direct step's chart: handles, rays and the wedge between them, and the verdict on what they say.
-#include "direct/JudgmentLights.h"
 #include "direct/frmDirectB.h"
+#include "judging/JudgmentLights.h"
 
 namespace Tarnwise {
 

@@ -1,7 +1,7 @@
 // The two boxes in which an interval is typed: which keys pass, what is checked on leaving, and how the typed value
 // moves its handle.
-#include "direct/NumberKeys.h"
 #include "direct/frmDirectB.h"
+#include "judging/NumberKeys.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
 

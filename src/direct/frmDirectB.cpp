@@ -1,8 +1,8 @@
 #include "direct/frmDirectB.h"
 
-#include "direct/JudgmentLights.h"
-#include "direct/TargetList.h"
-#include "numerics/ResultsGrids.h"
+#include "judging/JudgmentLights.h"
+#include "judging/ResultsGrids.h"
+#include "judging/TargetList.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
 

@@ -2,8 +2,8 @@
 // ChartStep.cpp moves handles and judges, EntryBoxes.cpp answers typing.
 #pragma once
 
-#include "direct/Consistency.h"
-#include "direct/Intervals.h"
+#include "judging/Consistency.h"
+#include "judging/Intervals.h"
 #include "model/StepEvents.h"
 #include "view/forms/DirectBForm.h"
 

@@ -1,10 +1,10 @@
 // What a script asks.
+#include "curves/mdGraphs.h"
 #include "host/ControlJson.h"
 #include "host/DataJson.h"
 #include "host/Player.h"
 #include "host/ScriptLine.h"
 #include "model/mdTRNMain.h"
-#include "numerics/mdGraphs.h"
 #include "runtime/Paths.h"
 #include "view/Platform.h"
 

@@ -1,6 +1,6 @@
 // The chart of the two alternatives. All of its arithmetic is in Singles; lengths are twips.
-#include "direct/JudgmentLights.h"
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
+#include "judging/JudgmentLights.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 #include "tradeoffs/frmTradeOffsB.h"

@@ -1,6 +1,6 @@
 // The four scores, typed or stepped.
-#include "direct/NumberKeys.h"
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
+#include "judging/NumberKeys.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 #include "tradeoffs/frmTradeOffsB.h"

@@ -1,8 +1,8 @@
 // The verdict on a trade-off, its caption, and how it enters the shared intervals.
 #pragma once
 
-#include "direct/Consistency.h"
-#include "direct/Intervals.h"
+#include "judging/Consistency.h"
+#include "judging/Intervals.h"
 #include "tradeoffs/TradeOffModel.h"
 
 namespace Tarnwise {

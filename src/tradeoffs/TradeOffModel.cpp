@@ -1,6 +1,6 @@
 #include "tradeoffs/TradeOffModel.h"
 
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 

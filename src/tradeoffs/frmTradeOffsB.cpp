@@ -1,9 +1,9 @@
 #include "tradeoffs/frmTradeOffsB.h"
 
-#include "direct/Intervals.h"
-#include "direct/JudgmentLights.h"
-#include "direct/TargetList.h"
-#include "numerics/ResultsGrids.h"
+#include "judging/Intervals.h"
+#include "judging/JudgmentLights.h"
+#include "judging/ResultsGrids.h"
+#include "judging/TargetList.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
 

@@ -1,7 +1,7 @@
 // Value curves for tests: given ones, random ones, and models of one attribute that has the curve.
 #pragma once
 
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 #include "runtime/ErrorNumber.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // that makes a user's way through the ordering step to the direct step.
 #pragma once
 
-#include "direct/Intervals.h"
+#include "judging/Intervals.h"
 #include "support/Session.h"
 
 #include <algorithm>

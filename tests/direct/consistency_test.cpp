@@ -1,4 +1,4 @@
-#include "direct/Consistency.h"
+#include "judging/Consistency.h"
 #include "direct/Ranked.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The three lights: which is in force, and when a screen reader is told.
-#include "direct/JudgmentLights.h"
+#include "judging/JudgmentLights.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"
 

@@ -1,4 +1,4 @@
-#include "numerics/ResultsGrids.h"
+#include "judging/ResultsGrids.h"
 
 #include "direct/Ward.h"
 #include "support/TestHost.h"

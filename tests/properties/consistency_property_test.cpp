@@ -1,6 +1,6 @@
 // The consistency control and the chart that it judges.
 #include "Random.h"
-#include "direct/Consistency.h"
+#include "judging/Consistency.h"
 #include "runtime/Text.h"
 
 #include <cmath>

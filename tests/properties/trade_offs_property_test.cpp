@@ -1,6 +1,6 @@
 // Ratios of two alternatives, their verdict, and how they enter the intervals.
 #include "Random.h"
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 #include "tradeoffs/TradeOffs.h"

@@ -1,6 +1,6 @@
 #include "TradeOffs.h"
 
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 #include "runtime/Text.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "TradeOffs.h"
 
+#include "curves/mdGraphs.h"
 #include "host/Json.h"
-#include "numerics/mdGraphs.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {

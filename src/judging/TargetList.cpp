@@ -1,4 +1,4 @@
-#include "direct/TargetList.h"
+#include "judging/TargetList.h"
 
 #include "runtime/Text.h"
 

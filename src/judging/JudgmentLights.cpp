@@ -1,4 +1,4 @@
-#include "direct/JudgmentLights.h"
+#include "judging/JudgmentLights.h"
 
 #include "view/Platform.h"
 

@@ -1,4 +1,4 @@
-#include "direct/NumberKeys.h"
+#include "judging/NumberKeys.h"
 
 namespace Tarnwise {
 

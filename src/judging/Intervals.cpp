@@ -1,4 +1,4 @@
-#include "direct/Intervals.h"
+#include "judging/Intervals.h"
 
 #include <algorithm>
 

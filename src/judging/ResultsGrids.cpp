@@ -1,4 +1,4 @@
-#include "numerics/ResultsGrids.h"
+#include "judging/ResultsGrids.h"
 
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"

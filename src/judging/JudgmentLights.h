@@ -1,7 +1,7 @@
 // How a verdict shows: the light in force, the others out, Enter allowed or not, and the blinking.
 #pragma once
 
-#include "direct/Consistency.h"
+#include "judging/Consistency.h"
 #include "view/forms/LightControls.h"
 
 namespace Tarnwise {

@@ -1,4 +1,4 @@
-#include "numerics/mdGraphs.h"
+#include "curves/mdGraphs.h"
 
 #include "runtime/Numbers.h"
 

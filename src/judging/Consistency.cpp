@@ -1,4 +1,4 @@
-#include "direct/Consistency.h"
+#include "judging/Consistency.h"
 
 #include "runtime/Text.h"
 

@@ -2,8 +2,8 @@
 // again, and the way through a file gives the same as the bytes.
 #include "Expect.h"
 #include "PlainReader.h"
-#include "host/ModelWriter.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelWriter.h"
 #include "view/Platform.h"
 
 #include <tarnwise/TRN_DEA.h>

@@ -3,8 +3,8 @@
 #include "RandomModel.h"
 #include "SessionChecks.h"
 #include "SessionLines.h"
-#include "host/ModelWriter.h"
-#include "host/Player.h"
+#include "modelfiles/ModelWriter.h"
+#include "play/Player.h"
 #include "view/Platform.h"
 
 #include <istream>

@@ -4,9 +4,9 @@
 #include "com/Convert.h"
 #include "com/Screen.h"
 #include "com/TypeInfo.h"
-#include "host/Win32Driver.h"
 #include "model/mdTRNMain.h"
 #include "view/Platform.h"
+#include "view/win32/Win32Driver.h"
 
 #include <olectl.h>
 

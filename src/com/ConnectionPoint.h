@@ -1,7 +1,7 @@
 // Where a host's sinks for the events are connected. Part of the object that raises them: it lives as long as that.
 #pragma once
 
-#include "com/ComRef.h"
+#include "runtime/windows/ComRef.h"
 
 #include <ocidl.h>
 

@@ -1,9 +1,9 @@
 // Enumerators over a copy of a list. An item of ours makes the caller's by its HandOut.
 #pragma once
 
-#include "com/ComRef.h"
 #include "com/Errors.h"
 #include "com/Module.h"
+#include "runtime/windows/ComRef.h"
 
 #include <algorithm>
 #include <vector>

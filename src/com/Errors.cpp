@@ -1,7 +1,7 @@
 #include "com/Errors.h"
 
-#include "com/ComRef.h"
 #include "com/Convert.h"
+#include "runtime/windows/ComRef.h"
 
 #include <Tarnwise_DEA.h>
 #include <new>

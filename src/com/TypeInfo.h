@@ -1,7 +1,7 @@
 // The types of the component's own type library, which is part of its file: no registration is needed to find it.
 #pragma once
 
-#include "com/ComRef.h"
+#include "runtime/windows/ComRef.h"
 
 #include <oleauto.h>
 

@@ -2,8 +2,8 @@
 // and a sink that notes the events.
 #pragma once
 
-#include "com/ComRef.h"
 #include "com/PlayerAccess.h"
+#include "runtime/windows/ComRef.h"
 #include "support/TestHost.h"
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 // Whole rounds of the wizard in the session player, as scripts.
 #pragma once
 
-#include "host/Player.h"
+#include "play/Player.h"
 #include "support/Session.h"
 
 #include <sstream>

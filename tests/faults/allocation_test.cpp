@@ -1,8 +1,8 @@
 // No memory at the n-th request, for every n: nothing is lost, nothing breaks, and the wizard can go on. Run under the
 // address sanitizer the test also shows that nothing leaks.
 #include "Rounds.h"
-#include "host/ModelWriter.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelWriter.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>

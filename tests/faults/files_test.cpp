@@ -1,7 +1,7 @@
 // What the disk does to a model while it is saved or read.
-#include "host/ModelWriter.h"
-#include "host/SaveModel.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelWriter.h"
+#include "modelfiles/SaveModel.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>

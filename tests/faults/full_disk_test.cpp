@@ -1,7 +1,7 @@
 // A disk without room: a very small one of our own, mounted where only a child process sees it.
-#include "host/ModelWriter.h"
-#include "host/SaveModel.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelWriter.h"
+#include "modelfiles/SaveModel.h"
 #include "support/TestHost.h"
 
 #include <gtest/gtest.h>

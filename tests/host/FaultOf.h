@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/WholeFile.h"
+#include "modelfiles/WholeFile.h"
 
 namespace Tarnwise {
 

@@ -1,6 +1,6 @@
 // Model files from systems with another code page.
-#include "host/ModelCommands.h"
-#include "host/NamedCodePage.h"
+#include "modelfiles/NamedCodePage.h"
+#include "program/ModelCommands.h"
 
 #include "frame/TemporaryFolder.h"
 

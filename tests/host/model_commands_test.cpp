@@ -1,4 +1,4 @@
-#include "host/ModelCommands.h"
+#include "program/ModelCommands.h"
 
 #include "frame/ModelFileBytes.h"
 #include "frame/TemporaryFolder.h"

@@ -1,4 +1,4 @@
-#include "host/ModelJson.h"
+#include "modelfiles/ModelJson.h"
 
 #include "FaultOf.h"
 

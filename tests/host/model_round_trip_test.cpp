@@ -1,8 +1,8 @@
 // Any model that can be read, shown as a description and built again, is the same file.
 #include "frame/ModelFileBytes.h"
-#include "host/ModelJson.h"
-#include "host/ModelWriter.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelJson.h"
+#include "modelfiles/ModelWriter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/ModelWriter.h"
+#include "modelfiles/ModelWriter.h"
 
 #include "FaultOf.h"
 #include "frame/ModelFileBytes.h"

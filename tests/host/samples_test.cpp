@@ -1,7 +1,7 @@
 #include "frame/TemporaryFolder.h"
-#include "host/ModelCommands.h"
-#include "host/ModelJson.h"
 #include "model/ModelFile.h"
+#include "modelfiles/ModelJson.h"
+#include "program/ModelCommands.h"
 
 #include <gtest/gtest.h>
 

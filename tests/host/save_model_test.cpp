@@ -1,4 +1,4 @@
-#include "host/SaveModel.h"
+#include "modelfiles/SaveModel.h"
 
 #include "FaultOf.h"
 #include "frame/ModelFileBytes.h"

@@ -1,4 +1,4 @@
-#include "host/WholeFile.h"
+#include "modelfiles/WholeFile.h"
 
 #include "FaultOf.h"
 #include "frame/TemporaryFolder.h"

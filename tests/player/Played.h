@@ -1,8 +1,8 @@
 // A script of its own, played from its first line to its end.
 #pragma once
 
-#include "host/Json.h"
-#include "host/Player.h"
+#include "play/Json.h"
+#include "play/Player.h"
 #include "support/Session.h"
 
 #include <sstream>

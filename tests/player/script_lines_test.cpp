@@ -1,7 +1,7 @@
 // Lines, words, names and numbers of session scripts; the exit status.
-#include "host/ControlJson.h"
-#include "host/DataJson.h"
-#include "host/ScriptLine.h"
+#include "play/ControlJson.h"
+#include "play/DataJson.h"
+#include "play/ScriptLine.h"
 #include "player/Played.h"
 
 #include <gtest/gtest.h>

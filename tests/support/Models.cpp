@@ -1,6 +1,6 @@
 #include "support/Models.h"
 
-#include "host/ModelWriter.h"
+#include "modelfiles/ModelWriter.h"
 
 #include <fstream>
 #include <random>

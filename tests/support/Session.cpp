@@ -1,7 +1,7 @@
 #include "support/Session.h"
 
-#include "host/Json.h"
-#include "host/Player.h"
+#include "play/Json.h"
+#include "play/Player.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "support/TestHost.h"
 
-#include "host/ScriptLine.h"
+#include "play/ScriptLine.h"
 #include "view/Input.h"
 #include "view/Reach.h"
 

@@ -1,7 +1,7 @@
 // The step inside of the wizard, from the first form to the host.
 #include "TradeOffs.h"
 
-#include "host/Json.h"
+#include "play/Json.h"
 
 namespace Tarnwise {
 namespace {

@@ -1,7 +1,7 @@
 #include "TradeOffs.h"
 
 #include "curves/mdGraphs.h"
-#include "host/Json.h"
+#include "play/Json.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {

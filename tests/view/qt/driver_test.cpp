@@ -1,4 +1,4 @@
-#include "host/Driver.h"
+#include "view/Driver.h"
 #include "TestForm.h"
 
 #include <filesystem>

@@ -1,0 +1,42 @@
+#include "program/Screens.h"
+
+#include <QApplication>
+#include <cstdlib>
+#include <iostream>
+
+namespace Tarnwise {
+
+namespace {
+
+bool waiting = false;
+
+// Where the screen goes away, its server ended, Qt ends the process; what it says is not about the judgments.
+void TellOfLostScreen() {
+  if (waiting) std::cerr << "The screen is gone. No judgments were handed over, and no file was changed." << std::endl;
+}
+
+void WaitForEnd() {
+  static const bool asked = std::atexit(TellOfLostScreen) == 0;
+  waiting = asked;
+  QApplication::exec();
+  waiting = false;
+}
+
+}  // namespace
+
+const char* const kToolkits = "headless or qt";
+const bool kHasCom = false;
+
+RunScreen OpenScreen(int& argc, char** argv, bool /*com*/) {
+  const auto application = std::make_shared<QApplication>(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  return {[application] { return HostLinked(MakeQtPlatform()); }, WaitForEnd, [] { QApplication::quit(); }};
+}
+
+std::optional<PlayScreen> OpenPlayScreen(const String& toolkit, bool /*com*/, int& argc, char** argv) {
+  if (toolkit != "qt") return std::nullopt;
+  const auto application = std::make_shared<QApplication>(argc, argv);
+  return PlayScreen{application, MakeQtDriver(), nullptr};
+}
+
+}  // namespace Tarnwise

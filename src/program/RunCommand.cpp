@@ -1,0 +1,119 @@
+#include "model/mdTRNMain.h"
+#include "modelfiles/PointsFile.h"
+#include "modelfiles/SaveModel.h"
+#include "modelfiles/WholeFile.h"
+#include "play/Json.h"
+#include "program/Commands.h"
+#include "program/Screens.h"
+
+#include <iostream>
+#include <optional>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr int kCancelled = 1;
+constexpr Integer kFileIndex = 1;
+
+struct Judgments {
+  String RJType;
+  Integer BRefAttID = 0;
+  Integer CRefAttID = 0;
+  Variant RefAttWR;
+  VariantArray Weights;
+  VariantArray WeightsH;
+  VariantArray WeightsL;
+  std::optional<Points> TradeOffs;
+};
+
+Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
+  Json attributes = Json::array();
+  for (std::size_t i = 0; i < judgments.Weights.size(); ++i) {
+    attributes.push_back({{"name", data.AttName(static_cast<int>(i))},
+                          {"low", ToJson(judgments.WeightsL[i])},
+                          {"ratio", ToJson(judgments.Weights[i])},
+                          {"high", ToJson(judgments.WeightsH[i])}});
+  }
+  Json object = {{"type", judgments.RJType},
+                 {"benefitReference", judgments.BRefAttID},
+                 {"costReference", judgments.CRefAttID},
+                 {"referenceRatio", ToJson(judgments.RefAttWR)},
+                 {"attributes", attributes}};
+  if (judgments.TradeOffs) {
+    const Points& p = *judgments.TradeOffs;
+    object["points"] = {{"AX", ToJson(p[0])},  {"AY", ToJson(p[1])},           {"BX", ToJson(p[2])},
+                        {"BY", ToJson(p[3])},  {"AOrientation", ToJson(p[4])}, {"ALX", ToJson(p[5])},
+                        {"ALY", ToJson(p[6])}, {"AUX", ToJson(p[7])},          {"AUY", ToJson(p[8])}};
+  }
+  return object;
+}
+
+// The points that the wizard is given: those of the last time, else zeros. Bad ones are told and not used.
+Points StartingPoints(const String& model, int numAtts) {
+  try {
+    return ReadPoints(model, numAtts);
+  } catch (const ModelFault& fault) {
+    std::cerr << "The trade-off points of last time are not used: " << fault.what() << std::endl;
+    return ZeroPoints(numAtts);
+  }
+}
+
+// The export has the orientations that went in; a resumed wizard wants those that the corners show.
+Points WithOrientations(Points p) {
+  enum { kOrientation = 4, kALX, kALY, kAUX, kAUY };
+  p[kOrientation] = OrientationsOf(p[kALX], p[kALY], p[kAUX], p[kAUY]);
+  return p;
+}
+
+void Save(const String& model, const Judgments& judgments, const WizardData& data) {
+  if (judgments.TradeOffs) WritePoints(model, WithOrientations(*judgments.TradeOffs));
+  SaveJudgments(model, data, judgments.RJType, judgments.BRefAttID, judgments.CRefAttID, judgments.RefAttWR,
+                judgments.Weights, judgments.WeightsH, judgments.WeightsL);
+  std::cerr << "The judgments are stored in " << model << "; the next run resumes from them." << std::endl;
+}
+
+// Shows the wizard until the user is through with it; nothing when the user cancelled.
+std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model) {
+  std::optional<Judgments> exported;
+  bool done = false;
+  dea.Events().SendMasseges = [](const String& Msg) { std::cerr << Msg << std::endl; };
+  dea.Events().ExportDirectBW = [&exported](const String& RJType, Integer BRefAttID, Integer CRefAttID,
+                                            const Variant& RefAttWR, const VariantArray& Weights,
+                                            const VariantArray& WeightsH, const VariantArray& WeightsL) {
+    exported = Judgments{RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH, WeightsL, {}};
+  };
+  dea.Events().ExportABScores = [&exported](const auto&... arrays) {
+    if (exported) exported->TradeOffs = Points{arrays...};
+  };
+  dea.Events().UnloadTarnwise = [&](Integer /*fIndex*/, Boolean WeightsDone) {
+    done = WeightsDone;
+    dea.UnloadTarnwise();
+    screen.End();
+  };
+  const std::filesystem::path folder = PathFromText(model).parent_path();
+  dea.GetCurFileData(folder.empty() ? String(".") : TextFromPath(folder), kFileIndex, model);
+  dea.TranferABCoordinates(StartingPoints(model, dea.Data().NumAtts()));
+  dea.ShowTarnwise();
+  screen.Wait();
+  if (!done) exported.reset();
+  return exported;
+}
+
+}  // namespace
+
+int RunWizard(const RunOptions& options, int& argc, char** argv) {
+  FileBytes(options.Model);  // a model that is not there is told here, where nothing has been opened yet
+  const RunScreen screen = OpenScreen(argc, argv, options.Com);
+  const std::unique_ptr<Hosted> dea = screen.Make();
+  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model);
+  if (!judgments) {
+    std::cerr << "Cancelled: no judgments were handed over." << std::endl;
+    return kCancelled;
+  }
+  std::cout << JudgmentsJson(*judgments, dea->Data()).dump(2) << std::endl;
+  if (options.Save) Save(options.Model, *judgments, dea->Data());
+  return 0;
+}
+
+}  // namespace Tarnwise

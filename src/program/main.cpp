@@ -1,0 +1,75 @@
+// The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files.
+#include "program/Commands.h"
+#include "program/ModelCommands.h"
+#include "program/Screens.h"
+#include "program/SystemText.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <iostream>
+
+namespace {
+
+using namespace Tarnwise;
+
+int Main(int argc, char** argv) {
+  CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
+  app.allow_windows_style_options(false);  // a path may begin with a slash
+  app.require_subcommand(1);
+
+  RunOptions run;
+  CLI::App* const runCommand = app.add_subcommand("run", "Show the wizard on a model; print the judgments as JSON");
+  runCommand->add_option("MODEL", run.Model, "Model file (.kst)")->required();
+  runCommand->add_flag("--save", run.Save, "Store the judgments in the model file, so that the next run resumes");
+
+  PlayOptions play;
+  CLI::App* const playCommand = app.add_subcommand("play", "Drive the wizard by a session script");
+  playCommand->add_option("--toolkit", play.Toolkit, kToolkits)->capture_default_str();
+  playCommand->add_option("--shots", play.Shots, "Folder for the pictures that the script takes");
+  playCommand->add_option("SCRIPT", play.Script, "Script file, or - for standard input")->required();
+
+  if (kHasCom) {
+    const char* const comHelp = "Drive the registered COM class Tarnwise_DEA.TRN_DEA, not the wizard in this program";
+    runCommand->add_flag("--com", run.Com, comHelp);
+    playCommand->add_flag("--com", play.Com, comHelp);
+  }
+
+  CLI::App* const model = app.add_subcommand("model", "Build and show model files");
+  model->require_subcommand(1);
+  std::string from;
+  std::string to;
+  CLI::App* const build = model->add_subcommand("build", "Write a model file from its JSON description");
+  build->add_option("MODEL.json", from)->required();
+  build->add_option("MODEL.kst", to)->required();
+  CLI::App* const show = model->add_subcommand("show", "Print a model file as its JSON description");
+  show->add_option("MODEL.kst", from)->required();
+  std::string codePage;
+  for (CLI::App* const command : {build, show}) {
+    command->add_option("--code-page", codePage, "Code page of the model file's texts, where it is not this system's");
+  }
+
+  try {
+    std::vector<String> arguments = ProgramArguments(argc, argv);
+    std::reverse(arguments.begin(), arguments.end());  // the library takes them off the end
+    app.parse(arguments);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error);
+  }
+  if (playCommand->parsed()) return PlaySession(play, argc, argv);
+  if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
+  if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
+  return RunWizard(run, argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const Utf8Output output;
+  try {
+    return Main(argc, argv);
+  } catch (const std::exception& fault) {
+    std::cerr << "tarnwise: " << fault.what() << '\n';
+    return 1;
+  }
+}

@@ -24,8 +24,6 @@ std::shared_ptr<Platform> MakeQtPlatform();        // needs a QApplication; in t
 std::shared_ptr<Platform> MakeWin32Platform();     // Windows only, on a thread with a message loop; in tarnwise_win32
 std::shared_ptr<Platform> MakeHeadlessPlatform();  // no screen: for tests and scripts
 
-using VariantArray = std::vector<Variant>;  // elements 0 to NumAtts - 1
-
 // The orientations that the corners of exported points show: 1 where A is a line across, 2 where it is one upward, 0
 // where it is a point. ExportABScores hands back the AOrientation that came in; a host that wants the user's lines back
 // gives TranferABCoordinates these instead. RuntimeError 9 where the arrays differ in length, 13 or 94 for an element

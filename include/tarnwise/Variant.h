@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <variant>
+#include <vector>
 
 namespace Tarnwise {
 
@@ -28,6 +29,8 @@ struct Date {
 // std::monostate is Empty.
 using Variant =
     std::variant<std::monostate, Null, Integer, Long, Single, Double, Currency, Date, String, bool, std::uint8_t>;
+
+using VariantArray = std::vector<Variant>;  // of attributes: elements 0 to NumAtts - 1
 
 // Conversions. Empty is 0 and "". Text must be a number as a whole (error 13), Null is error 94, what does not fit is
 // error 6. Fractions go to the nearest whole number, ties to even.

@@ -124,7 +124,7 @@ class Sink final : public IDispatch {
     if (!events_.ExportABScores) return;
     PointArrays a;
     for (UINT i = 0; i < a.size(); ++i) a[i] = ArrayAt(p, i);
-    events_.ExportABScores(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
+    std::apply(events_.ExportABScores, a);
   }
 
   TRN_DEA_Events& events_;

@@ -98,9 +98,9 @@ STDMETHODIMP Component::TranferABCoordinates(SAFEARRAY** AX, SAFEARRAY** AY, SAF
 }
 
 void Component::Transfer(TRN_DEA& wizard, const ScoreArrays& scores) const {
-  std::array<VariantArray, kScoreArrays> v;
-  for (std::size_t i = 0; i < kScoreArrays; ++i) v[i] = FromSafeArray(scores[i], data_.NumAtts());
-  wizard.TranferABCoordinates(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8]);
+  PointArrays points;
+  for (std::size_t i = 0; i < points.size(); ++i) points[i] = FromSafeArray(scores[i], data_.NumAtts());
+  std::apply([&wizard](const auto&... arrays) { wizard.TranferABCoordinates(arrays...); }, points);
 }
 
 STDMETHODIMP Component::InterfaceSupportsErrorInfo(REFIID iid) {

@@ -6,6 +6,8 @@
 #include "com/Module.h"
 #include "com/PlayerAccess.h"
 
+#include "model/PointArrays.h"
+
 #include <tarnwise/TRN_DEA.h>
 
 #include <Tarnwise_DEA.h>
@@ -16,7 +18,7 @@ namespace Tarnwise {
 
 class EventArguments;
 
-constexpr std::size_t kScoreArrays = 9;
+constexpr std::size_t kScoreArrays = kPointFields;
 using ScoreArrays = std::array<SAFEARRAY*, kScoreArrays>;
 
 class Component final : public _TRN_DEA,

@@ -58,13 +58,10 @@ void Component::ConnectEvents(TRN_DEA_Events& events) {
   };
   events.ExportDirectBW = judgments(kExportDirectBW);
   events.ExportTradeOffsBW = judgments(kExportTradeOffsBW);
-  events.ExportABScores = [this](VariantArray& AX, VariantArray& AY, VariantArray& BX, VariantArray& BY,
-                                 VariantArray& AOrientation, VariantArray& ALX, VariantArray& ALY, VariantArray& AUX,
-                                 VariantArray& AUY) {
+  events.ExportABScores = [this](auto&... arrays) {
     Guarded([&] {
       EventArguments arguments;
-      arguments.Array(AX).Array(AY).Array(BX).Array(BY).Array(AOrientation);
-      arguments.Array(ALX).Array(ALY).Array(AUX).Array(AUY);
+      (arguments.Array(arrays), ...);
       Fire(kExportABScores, arguments);
     });
   };

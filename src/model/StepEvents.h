@@ -12,11 +12,6 @@ namespace Tarnwise {
 using ExportWeights = void(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
                            Array<Variant>& Weights, Array<Variant>& WeightsH, Array<Variant>& WeightsL);
 
-// The nine arrays of the trade-off points, one element for each attribute.
-struct ABScores {
-  Array<Variant> AX, AY, BX, BY, AOrientation, ALX, ALY, AUX, AUY;
-};
-
 // Raises an event of a form. The callable is copied first: what it does may release the form and drop it.
 template <class... Declared, class... Given>
 void Raise(const std::function<void(Declared...)>& event, Given&&... arguments) {

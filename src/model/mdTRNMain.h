@@ -2,11 +2,8 @@
 // One set per thread; all steps work on it. What has not been read or set is zero, empty or unallocated.
 #pragma once
 
+#include "model/PointArrays.h"
 #include "runtime/Sizes.h"
-
-#include <tarnwise/Arrays.h>
-#include <tarnwise/Scalars.h>
-#include <tarnwise/Variant.h>
 
 namespace Tarnwise {
 
@@ -15,19 +12,6 @@ constexpr const char* kTradeOffsType = "DEA_TRADEOFFS";
 constexpr const char* kKesta = "KESTA";  // the host application, title of all message boxes
 constexpr int kExclamation = 48;
 constexpr int kInformation = 64;
-
-// One attribute's two alternatives A and B, in the scores of the target (X) and of its reference (Y).
-struct ABPoint {
-  Single AX = 0.0F;
-  Single AY = 0.0F;
-  Single BX = 0.0F;
-  Single BY = 0.0F;
-  Integer AOrientation = 0;  // A's uncertainty: 0 none, 1 horizontal, 2 vertical
-  Single ALX = 0.0F;
-  Single ALY = 0.0F;
-  Single AUX = 0.0F;
-  Single AUY = 0.0F;
-};
 
 // The model's records, in the order of the file's eight items. What is named Unused only passes through.
 struct ModelHeader {

@@ -1,15 +1,12 @@
 // Reading of a description's objects with messages that say which key, whose, and why.
 #pragma once
 
+#include "modelfiles/Json.h"
 #include "modelfiles/WholeFile.h"
-
-#include <nlohmann/json.hpp>
 
 #include <vector>
 
 namespace Tarnwise {
-
-using Json = nlohmann::ordered_json;
 
 // The name of those offered that is nearest to the given one, for "did you mean"; empty when none is near.
 String NearestName(const String& name, const std::vector<String>& offered);

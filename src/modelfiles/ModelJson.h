@@ -4,7 +4,7 @@
 #pragma once
 
 #include "model/mdTRNMain.h"
-#include "modelfiles/JsonValues.h"
+#include "modelfiles/DescriptionJson.h"
 
 namespace Tarnwise {
 

@@ -1,13 +1,11 @@
 #include "modelfiles/PointsFile.h"
 
+#include "modelfiles/PlainJson.h"
 #include "modelfiles/WholeFile.h"
-#include "play/Json.h"
 
 namespace Tarnwise {
 
 namespace {
-
-constexpr const char* kNames[] = {"AX", "AY", "BX", "BY", "AOrientation", "ALX", "ALY", "AUX", "AUY"};
 
 VariantArray NumbersOf(const Json& file, const char* name, int numAtts) {
   const auto found = file.find(name);
@@ -26,21 +24,15 @@ VariantArray NumbersOf(const Json& file, const char* name, int numAtts) {
 
 String PointsPath(const String& modelPath) { return modelPath + ".points.json"; }
 
-Points ZeroPoints(int numAtts) {
-  Points points;
-  points.fill(VariantArray(static_cast<std::size_t>(std::max(0, numAtts)), Variant(0.0)));
-  return points;
-}
-
-Points ReadPoints(const String& modelPath, int numAtts) {
+PointArrays ReadPoints(const String& modelPath, int numAtts) {
   const String path = PointsPath(modelPath);
   if (!std::filesystem::exists(PathFromText(path))) return ZeroPoints(numAtts);
   const std::vector<char> bytes = FileBytes(path);
   try {
     const Json file = Json::parse(bytes.begin(), bytes.end());
     if (!file.is_object()) throw ModelFault("it holds no JSON object");
-    Points points;
-    for (std::size_t i = 0; i < points.size(); ++i) points[i] = NumbersOf(file, kNames[i], numAtts);
+    PointArrays points;
+    for (std::size_t i = 0; i < points.size(); ++i) points[i] = NumbersOf(file, kPointNames[i], numAtts);
     return points;
   } catch (const Json::exception& fault) {
     throw ModelFault(path + ": " + fault.what());
@@ -49,10 +41,8 @@ Points ReadPoints(const String& modelPath, int numAtts) {
   }
 }
 
-void WritePoints(const String& modelPath, const Points& points) {
-  Json file = Json::object();
-  for (std::size_t i = 0; i < points.size(); ++i) file[kNames[i]] = ToJson(points[i]);
-  const String text = file.dump(2) + "\n";
+void WritePoints(const String& modelPath, const PointArrays& points) {
+  const String text = ToJson(points).dump(2) + "\n";
   WriteFileAtomically(PointsPath(modelPath), {text.begin(), text.end()});
 }
 

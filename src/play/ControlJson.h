@@ -1,7 +1,7 @@
 // The properties of controls as JSON, under their usual names.
 #pragma once
 
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 #include "view/Controls.h"
 
 #include <optional>

@@ -9,16 +9,11 @@ namespace {
 
 Json PointsJson(const Array<ABPoint>& points) {
   Json list = Json::array();
-  for (const ABPoint& p : points.Items()) {
-    list.push_back({{"AX", ToJson(p.AX)},
-                    {"AY", ToJson(p.AY)},
-                    {"BX", ToJson(p.BX)},
-                    {"BY", ToJson(p.BY)},
-                    {"AOrientation", p.AOrientation},
-                    {"ALX", ToJson(p.ALX)},
-                    {"ALY", ToJson(p.ALY)},
-                    {"AUX", ToJson(p.AUX)},
-                    {"AUY", ToJson(p.AUY)}});
+  for (const ABPoint& point : points.Items()) {
+    const auto fields = FieldsOf(point);
+    Json object = Json::object();
+    for (std::size_t f = 0; f < fields.size(); ++f) object[kPointNames[f]] = ToJson(fields[f]);
+    list.push_back(object);
   }
   return list;
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/mdTRNMain.h"
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 
 #include <optional>
 

@@ -16,8 +16,8 @@ class Linked : public Hosted {
     dea_.GetCurFileData(KestaDir, FileIndex, PathAndFileName);
   }
   void UnloadTarnwise() override { dea_.UnloadTarnwise(); }
-  void TranferABCoordinates(const PointArrays& p) override {
-    dea_.TranferABCoordinates(p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8]);
+  void TranferABCoordinates(const PointArrays& points) override {
+    std::apply([this](const auto&... arrays) { dea_.TranferABCoordinates(arrays...); }, points);
   }
   WizardData& Data() override { return mdTRNMain(); }
 

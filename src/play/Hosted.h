@@ -2,18 +2,16 @@
 // class.
 #pragma once
 
+#include "model/PointArrays.h"
+
 #include <tarnwise/TRN_DEA.h>
 
-#include <array>
 #include <functional>
 #include <memory>
 
 namespace Tarnwise {
 
 struct WizardData;
-
-// AX, AY, BX, BY, AOrientation, ALX, ALY, AUX, AUY: the order of TranferABCoordinates and ExportABScores.
-using PointArrays = std::array<VariantArray, 9>;
 
 class Hosted {
  public:

@@ -12,11 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-void Expect(const std::vector<String>& words, std::size_t fewest, std::size_t most) {
-  if (words.size() < fewest + 1) throw ScriptFault("\"" + words[0] + "\" wants more words");
-  if (words.size() > most + 1) throw ScriptFault("\"" + words[0] + "\" wants fewer words");
-}
-
 Json WeightsJson(const char* event, const String& RJType, Integer BRefAttID, Integer CRefAttID, const Variant& RefAttWR,
                  const VariantArray& Weights, const VariantArray& WeightsH, const VariantArray& WeightsL) {
   return {{"event", event},
@@ -29,17 +24,13 @@ Json WeightsJson(const char* event, const String& RJType, Integer BRefAttID, Int
           {"WeightsL", ToJson(WeightsL)}};
 }
 
-VariantArray ZerosFor(const WizardData& data) {
-  return VariantArray(static_cast<std::size_t>(std::max(0, data.NumAtts())), Variant(0.0));
-}
-
 // Empty for what is no array of one dimension, so that the component refuses it.
 VariantArray ArrayOf(const Json& points, const char* name) {
   VariantArray array;
   if (!points.contains(name) || !points.at(name).is_array()) return array;
   for (const Json& value : points.at(name)) {
     if (value.is_structured()) return {};
-    array.push_back(VariantOf(value));
+    array.push_back(PlainVariant(value));
   }
   return array;
 }
@@ -106,19 +97,10 @@ void Player::NewObject() {
   };
   events.ExportDirectBW = [this](auto&&... arguments) { Print(WeightsJson("ExportDirectBW", arguments...)); };
   events.ExportTradeOffsBW = [this](auto&&... arguments) { Print(WeightsJson("ExportTradeOffsBW", arguments...)); };
-  events.ExportABScores = [this](const VariantArray& AX, const VariantArray& AY, const VariantArray& BX,
-                                 const VariantArray& BY, const VariantArray& AOrientation, const VariantArray& ALX,
-                                 const VariantArray& ALY, const VariantArray& AUX, const VariantArray& AUY) {
-    Print({{"event", "ExportABScores"},
-           {"AX", ToJson(AX)},
-           {"AY", ToJson(AY)},
-           {"BX", ToJson(BX)},
-           {"BY", ToJson(BY)},
-           {"AOrientation", ToJson(AOrientation)},
-           {"ALX", ToJson(ALX)},
-           {"ALY", ToJson(ALY)},
-           {"AUX", ToJson(AUX)},
-           {"AUY", ToJson(AUY)}});
+  events.ExportABScores = [this](const auto&... arrays) {
+    Json object = {{"event", "ExportABScores"}};
+    object.update(ToJson(PointArrays{arrays...}));
+    Print(object);
   };
   events.SendMasseges = [this](const String& Msg) { Print({{"event", "SendMasseges"}, {"Msg", Msg}}); };
 }
@@ -144,11 +126,14 @@ bool Player::Step() {
 }
 
 void Player::Carry(const std::vector<String>& words) {
-  if (words[0] == "host") {
-    Host(words);
-  } else if (!User(words) && !Ask(words)) {
-    throw ScriptFault("\"" + words[0] + "\" is no line of a session script");
-  }
+  const bool host = words[0] == "host" && words.size() > 1;
+  const std::vector<String> line(words.begin() + (host ? 1 : 0), words.end());
+  const Line* const found = FindLine(host, line[0]);
+  const String name = (host ? "host " : "") + line[0];
+  if (found == nullptr) throw ScriptFault("\"" + name + "\" is no line of a session script");
+  if (line.size() < found->Fewest + 1) throw ScriptFault("\"" + name + "\" wants more words");
+  if (line.size() > found->Most + 1) throw ScriptFault("\"" + name + "\" wants fewer words");
+  found->Do(*this, line);
 }
 
 void Player::HostCall(const String& in, const std::function<void()>& call) {
@@ -162,126 +147,34 @@ void Player::HostCall(const String& in, const std::function<void()>& call) {
   }
 }
 
-void Player::Host(const std::vector<String>& words) {
-  Expect(words, 1, 99);
-  const String& what = words[1];
-  if (what == "load") {
-    HostLoad(words);
-  } else if (what == "points") {
-    HostPoints(words);
-  } else if (what == "show" && words.size() == 2) {
-    HostCall("TRN_DEA.ShowTarnwise", [this] { dea_->ShowTarnwise(); });
-  } else if (what == "unload" && words.size() == 2) {
-    HostCall("TRN_DEA.UnloadTarnwise", [this] { dea_->UnloadTarnwise(); });
-  } else if (what == "answer" && words.size() == 3 && (words[2] == "on" || words[2] == "off")) {
-    answers_ = words[2] == "on";
-  } else if (what == "new" && words.size() == 2) {
-    NewObject();
-  } else {
-    throw ScriptFault("\"host " + what + "\" is no line of a session script");
-  }
+void Player::HostAnswer(const String& word) {
+  if (word != "on" && word != "off") throw ScriptFault("the host's answer is on or off");
+  answers_ = word == "on";
 }
 
 void Player::HostLoad(const std::vector<String>& words) {
-  Expect(words, 2, 4);
-  std::filesystem::path path = PathFromText(words[2]);
+  std::filesystem::path path = PathFromText(words[1]);
   if (path.is_relative()) path = PathFromText(folder_) / path;
-  const String kesta = words.size() > 3 ? words[3] : folder_;
-  const int index = words.size() > 4 ? WholeNumber(words[4]) : 1;
+  const String kesta = words.size() > 2 ? words[2] : folder_;
+  const int index = words.size() > 3 ? WholeNumber(words[3]) : 1;
   HostCall("TRN_DEA.GetCurFileData",
            [&] { dea_->GetCurFileData(kesta, ToInteger(Variant(static_cast<Long>(index))), TextFromPath(path)); });
 }
 
-void Player::HostPoints(const std::vector<String>& words) {
-  Expect(words, 2, 2);
-  Json points;
-  if (words[2] == "zero") {
-    const VariantArray zeros = ZerosFor(dea_->Data());
-    const PointArrays all{zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros};
-    HostCall("TRN_DEA.TranferABCoordinates", [&] { dea_->TranferABCoordinates(all); });
-    return;
-  }
+void Player::HostPoints(const String& text) {
   PointArrays arrays;
-  try {
-    points = Json::parse(words[2]);
-    if (!points.is_object()) throw ScriptFault("the points are no JSON object of arrays");
-    const char* const names[] = {"AX", "AY", "BX", "BY", "AOrientation", "ALX", "ALY", "AUX", "AUY"};
-    for (std::size_t i = 0; i < 9; ++i) arrays[i] = ArrayOf(points, names[i]);
-  } catch (const Json::exception& fault) {
-    throw ScriptFault(String("the points are no JSON object of arrays: ") + fault.what());
+  if (text == "zero") {
+    arrays = ZeroPoints(dea_->Data().NumAtts());
+  } else {
+    try {
+      const Json points = Json::parse(text);
+      if (!points.is_object()) throw ScriptFault("the points are no JSON object of arrays");
+      for (std::size_t f = 0; f < arrays.size(); ++f) arrays[f] = ArrayOf(points, kPointNames[f]);
+    } catch (const Json::exception& fault) {
+      throw ScriptFault(String("the points are no JSON object of arrays: ") + fault.what());
+    }
   }
   HostCall("TRN_DEA.TranferABCoordinates", [&] { dea_->TranferABCoordinates(arrays); });
-}
-
-bool Player::User(const std::vector<String>& words) {
-  const String& what = words[0];
-  if (what == "click") {
-    Expect(words, 1, 1);
-    Click(words[1]);
-  } else if (what == "select") {
-    Expect(words, 2, 2);
-    Select(words[1], WholeNumber(words[2]));
-  } else if (what == "press") {
-    Expect(words, 2, 2);
-    PressTool(words[1], words[2]);
-  } else if (what == "focus") {
-    Expect(words, 1, 1);
-    Focus(words[1]);
-  } else if (what == "type") {
-    Expect(words, 1, 1);
-    Type(words[1]);
-  } else if (what == "key") {
-    Expect(words, 1, 1);
-    Key(words[1]);
-  } else if (what == "grab") {
-    Expect(words, 1, 1);
-    Grab(words[1]);
-  } else if (what == "over") {
-    Over(words, 1);
-  } else if (what == "drop") {
-    Expect(words, 0, 0);
-    Drop();
-  } else if (what == "drag") {
-    Drag(words);
-  } else if (what == "scroll") {
-    Expect(words, 2, 2);
-    Scroll(words[1], WholeNumber(words[2]));
-  } else if (what == "tick") {
-    Expect(words, 1, 2);
-    Tick(words[1], words.size() > 2 ? WholeNumber(words[2]) : 1);
-  } else if (what == "close") {
-    Expect(words, 0, 0);
-    Close();
-  } else {
-    return false;
-  }
-  return true;
-}
-
-bool Player::Ask(const std::vector<String>& words) {
-  const String& what = words[0];
-  if (what == "get") {
-    Expect(words, 1, 1);
-    Get(words[1]);
-  } else if (what == "data") {
-    Expect(words, 1, 1);
-    Data(words[1]);
-  } else if (what == "forms") {
-    Expect(words, 0, 0);
-    Forms();
-  } else if (what == "dump") {
-    Expect(words, 0, 1);
-    Dump(words);
-  } else if (what == "call") {
-    Expect(words, 3, 3);
-    Call(words);
-  } else if (what == "shot") {
-    Expect(words, 1, 1);
-    Shot(words[1]);
-  } else {
-    return false;
-  }
-  return true;
 }
 
 }  // namespace Tarnwise

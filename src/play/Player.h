@@ -3,8 +3,8 @@
 // lines.
 #pragma once
 
+#include "modelfiles/PlainJson.h"
 #include "play/Hosted.h"
-#include "play/Json.h"
 #include "view/Driver.h"
 
 #include <tarnwise/TRN_DEA.h>
@@ -28,6 +28,17 @@ class Player {
   int Play();
 
  private:
+  // A line by its first word (after "host" its second), with how many words may follow it.
+  struct Line {
+    std::string_view Word;
+    std::size_t Fewest;
+    std::size_t Most;
+    void (*Do)(Player& player, const std::vector<String>& words);
+  };
+  static const Line kHostLines[];
+  static const Line kLines[];
+  static const Line* FindLine(bool host, const String& word);  // null when there is none
+
   bool Step();  // the next line; false at the end
   void Carry(const std::vector<String>& words);
 
@@ -36,11 +47,10 @@ class Player {
   void Print(const Json& object);
   void HostCall(const String& in, const std::function<void()>& call);  // a fault is printed as one of `in`
 
-  void Host(const std::vector<String>& words);
   void HostLoad(const std::vector<String>& words);
-  void HostPoints(const std::vector<String>& words);
+  void HostPoints(const String& text);
+  void HostAnswer(const String& word);
 
-  bool User(const std::vector<String>& words);
   void Click(const String& name);
   void Select(const String& name, int index);
   void PressTool(const String& name, const String& key);
@@ -57,7 +67,6 @@ class Player {
   void Tick(const String& name, int times);
   void Close();
 
-  bool Ask(const std::vector<String>& words);
   void Get(const String& text);
   void Data(const String& name);
   void Forms();

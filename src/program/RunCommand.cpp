@@ -1,8 +1,8 @@
 #include "model/mdTRNMain.h"
+#include "modelfiles/PlainJson.h"
 #include "modelfiles/PointsFile.h"
 #include "modelfiles/SaveModel.h"
 #include "modelfiles/WholeFile.h"
-#include "play/Json.h"
 #include "program/Commands.h"
 #include "program/Screens.h"
 
@@ -24,7 +24,7 @@ struct Judgments {
   VariantArray Weights;
   VariantArray WeightsH;
   VariantArray WeightsL;
-  std::optional<Points> TradeOffs;
+  std::optional<PointArrays> TradeOffs;
 };
 
 Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
@@ -40,17 +40,12 @@ Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
                  {"costReference", judgments.CRefAttID},
                  {"referenceRatio", ToJson(judgments.RefAttWR)},
                  {"attributes", attributes}};
-  if (judgments.TradeOffs) {
-    const Points& p = *judgments.TradeOffs;
-    object["points"] = {{"AX", ToJson(p[0])},  {"AY", ToJson(p[1])},           {"BX", ToJson(p[2])},
-                        {"BY", ToJson(p[3])},  {"AOrientation", ToJson(p[4])}, {"ALX", ToJson(p[5])},
-                        {"ALY", ToJson(p[6])}, {"AUX", ToJson(p[7])},          {"AUY", ToJson(p[8])}};
-  }
+  if (judgments.TradeOffs) object["points"] = ToJson(*judgments.TradeOffs);
   return object;
 }
 
 // The points that the wizard is given: those of the last time, else zeros. Bad ones are told and not used.
-Points StartingPoints(const String& model, int numAtts) {
+PointArrays StartingPoints(const String& model, int numAtts) {
   try {
     return ReadPoints(model, numAtts);
   } catch (const ModelFault& fault) {
@@ -60,9 +55,8 @@ Points StartingPoints(const String& model, int numAtts) {
 }
 
 // The export has the orientations that went in; a resumed wizard wants those that the corners show.
-Points WithOrientations(Points p) {
-  enum { kOrientation = 4, kALX, kALY, kAUX, kAUY };
-  p[kOrientation] = OrientationsOf(p[kALX], p[kALY], p[kAUX], p[kAUY]);
+PointArrays WithOrientations(PointArrays p) {
+  p[kAOrientation] = OrientationsOf(p[kALX], p[kALY], p[kAUX], p[kAUY]);
   return p;
 }
 
@@ -84,7 +78,7 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
     exported = Judgments{RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH, WeightsL, {}};
   };
   dea.Events().ExportABScores = [&exported](const auto&... arrays) {
-    if (exported) exported->TradeOffs = Points{arrays...};
+    if (exported) exported->TradeOffs = PointArrays{arrays...};
   };
   dea.Events().UnloadTarnwise = [&](Integer /*fIndex*/, Boolean WeightsDone) {
     done = WeightsDone;

@@ -16,26 +16,15 @@ constexpr const char* kResultsTitle = "Tarnwise: Results of the value judgments"
 constexpr int kHourglass = 11;
 constexpr Colour kWhite = 0xFFFFFF;
 
-ABScores ScoresOf(const WizardData& data) {
-  ABScores scores;
-  const int n = data.NumAtts();
-  for (auto* array : {&scores.AX, &scores.AY, &scores.BX, &scores.BY, &scores.AOrientation, &scores.ALX, &scores.ALY,
-                      &scores.AUX, &scores.AUY}) {
-    array->Allocate(n);
+// The points that were worked on, with the orientations as they came from the host.
+PointArrays ExportedPoints(const WizardData& data) {
+  Array<ABPoint> points;
+  points.Allocate(data.NumAtts());
+  for (int i = 0; i < points.Count(); ++i) {
+    points[i] = data.ABPoints2[i];
+    points[i].AOrientation = data.ABPoints1[i].AOrientation;
   }
-  for (int i = 0; i < n; ++i) {
-    const ABPoint& point = data.ABPoints2[i];
-    scores.AX[i] = point.AX;
-    scores.AY[i] = point.AY;
-    scores.BX[i] = point.BX;
-    scores.BY[i] = point.BY;
-    scores.AOrientation[i] = data.ABPoints1[i].AOrientation;  // as it came from the host
-    scores.ALX[i] = point.ALX;
-    scores.ALY[i] = point.ALY;
-    scores.AUX[i] = point.AUX;
-    scores.AUY[i] = point.AUY;
-  }
-  return scores;
+  return ArraysOf(points);
 }
 
 }  // namespace
@@ -249,8 +238,8 @@ void frmTradeOffsB::cmdFinish_Click() {
   Screen().SetPointer(kHourglass);
   Raise(ExportTradeOffsBW, kTradeOffsType, data_.BRefAttID, data_.CRefAttID, data_.RefAttWR, data_.Weights,
         data_.WeightsH, data_.WeightsL);
-  ABScores scores = ScoresOf(data_);  // as they stand after the host had the weights
-  Raise(ExportABScores, scores);
+  PointArrays points = ExportedPoints(data_);  // as they stand after the host had the weights
+  Raise(ExportABScores, points);
   Screen().SetPointer(0);
   Raise(UnloadTarnwise, data_.FileIndex, true);
 }

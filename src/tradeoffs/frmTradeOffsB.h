@@ -14,7 +14,7 @@ struct frmTradeOffsB : TradeOffsBForm {
   std::function<void(Integer fIndex, Boolean WeightsDone)> UnloadTarnwise;
   std::function<void()> UnloadTRNTradeOffsB;
   std::function<ExportWeights> ExportTradeOffsBW;
-  std::function<void(ABScores& scores)> ExportABScores;
+  std::function<void(PointArrays& points)> ExportABScores;
   std::function<void(const String& Msg)> SendMasseges;
 
   void Load() override;

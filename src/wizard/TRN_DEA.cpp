@@ -60,17 +60,7 @@ void TRN_DEA::TranferABCoordinates(const VariantArray& AX, const VariantArray& A
                                    const VariantArray& BY, const VariantArray& AOrientation, const VariantArray& ALX,
                                    const VariantArray& ALY, const VariantArray& AUX, const VariantArray& AUY) {
   WizardData& data = wizard_->Data;
-  const int count = data.NumAtts();
-  for (const VariantArray* scores : {&AX, &AY, &BX, &BY, &AOrientation, &ALX, &ALY, &AUX, &AUY}) {
-    if (static_cast<int>(scores->size()) < count) throw RuntimeError(9);
-  }
-  Array<ABPoint> points;
-  points.Allocate(count);
-  for (int i = 0; i < count; ++i) {
-    const auto k = static_cast<std::size_t>(i);
-    points[i] = {ToSingle(AX[k]),  ToSingle(AY[k]),  ToSingle(BX[k]),  ToSingle(BY[k]), ToInteger(AOrientation[k]),
-                 ToSingle(ALX[k]), ToSingle(ALY[k]), ToSingle(AUX[k]), ToSingle(AUY[k])};
-  }
+  const Array<ABPoint> points = PointsOf({AX, AY, BX, BY, AOrientation, ALX, ALY, AUX, AUY}, data.NumAtts());
   data.ABPoints1 = points;
   data.ABPoints2 = points;
 }

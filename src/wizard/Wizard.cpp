@@ -84,9 +84,8 @@ void TRN_DEA::Wizard::RelayExportDirectBW(const String& RJType, Integer BRefAttI
         WeightsL.Items());
 }
 
-void TRN_DEA::Wizard::mTRNTradeOffsB_ExportABScores(ABScores& scores) {
-  Raise(Events.ExportABScores, scores.AX.Items(), scores.AY.Items(), scores.BX.Items(), scores.BY.Items(),
-        scores.AOrientation.Items(), scores.ALX.Items(), scores.ALY.Items(), scores.AUX.Items(), scores.AUY.Items());
+void TRN_DEA::Wizard::mTRNTradeOffsB_ExportABScores(PointArrays& points) {
+  std::apply([this](auto&... arrays) { Raise(Events.ExportABScores, arrays...); }, points);
 }
 
 void TRN_DEA::Wizard::mSelMethod_ShowTRNIniImpOrder() {

@@ -32,7 +32,7 @@ struct TRN_DEA::Wizard : std::enable_shared_from_this<TRN_DEA::Wizard> {
   void RelayUnloadTarnwise(Integer fIndex, Boolean WeightsDone);
   void RelayExportDirectBW(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
                            Array<Variant>& Weights, Array<Variant>& WeightsH, Array<Variant>& WeightsL);
-  void mTRNTradeOffsB_ExportABScores(ABScores& scores);
+  void mTRNTradeOffsB_ExportABScores(PointArrays& points);
 
   // Navigation.
   void mSelMethod_ShowTRNIniImpOrder();

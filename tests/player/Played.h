@@ -1,7 +1,7 @@
 // A script of its own, played from its first line to its end.
 #pragma once
 
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 #include "play/Player.h"
 #include "support/Session.h"
 

@@ -1,6 +1,6 @@
 #include "support/Session.h"
 
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 #include "play/Player.h"
 
 #include <gtest/gtest.h>

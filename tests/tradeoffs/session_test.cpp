@@ -1,7 +1,7 @@
 // The step inside of the wizard, from the first form to the host.
 #include "TradeOffs.h"
 
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 
 namespace Tarnwise {
 namespace {

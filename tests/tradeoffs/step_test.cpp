@@ -1,7 +1,7 @@
 #include "TradeOffs.h"
 
 #include "curves/mdGraphs.h"
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -485,16 +485,17 @@ struct Exports : TradeOffStep {
       }
       if (InWeights) InWeights();
     };
-    Form->ExportABScores = [this](ABScores& scores) {
+    Form->ExportABScores = [this](PointArrays& points) {
       Notes.push_back("scores");
-      Scores = scores;
+      Exported = points;
     };
     Form->UnloadTarnwise = [this](Integer index, Boolean done) {
       Notes.push_back("unload " + std::to_string(index) + (done ? " done" : ""));
     };
   }
 
-  ABScores Scores;
+  PointArrays Exported;
+  const Variant& Field(PointField field, std::size_t att) const { return Exported[field][att]; }
   std::function<void()> InWeights;
 };
 
@@ -517,19 +518,9 @@ TEST(FinishOfTradeOffs, ThePointsAreSinglesAndTheOrientationsIntegers) {
   data.ABPoints2[2].AUY = 42;
   Exports step(data);
   step.Click("cmdFinish");
-  const ABScores& s = step.Scores;
-  for (const Array<Variant>* array : {&s.AX, &s.AY, &s.BX, &s.BY, &s.AOrientation, &s.ALX, &s.ALY, &s.AUX, &s.AUY}) {
-    EXPECT_EQ(array->Count(), 8);
-  }
-  EXPECT_EQ(s.AX[2], Variant(60.5F));
-  EXPECT_EQ(s.AY[2], Variant(40.25F));
-  EXPECT_EQ(s.BX[2], Variant(20.125F));
-  EXPECT_EQ(s.BY[2], Variant(80.0F));
-  EXPECT_EQ(s.ALX[2], Variant(50.0F));
-  EXPECT_EQ(s.ALY[2], Variant(41.0F));
-  EXPECT_EQ(s.AUX[2], Variant(70.0F));
-  EXPECT_EQ(s.AUY[2], Variant(42.0F));
-  EXPECT_EQ(s.AOrientation[2], Variant(Integer(0)));
+  for (const VariantArray& array : step.Exported) EXPECT_EQ(array.size(), 8U);
+  const Variant fields[] = {60.5F, 40.25F, 20.125F, 80.0F, Integer(0), 50.0F, 41.0F, 70.0F, 42.0F};
+  for (int f = 0; f < kPointFields; ++f) EXPECT_EQ(step.Field(PointField(f), 2), fields[f]) << kPointNames[f];
 }
 
 TEST(FinishOfTradeOffs, OrientationsGoOutAsTheyCameFromTheHost) {
@@ -542,9 +533,9 @@ TEST(FinishOfTradeOffs, OrientationsGoOutAsTheyCameFromTheHost) {
   step.Click("cmdEnter");
   EXPECT_EQ(step.Record(0).AOrientation, 1);
   step.Click("cmdFinish");
-  EXPECT_EQ(step.Scores.AOrientation[0], Variant(Integer(2)));
-  EXPECT_EQ(step.Scores.AOrientation[5], Variant(Integer(1)));
-  EXPECT_EQ(step.Scores.AUX[0], Variant(step.Record(0).AUX));
+  EXPECT_EQ(step.Field(kAOrientation, 0), Variant(Integer(2)));
+  EXPECT_EQ(step.Field(kAOrientation, 5), Variant(Integer(1)));
+  EXPECT_EQ(step.Field(kAUX, 0), Variant(step.Record(0).AUX));
 }
 
 TEST(FinishOfTradeOffs, ThePointsAreThoseThatStandAfterTheWeightsWereTaken) {
@@ -554,8 +545,8 @@ TEST(FinishOfTradeOffs, ThePointsAreThoseThatStandAfterTheWeightsWereTaken) {
     step.Data.ABPoints1[2].AOrientation = 2;
   };
   step.Click("cmdFinish");
-  EXPECT_EQ(step.Scores.AX[2], Variant(12.5F));
-  EXPECT_EQ(step.Scores.AOrientation[2], Variant(Integer(2)));
+  EXPECT_EQ(step.Field(kAX, 2), Variant(12.5F));
+  EXPECT_EQ(step.Field(kAOrientation, 2), Variant(Integer(2)));
 }
 
 TEST(FinishOfTradeOffs, WithUnjudgedAttributesExportsWhatStands) {

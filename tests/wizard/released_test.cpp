@@ -56,7 +56,7 @@ TEST(ReleasedForm, OfTheTradeOffStepHasNoEvents) {
   const auto form = Made<frmTradeOffsB>(screen, data);
   form->UnloadTRNTradeOffsB = [] {};
   form->ExportTradeOffsBW = [](auto&&...) {};
-  form->ExportABScores = [](ABScores&) {};
+  form->ExportABScores = [](PointArrays&) {};
   screen.Screen->Release(*form);
   EXPECT_FALSE(form->UnloadTarnwise || form->SendMasseges || form->UnloadTRNTradeOffsB);
   EXPECT_FALSE(form->ExportTradeOffsBW || form->ExportABScores);

@@ -1,4 +1,4 @@
-#include "play/Json.h"
+#include "modelfiles/PlainJson.h"
 
 #include "runtime/Text.h"
 
@@ -9,8 +9,6 @@
 namespace Tarnwise {
 
 namespace {
-
-constexpr Double kLargestWhole = 9007199254740992.0;  // 2^53: up to here a whole number is printed as one
 
 // The fewest digits that make the number again; the library's own are now and then one too many.
 String NumberLine(Double x) {
@@ -54,7 +52,7 @@ void Write(String& line, const Json& value) {
 }  // namespace
 
 Json ToJson(Double x) {
-  if (x == std::floor(x) && std::fabs(x) <= kLargestWhole) return static_cast<std::int64_t>(x);
+  if (IsExactWhole(x)) return static_cast<std::int64_t>(x);
   if (!std::isfinite(x)) return nullptr;
   return x;
 }
@@ -76,10 +74,16 @@ Json ToJson(const Variant& v) {
   return ToJson(ToDouble(v));
 }
 
-Json ToJson(const std::vector<Variant>& items) {
+Json ToJson(const VariantArray& items) {
   Json list = Json::array();
   for (const Variant& item : items) list.push_back(ToJson(item));
   return list;
+}
+
+Json ToJson(const PointArrays& points) {
+  Json object = Json::object();
+  for (std::size_t f = 0; f < points.size(); ++f) object[kPointNames[f]] = ToJson(points[f]);
+  return object;
 }
 
 String JsonLine(const Json& object) {
@@ -88,7 +92,7 @@ String JsonLine(const Json& object) {
   return line;
 }
 
-Variant VariantOf(const Json& value) {
+Variant PlainVariant(const Json& value) {
   if (value.is_boolean()) return value.get<bool>();
   if (value.is_number()) return value.get<Double>();
   if (value.is_string()) return value.get<String>();

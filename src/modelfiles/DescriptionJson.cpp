@@ -1,4 +1,4 @@
-#include "modelfiles/JsonValues.h"
+#include "modelfiles/DescriptionJson.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr double kWholeUpTo = 9007199254740992.0;  // beyond, not every whole number is a Double
 constexpr std::int64_t kCurrencyScale = 10000;
 constexpr std::size_t kLineWidth = 110;
 
@@ -80,7 +79,7 @@ Currency CurrencyOf(const Json& value, const String& place) {
   return amount;
 }
 
-struct ToJson {
+struct TypedJson {
   Json operator()(std::monostate) const { return nullptr; }
   Json operator()(Null) const { return {{"null", true}}; }
   Json operator()(Integer v) const { return {{"integer", v}}; }
@@ -191,11 +190,11 @@ void Print(const Json& value, std::size_t indent, std::size_t used, bool split, 
 Json NumberJson(double number) {
   if (!std::isfinite(number)) return BitsJson(std::bit_cast<std::uint64_t>(number));
   const bool negativeZero = number == 0.0 && std::signbit(number);
-  if (std::trunc(number) != number || std::fabs(number) > kWholeUpTo || negativeZero) return number;
+  if (!IsExactWhole(number) || negativeZero) return number;
   return static_cast<std::int64_t>(number);
 }
 
-Json VariantJson(const Variant& value) { return std::visit(ToJson(), value); }
+Json VariantJson(const Variant& value) { return std::visit(TypedJson(), value); }
 
 Variant VariantOf(const Json& value, const String& place) {
   if (value.is_null()) return {};

@@ -1,21 +1,17 @@
-// How values are printed by the session player: the shortest text that reads back to the same number.
+// Values as plain JSON, as sessions print them and points are kept: a number is the shortest text that reads back as
+// it.
 #pragma once
 
-#include <tarnwise/Arrays.h>
-#include <tarnwise/Variant.h>
-
-#include <nlohmann/json.hpp>
-
-#include <vector>
+#include "model/PointArrays.h"
+#include "modelfiles/Json.h"
 
 namespace Tarnwise {
-
-using Json = nlohmann::ordered_json;
 
 Json ToJson(Double x);
 Json ToJson(Single x);
 Json ToJson(const Variant& v);
-Json ToJson(const std::vector<Variant>& items);
+Json ToJson(const VariantArray& items);
+Json ToJson(const PointArrays& points);  // an object: a list by each name
 inline Json ToJson(int x) { return x; }
 inline Json ToJson(Integer x) { return x; }
 inline Json ToJson(Colour x) { return x; }
@@ -43,7 +39,7 @@ Json ToJson(const Matrix<T>& matrix) {
 // One line of text; what is no valid UTF-8 is replaced.
 String JsonLine(const Json& object);
 
-// A number, text, truth value or null as a Variant.
-Variant VariantOf(const Json& value);
+// A number, text, truth value or null as a Variant; Empty for anything else.
+Variant PlainVariant(const Json& value);
 
 }  // namespace Tarnwise

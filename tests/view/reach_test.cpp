@@ -78,22 +78,35 @@ TEST(Kinds, OfWhichTheNativeControlFollowsTheMouseACaptionIsCutARowIsPressedOrKe
   EXPECT_FALSE(HasRows(box));
 }
 
-TEST(Mnemonic, OfALabelGoesToTheNextControlBesideItThatTakesTheFocus) {
+TEST(Mnemonic, OfALabelLeadsToTheNextControlInTheTabOrder) {
   Bench bench;
   BenchForm& form = *bench.On;
+  TextBox before(form, &form.picPanel[0], "before");
   Label label(form, &form.picPanel[0], "label");
-  EXPECT_EQ(LabelledBy(label), nullptr) << "those in front of it are not meant";
-  TextBox elsewhere(form, &form.picPanel[1], "elsewhere");
-  const Label other(form, &form.picPanel[0], "other");
-  TextBox untabbed(form, &form.picPanel[0], "untabbed");
-  untabbed.TabIndex = -1;
-  elsewhere.TabIndex = 20;
-  EXPECT_EQ(LabelledBy(label), nullptr);
-  TextBox meant(form, &form.picPanel[0], "meant");
   TextBox later(form, &form.picPanel[0], "later");
-  meant.TabIndex = 22;
-  later.TabIndex = 21;
-  EXPECT_EQ(LabelledBy(label), &meant);
+  TextBox meant(form, &form.picPanel[1], "meant");
+  Label another(form, &form.picPanel[0], "another");
+  before.TabIndex = 20;
+  label.TabIndex = 21;
+  another.TabIndex = 22;
+  meant.TabIndex = 23;
+  later.TabIndex = 24;
+  EXPECT_EQ(LabelledBy(label), &meant) << "neither the next one made, nor one of its own container, nor a label";
+  meant.TabIndex = 21;
+  EXPECT_EQ(LabelledBy(label), &meant) << "a label stands in front of the control with its own number";
+  before.TabIndex = 30;
+  meant.TabIndex = later.TabIndex = 19;
+  EXPECT_EQ(LabelledBy(label), &before) << "though it was made first";
+}
+
+TEST(Mnemonic, OfALabelWithoutAPlaceInTheTabOrderOrAtItsEndLeadsNowhere) {
+  Bench bench;
+  Label label(*bench.On, &bench.On->picPanel[0], "label");
+  TextBox behind(*bench.On, &bench.On->picPanel[0], "behind");
+  behind.TabIndex = 30;
+  EXPECT_EQ(LabelledBy(label), nullptr);
+  label.TabIndex = 31;
+  EXPECT_EQ(LabelledBy(label), nullptr);
 }
 
 TEST(Refusal, SaysWhyAPersonCannot) {

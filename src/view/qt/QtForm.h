@@ -14,6 +14,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QShortcutEvent;
 class QWheelEvent;
 
 namespace Tarnwise {
@@ -50,7 +51,7 @@ class QtForm : public QObject {
   void Release();
 
   // What widgets tell, all of it by a person's hand.
-  void Clicked(QWidget& widget);             // a button's release or its mnemonic
+  void Clicked(QWidget& widget);             // a button's release, or a screen reader's press
   void RowChosen(QWidget& widget, int row);  // in the control's own numbers
   void ToolPressed(QWidget& widget, const String& key);
   void Scrolled(QWidget& widget, int value, bool dragging);
@@ -75,7 +76,7 @@ class QtForm : public QObject {
   void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
   void Settle(Control* control);
   bool Wheel(Control& control, QWheelEvent& event);
-  bool Mnemonic(Control& control, QWidget& widget, bool ambiguous);
+  bool Mnemonic(const Control& control, const QShortcutEvent& event);
   bool KeyDown(Control& control, QKeyEvent& event);
   bool BoxKey(TextBox& box, QKeyEvent& event);
   bool KeyUp(const QKeyEvent& event);

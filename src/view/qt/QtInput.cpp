@@ -2,6 +2,7 @@
 // their own behaviour is wanted; what they would choose or toggle by themselves is put to the tree, which decides.
 #include "view/Dispatch.h"
 #include "view/Input.h"
+#include "view/Mnemonics.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKeys.h"
@@ -10,7 +11,6 @@
 #include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
@@ -60,8 +60,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
     case QEvent::Wheel: return Wheel(*control, *static_cast<QWheelEvent*>(event));
     case QEvent::KeyPress: return KeyDown(*control, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease: return KeyUp(*static_cast<QKeyEvent*>(event));
-    case QEvent::Shortcut:
-      return Mnemonic(*control, *static_cast<QWidget*>(object), static_cast<QShortcutEvent*>(event)->isAmbiguous());
+    case QEvent::Shortcut: return Mnemonic(*control, *static_cast<QShortcutEvent*>(event));
     case QEvent::FocusIn: FocusCame(*object, *control, static_cast<QFocusEvent*>(event)->reason()); return false;
     default: return false;
   }
@@ -115,7 +114,7 @@ bool QtForm::LetGo(QObject& object, QMouseEvent& event) {
   }
   if (press.On->Type == Kind::Grid) return false;
   if (press.Native) {
-    // Clicked comes from inside this call, so that a press can be told from a mnemonic.
+    // Clicked comes from inside this call, so that a press can be told from anything else.
     object.event(&event);
     press_ = {};
     return true;
@@ -200,21 +199,12 @@ bool QtForm::Wheel(Control& control, QWheelEvent& event) {
   return true;
 }
 
-bool QtForm::Mnemonic(Control& control, QWidget& widget, bool ambiguous) {
+// Qt has found the letter in a caption; which one is meant, of several too, is the tree's to say.
+bool QtForm::Mnemonic(const Control& control, const QShortcutEvent& event) {
+  if (!HasCaption(control) || event.key().isEmpty()) return false;
   const QtEntry entry(*form_);
-  if (control.Type == Kind::Label) {
-    Control* const meant = LabelledBy(static_cast<Label&>(control));
-    if (meant != nullptr && Refusal(*meant).empty()) Input::MoveFocus(*meant);
-    Settle(nullptr);
-    return true;
-  }
-  if (dynamic_cast<QAbstractButton*>(&widget) == nullptr) return false;
-  if (!ambiguous) {
-    Clicked(widget);
-  } else if (Refusal(control).empty()) {
-    Input::MoveFocus(control);
-    Settle(nullptr);
-  }
+  Input::Mnemonic(*form_, event.key()[0].key());
+  Settle(nullptr);
   return true;
 }
 

@@ -12,10 +12,12 @@
 #include "view/qt/QtToolkit.h"
 
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QShortcutEvent>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QWheelEvent>
 
@@ -30,6 +32,9 @@ int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
   const int tab = static_cast<const QTabBar&>(widget).tabAt(at);
   return tab < 0 ? -1 : tab + 1;
 }
+
+// A text box would paste as the middle button comes up.
+bool IgnoresOtherButtons(const Control& control) { return control.Type == Kind::TextBox || !FollowsMouse(control); }
 
 // Of the whole event only this position has kept its fractions of a pixel.
 QPointF InWindow(const QObject& object, const QMouseEvent& event) {
@@ -56,9 +61,10 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: return Press(*object, *control, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseMove: return Move(*object, *static_cast<QMouseEvent*>(event));
-    case QEvent::MouseButtonRelease: return LetGo(*object, *static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonRelease: return LetGo(*object, *control, *static_cast<QMouseEvent*>(event));
     case QEvent::Wheel: return Wheel(*control, *static_cast<QWheelEvent*>(event));
     case QEvent::KeyPress: return KeyDown(*control, *static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod: return Commit(*control, static_cast<QInputMethodEvent*>(event)->commitString());
     case QEvent::KeyRelease: return KeyUp(*static_cast<QKeyEvent*>(event));
     case QEvent::Shortcut: return Mnemonic(*control, *static_cast<QShortcutEvent*>(event));
     case QEvent::FocusIn: FocusCame(*object, *control, static_cast<QFocusEvent*>(event)->reason()); return false;
@@ -68,7 +74,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
 
 bool QtForm::Press(const QObject& object, Control& control, const QMouseEvent& event) {
   const bool native = FollowsMouse(control);
-  if (event.button() != Qt::LeftButton) return control.Type == Kind::TextBox || !native;
+  if (event.button() != Qt::LeftButton) return IgnoresOtherButtons(control);
   const QtEntry entry(*form_);
   press_ = {&control, -1, false, native};
   toolkit_.Drag().Cancel();
@@ -99,8 +105,8 @@ bool QtForm::Move(const QObject& object, const QMouseEvent& event) {
   return !press_.Native;
 }
 
-bool QtForm::LetGo(QObject& object, QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton) return false;
+bool QtForm::LetGo(QObject& object, const Control& control, QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return IgnoresOtherButtons(control);
   const QtEntry entry(*form_);
   if (toolkit_.Drag().Release()) {
     press_ = {};
@@ -254,6 +260,7 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
   }
   SyncControl(box);
   if (character == 0) {
+    const QSignalBlocker known(*edit);
     PressEditingKey(*edit, down.Code, down.Shift);
   } else {
     KeyEvent press{character, ShiftOf(event)};
@@ -263,6 +270,7 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
       return true;
     }
     SyncControl(box);
+    const QSignalBlocker known(*edit);
     if (types) TypeCharacter(*edit, press.Code);
   }
   const QString text = edit->text();
@@ -273,6 +281,27 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
     StoreCaret(box, *edit);
   Settle(here() ? &box : nullptr);
   return true;
+}
+
+// What an input method hands over goes the way of the keys that type it.
+bool QtForm::Commit(Control& control, const QString& text) {
+  if (control.Type != Kind::TextBox) return false;
+  for (const auto code : text.toUcs4()) {
+    const int key = code < 128U ? QChar(code).toUpper().unicode() : static_cast<int>(Qt::Key_unknown);
+    const QString typed = QString::fromUcs4(reinterpret_cast<const char32_t*>(&code), 1);
+    const QPointer<QWidget> widget = WidgetOf(control);
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
+    KeyDown(control, down);
+    if (form_ != nullptr) KeyUp(QKeyEvent(QEvent::KeyRelease, key, Qt::NoModifier, typed));
+    if (form_ == nullptr || widget.isNull() || ControlOf(widget) != &control) break;
+  }
+  return true;
+}
+
+// A text that came into a box by none of its keys is put back: it shows what the tree has.
+void QtForm::TextCame(const QWidget& widget) {
+  Control* const box = ControlOf(&widget);
+  if (form_ != nullptr && box != nullptr) SyncControl(*box);
 }
 
 bool QtForm::KeyUp(const QKeyEvent& event) {

@@ -84,6 +84,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
 
   std::optional<LRESULT> Mouse(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT InputMethod(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Parent(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Window(Control& control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Erase(const Control& control, HWND window, HDC dc);
@@ -124,6 +125,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   bool moved_ = false;  // it has wanted it somewhere
   WinPress press_;
   int typing_ = 0;              // key that went down in a text box and has not come up
+  bool typingNow_ = false;      // a text box changes by its keys
   bool dropCharacter_ = false;  // what the key that went down would type
   wchar_t highSurrogate_ = 0;
   UINT_PTR nextTimer_ = 1;

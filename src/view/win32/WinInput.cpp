@@ -25,6 +25,11 @@ POINT Mapped(HWND from, HWND to, POINT at) {
   return at;
 }
 
+bool IsOfInputMethod(UINT message) {
+  return message == WM_IME_CHAR || message == WM_IME_STARTCOMPOSITION || message == WM_IME_COMPOSITION ||
+         message == WM_IME_ENDCOMPOSITION;
+}
+
 bool IsInside(HWND window, POINT at) {
   RECT client{};
   GetClientRect(window, &client);
@@ -52,6 +57,7 @@ std::optional<LRESULT> WinForm::Handle(HWND window, UINT message, WPARAM wParam,
   if (form_ == nullptr || control == nullptr) return std::nullopt;
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) return Mouse(window, *control, message, wParam, lParam);
   if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return Keyboard(window, *control, message, wParam, lParam);
+  if (control->Type == Kind::TextBox && IsOfInputMethod(message)) return InputMethod(window, message, wParam, lParam);
   if (IsContainer(*control)) {
     if (auto answer = Parent(message, wParam, lParam)) return answer;
   }
@@ -76,6 +82,14 @@ std::optional<LRESULT> WinForm::Mouse(HWND window, Control& control, UINT messag
       return std::nullopt;
     default: return std::nullopt;
   }
+}
+
+// An input method composes beside the box, and what it hands over comes as characters like any other.
+LRESULT WinForm::InputMethod(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_IME_CHAR) return DefWindowProcW(window, message, wParam, lParam);
+  const auto held = shared_from_this();
+  Character(window, wParam);
+  return 0;
 }
 
 // True: the window itself must not see it.

@@ -96,7 +96,9 @@ bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam
     }
     SyncControl(box);
     if (edit != window) return true;
+    typingNow_ = true;
     DefSubclassProc(window, message, static_cast<WPARAM>(down.Code), lParam);
+    typingNow_ = false;
     TakeText(box, edit);
     return true;
   }
@@ -143,7 +145,9 @@ bool WinForm::Character(HWND window, WPARAM unit) {
     return true;
   }
   SyncControl(box);
+  typingNow_ = true;
   if (types) TypeCharacter(edit, press.Code);
+  typingNow_ = false;
   TakeText(box, edit);
   return true;
 }

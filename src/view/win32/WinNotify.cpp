@@ -95,6 +95,10 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
       if (code == CBN_SELENDOK) PostMessageW(window_, kChoose, 0, reinterpret_cast<LPARAM>(from));
       if (code == CBN_SELENDCANCEL) PostMessageW(window_, kGivenUp, 0, reinterpret_cast<LPARAM>(from));
       return 0;
+    case Kind::TextBox:
+      // A text that came by none of its keys is put back: the box shows what the tree has.
+      if (code == EN_CHANGE && !typingNow_) SyncControl(*control);
+      return 0;
     case Kind::Toolbar: {
       const auto& bar = static_cast<Toolbar&>(*control);
       const std::size_t button = LOWORD(wParam);

@@ -20,13 +20,10 @@ class Arrivals : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::KeyRelease && object->isWindowType()) ++Keys;
     if (event->type() == QEvent::MouseButtonRelease && object->isWindowType()) ++Releases;
-    if (event->type() == QEvent::MouseMove && object->isWindowType())
-      At = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
     return false;
   }
   int Keys = 0;
   int Releases = 0;
-  QPoint At;
 };
 
 class Person {
@@ -50,7 +47,8 @@ class Person {
 
   void MoveTo(const QWidget& widget, const QPoint& at) {
     const QPoint global = widget.mapToGlobal(at);
-    Does({"mousemove", "--sync", QString::number(global.x()), QString::number(global.y())});
+    Does({"mousemove", QString::number(global.x()), QString::number(global.y())});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QCursor::pos() == global; }));
     Settled();
   }
   void Press(int button) {

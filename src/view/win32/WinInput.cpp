@@ -203,7 +203,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
     case WM_ERASEBKGND: return Erase(control, window, reinterpret_cast<HDC>(wParam));
     case WM_SETCURSOR: {
       if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
-      int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : control.MousePointer();
+      int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : PointerOver(control);
       if (shape == 0 && control.DragAutomatic && control.Enabled) {
         SetCursor(LoadCursorW(nullptr, IDC_HAND));
         return TRUE;

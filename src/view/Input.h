@@ -17,6 +17,9 @@ void Activate(Control& control);
 void SelectRow(Control& list, int index);  // in the control's own numbers
 void PressToolButton(Toolbar& toolbar, const String& key);
 void ScrollTo(VScrollBar& bar, int value, bool dragging);
+// The wheel has turned over the control, in 120ths of a notch, positive away from the person: the bar that it is, or that
+// of the nearest viewport around it, goes by three small changes a notch. False: a control that scrolls by itself.
+bool Wheel(Control& control, int by);
 void Tick(Timer& timer);
 void CloseForm(Form& form);
 

@@ -93,6 +93,7 @@ class Platform {
   // Bookkeeping of view/Dispatch.h and view/Input.h.
   int HandlerDepth = 0;
   int LosingFocus = 0;
+  int WheelTurned = 0;  // what is not enough for a step yet
 
  private:
   std::shared_ptr<Toolkit> toolkit_;

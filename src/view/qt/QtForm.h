@@ -76,7 +76,7 @@ class QtForm : public QObject {
   bool LetGo(QObject& object, const Control& control, QMouseEvent& event);
   void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
   void Settle(Control* control);
-  bool Wheel(Control& control, QWheelEvent& event);
+  bool Wheel(Control& control, const QWheelEvent& event);
   bool Mnemonic(const Control& control, const QShortcutEvent& event);
   bool KeyDown(Control& control, QKeyEvent& event);
   bool BoxKey(TextBox& box, QKeyEvent& event);

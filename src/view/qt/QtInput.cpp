@@ -192,16 +192,10 @@ void QtForm::Ticked(const Control& timer) {
   Settle(nullptr);
 }
 
-// The wheel turns the scroll bar of the viewport that the pointer is over.
-bool QtForm::Wheel(Control& control, QWheelEvent& event) {
-  if (control.Type == Kind::VScrollBar || control.Type == Kind::Grid || control.Type == Kind::ListBox) return false;
-  for (const Control* around = &control; around != nullptr; around = around->Parent) {
-    for (const Control* child : ChildrenOf(*form_, around)) {
-      if (child->Type != Kind::VScrollBar || !IsUsable(*child)) continue;
-      if (QWidget* const bar = WidgetOf(*child)) QCoreApplication::sendEvent(bar, &event);
-      return true;
-    }
-  }
+bool QtForm::Wheel(Control& control, const QWheelEvent& event) {
+  const QtEntry entry(*form_);
+  if (!Input::Wheel(control, event.angleDelta().y())) return false;
+  Settle(nullptr);
   return true;
 }
 

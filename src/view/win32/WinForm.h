@@ -94,7 +94,8 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   bool Move(HWND window, POINT at, bool down);
   bool LetGo(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void FinishPress(const WinPress& press, POINT inForm);
-  bool Wheel(const Control& control, WPARAM wParam);
+  std::optional<LRESULT> Wheel(HWND window, Control& control, WPARAM wParam, LPARAM lParam);
+  bool Pressed(Control& control);
   void Clicked(Control& control);
   void RowChosen(Control& control);
   void Scrolled(Control& control, HWND bar, int code);

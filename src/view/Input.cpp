@@ -171,6 +171,7 @@ bool MoveFocus(Control& control) {
 }
 
 bool Press(Control& control) {
+  if (control.Owner.Screen().IsBlocked(control.Owner)) return false;
   if (control.DragAutomatic || !TakesFocus(control)) return !control.Owner.Released && IsUsable(control);
   return MoveFocus(control);
 }
@@ -232,6 +233,7 @@ bool Wheel(Control& control, int by) {
 void Tick(Timer& timer) { RaiseEvent(timer, "Timer", timer.Tick); }
 
 void CloseForm(Form& form) {
+  if (form.Screen().IsBlocked(form)) return;
   Dispatch(form, "QueryUnload", [&form] { form.CloseBox(); });
 }
 

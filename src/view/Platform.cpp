@@ -59,7 +59,11 @@ Platform::~Platform() = default;
 void Platform::Created(Form& form) { forms_.push_back(&form); }
 
 void Platform::Show(Form& form) {
-  if (form.Visible || form.Released) return;
+  if (form.Released) return;
+  if (form.Visible) {  // behind another one perhaps, which is gone now
+    if (!IsBlocked(form)) toolkit_->Show(form, ShowingOf(form));
+    return;
+  }
   form.Visible = true;
   Remove(shownOrder_, &form);
   shownOrder_.push_back(&form);
@@ -67,7 +71,7 @@ void Platform::Show(Form& form) {
   form.Activate();
   if (Trace.Shown) Trace.Shown(form, false);
   SyncAll();
-  toolkit_->Show(form, IsModal(form));
+  toolkit_->Show(form, ShowingOf(form));
 }
 
 void Platform::ShowModal(Form& form) {
@@ -81,7 +85,7 @@ void Platform::ShowModal(Form& form) {
   form.Activate();
   if (hidden && Trace.Shown) Trace.Shown(form, true);
   SyncAll();
-  toolkit_->Show(form, true);
+  toolkit_->Show(form, Showing::Modal);
   const FreshHandlers fresh(HandlerDepth);
   toolkit_->RunModal(form);
 }
@@ -107,6 +111,15 @@ void Platform::Release(Form& form) {
 
 bool Platform::IsModal(const Form& form) const {
   return std::find(modal_.begin(), modal_.end(), &form) != modal_.end();
+}
+
+bool Platform::IsBlocked(const Form& form) const {
+  if (IsModal(form)) return ActiveForm() != &form;
+  return std::any_of(modal_.begin(), modal_.end(), [](const Form* other) { return !other->Released; });
+}
+
+Showing Platform::ShowingOf(const Form& form) const {
+  return IsBlocked(form) ? Showing::Blocked : IsModal(form) ? Showing::Modal : Showing::Modeless;
 }
 
 Form* Platform::ActiveForm() const {

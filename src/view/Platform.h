@@ -11,12 +11,15 @@
 
 namespace Tarnwise {
 
+// How a form comes to the screen. Blocked: it is seen, behind the form that takes the input, and takes none itself.
+enum class Showing { Modeless, Modal, Blocked };
+
 // One way of bringing forms to a screen. All calls come on the thread of the forms.
 class Toolkit {
  public:
   virtual ~Toolkit() = default;
 
-  virtual void Show(Form& form, bool modal) = 0;
+  virtual void Show(Form& form, Showing how) = 0;  // one that is shown already comes to the front
   virtual void Hide(Form& form) = 0;
   virtual void Release(Form& form) = 0;                // drop the window; the form itself may live on
   virtual void ControlUnloaded(Control& control) = 0;  // an element of a control array goes
@@ -63,6 +66,7 @@ class Platform {
 
   const std::vector<Form*>& Forms() const { return forms_; }  // in the order in which they were created
   bool IsModal(const Form& form) const;                       // its modal call is running
+  bool IsBlocked(const Form& form) const;                     // another form's modal call keeps the input from it
   Form* ActiveForm() const;  // the one that takes input: the innermost visible modal one, else the last one shown
 
   void MessageBox(const String& text, int style, const String& title);
@@ -96,6 +100,8 @@ class Platform {
   int WheelTurned = 0;  // what is not enough for a step yet
 
  private:
+  Showing ShowingOf(const Form& form) const;
+
   std::shared_ptr<Toolkit> toolkit_;
   std::vector<Form*> forms_;
   std::vector<Form*> shownOrder_;

@@ -176,7 +176,7 @@ Control* LabelledBy(const Label& label) {
 String Refusal(const Control& control) {
   const Form& form = control.Owner;
   if (!IsOnScreen(control)) return "hidden";
-  if (form.Screen().ActiveForm() != &form) return "blocked by a modal form";
+  if (form.Screen().IsBlocked(form) || form.Screen().ActiveForm() != &form) return "blocked by a modal form";
   if (!IsUsable(control)) return "disabled";
   if (IsCovered(control)) return "covered";
   return {};

@@ -235,7 +235,10 @@ TEST(ModalCall, OfAFormThatIsVisibleAlreadyBlocksAndTellsOfNoShowing) {
 
 struct Watching : HeadlessToolkit {
   Lines Calls;
-  void Show(Form& form, bool modal) override { Calls.push_back("show " + form.Name + (modal ? " modal" : "")); }
+  void Show(Form& form, Showing how) override {
+    const char* const words[] = {"", " modal", " blocked"};
+    Calls.push_back("show " + form.Name + words[static_cast<int>(how)]);
+  }
   void Hide(Form& form) override { Calls.push_back("hide " + form.Name); }
   void Release(Form& form) override { Calls.push_back("release " + form.Name); }
 };
@@ -249,6 +252,42 @@ TEST(Showing, HidingAndReleasingReachTheToolkit) {
   screen->Hide(*form);
   screen->Release(*form);
   EXPECT_EQ(tools->Calls, (Lines{"show frmBench", "hide frmBench", "release frmBench"}));
+}
+
+// A form that a host shows while another one's modal call runs.
+TEST(Showing, BehindAModalFormIsBlockedUntilThatOneIsThrough) {
+  const auto tools = std::make_shared<Watching>();
+  const auto screen = std::make_shared<Platform>(tools);
+  const auto first = std::make_shared<BenchForm>(screen);
+  const auto later = std::make_shared<BenchForm>(screen);
+  String log;
+  first->cmdGo.Click = [&log] { log += "click "; };
+  for (const auto& form : {first, later}) screen->Created(*form);
+  bool asked = false;
+  tools->Pump = [&] {
+    tools->Calls.clear();
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls, Lines{"show frmBench blocked"});
+    EXPECT_TRUE(first->Visible);
+    EXPECT_TRUE(screen->IsBlocked(*first));
+    EXPECT_FALSE(screen->IsBlocked(*later));
+    EXPECT_EQ(screen->ActiveForm(), later.get());
+    EXPECT_FALSE(Input::Press(first->cmdGo));
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls.size(), 1U) << "shown again it stays where it is";
+    screen->Hide(*later);
+    EXPECT_FALSE(Input::Press(first->cmdGo)) << "its call has not returned, and may go on with another form";
+    screen->Release(*later);
+    tools->Calls.clear();
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls, Lines{"show frmBench"}) << "it comes to the front";
+    EXPECT_TRUE(Input::Press(first->cmdGo));
+    return asked = true;
+  };
+  screen->ShowModal(*later);
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(screen->IsBlocked(*first));
+  screen->Release(*first);
 }
 
 TEST(Showing, AVisibleFormAgainOrHidingAHiddenOneTellsNothing) {

@@ -12,7 +12,7 @@ constexpr Single kTwipsPerCharacter = 90.0F;
 
 }  // namespace
 
-void HeadlessToolkit::Show(Form& /*form*/, bool /*modal*/) {}
+void HeadlessToolkit::Show(Form& /*form*/, Showing /*how*/) {}
 void HeadlessToolkit::Hide(Form& /*form*/) {}
 void HeadlessToolkit::Release(Form& /*form*/) {}
 void HeadlessToolkit::ControlUnloaded(Control& /*control*/) {}

@@ -10,7 +10,7 @@ class HeadlessToolkit : public Toolkit {
   // Does the next thing that a user would do while a modal form is up; false when nothing comes any more.
   std::function<bool()> Pump;
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;

@@ -158,7 +158,7 @@ void QtForm::RowChosen(QWidget& widget, int row) {
   Control* const control = ControlOf(&widget);
   if (form_ == nullptr || control == nullptr || row < 0) return;
   const QtEntry entry(*form_);
-  if (IsUsable(*control)) Input::SelectRow(*control, row);
+  if (Refusal(*control).empty()) Input::SelectRow(*control, row);
   Settle(ControlOf(&widget));
 }
 
@@ -209,6 +209,7 @@ bool QtForm::Mnemonic(const Control& control, const QShortcutEvent& event) {
 }
 
 bool QtForm::KeyDown(Control& control, QKeyEvent& event) {
+  if (form_->Screen().IsBlocked(*form_)) return true;
   const int code = VirtualKey(event);
   const int shift = ShiftOf(event);
   const QtEntry entry(*form_);

@@ -26,7 +26,7 @@ class QtToolkit : public Toolkit {
   std::function<void(QMessageBox&)> AutoAnswer;  // answers a message box that has come up
   bool RealTimers = true;                        // false: a form's timers wait for the script
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;

@@ -17,6 +17,7 @@
 namespace Tarnwise {
 
 class WinToolkit;
+enum class Showing;
 
 struct DestroyImages {
   void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
@@ -59,8 +60,8 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   // The pictures that a toolbar or a combo shows, kept for as long as it lives.
   void KeepImages(HWND window, Images images);
 
-  void Show(bool modal);
-  void Sync();  // what the tree has marked
+  void Show(Showing how, HWND behind);  // `behind`: where it is blocked, the window that stays in front of it
+  void Sync();                          // what the tree has marked
   void SyncControl(Control& control);
   void FocusTree();  // the keyboard goes to the window of the tree's active control, or to the form's own
   void Settle(Control* control);

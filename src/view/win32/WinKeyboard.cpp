@@ -1,6 +1,7 @@
 // Keys on their way from Windows to the tree.
 #include "view/Input.h"
 #include "view/Mnemonics.h"
+#include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
@@ -35,6 +36,7 @@ bool IsOpen(const Control& control, HWND window) {
 
 std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto held = shared_from_this();
+  if (form_->Screen().IsBlocked(*form_)) return 0;
   bool taken = false;
   switch (message) {
     case WM_KEYDOWN:

@@ -27,7 +27,7 @@ void WinForm::RowChosen(Control& control) {
   const HWND window = WindowOf(control);
   if (window == nullptr) return;
   const WinEntry entry(*form_);
-  if (IsUsable(control)) Input::SelectRow(control, ChosenRow(control, window));
+  if (Refusal(control).empty()) Input::SelectRow(control, ChosenRow(control, window));
   Settle(ControlOf(window));
 }
 

@@ -30,7 +30,7 @@ class WinToolkit : public Toolkit {
   bool RealTimers = true;      // false: a form's timers wait for the script
   bool AutoAnswer = false;     // message boxes are answered as soon as they are up, help is not opened
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;

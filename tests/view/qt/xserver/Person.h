@@ -35,7 +35,7 @@ class Person {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   }
 
-  // Keys by their names: "alt+3", "ctrl+shift+Insert", "5".
+  // Keys by their names: "alt+3", "ctrl+shift+Insert", "5". Returns when they have come up, or what they led to has.
   void Keys(const QStringList& names) {
     for (const QString& name : names) {
       const int wanted = arrivals_.Keys + 1 + static_cast<int>(name.count('+'));
@@ -53,6 +53,13 @@ class Person {
   }
   void Press(int button) {
     Does({"mousedown", QString::number(button)});
+    Settled();
+  }
+  // Where the window takes nothing there is nothing to wait for.
+  void ClickInVain(const QWidget& widget) {
+    MoveTo(widget, widget.rect().center());
+    Press(1);
+    Does({"mouseup", "1"});
     Settled();
   }
   void LetGo(int button) {

@@ -9,6 +9,7 @@
 // All calls and events belong to one thread. A host may call any method, and may let the object go, inside any event.
 #pragma once
 
+#include <tarnwise/Help.h>
 #include <tarnwise/Scalars.h>
 #include <tarnwise/Variant.h>
 
@@ -23,6 +24,11 @@ class Platform;  // the screen that the wizard is shown on
 std::shared_ptr<Platform> MakeQtPlatform();        // needs a QApplication; in the library Tarnwise::TRN_DEA_Qt
 std::shared_ptr<Platform> MakeWin32Platform();     // Windows only, on a thread with a message loop; in Tarnwise_DEA
 std::shared_ptr<Platform> MakeHeadlessPlatform();  // no screen: for tests and scripts
+
+// How help is shown on that screen from now on, for all objects that share it. An empty operation brings back the
+// screen's own way: Windows shows the help file by WinHelpA, Qt opens it with the program that the desktop has for it,
+// without a screen nothing happens.
+void SetHelp(Platform& screen, HelpOperation help);
 
 using VariantArray = std::vector<Variant>;  // elements 0 to NumAtts - 1
 

@@ -2,8 +2,11 @@
 
 #include "frame/ModelFile.h"
 #include "frame/Wizard.h"
+#include "view/Platform.h"
 
 namespace Tarnwise {
+
+void SetHelp(Platform& screen, HelpOperation help) { screen.HostsHelp = std::move(help); }
 
 TRN_DEA::TRN_DEA(std::shared_ptr<Platform> platform) : wizard_(std::make_shared<Wizard>(std::move(platform))) {}
 

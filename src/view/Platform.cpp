@@ -33,7 +33,8 @@ class ModalCall {
   Form* const form_;
 };
 
-// A message box or a modal form inside a handler: handlers that run meanwhile bring their own changes to the screen.
+// A message box, a modal form or a host's help inside a handler: handlers that run meanwhile bring their own changes to
+// the screen.
 class FreshHandlers {
  public:
   explicit FreshHandlers(int& depth) : depth_(depth), outside_(std::exchange(depth, 0)) {}
@@ -150,7 +151,13 @@ void Platform::SetPointer(int pointer) {
 
 void Platform::Help(Form& form, const String& path, int command, int context) {
   if (Trace.Help) Trace.Help(path, command, context);
-  toolkit_->Help(form, path, command, context);
+  SyncAll();
+  const FreshHandlers fresh(HandlerDepth);  // it may show a window and wait
+  const HelpOperation help = HostsHelp;     // it may set another one
+  if (help)
+    help(toolkit_->WindowOf(form), path, command, context);
+  else
+    toolkit_->Help(form, path, command, context);
 }
 
 void Platform::SetFocus(Control& control) {

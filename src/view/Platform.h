@@ -5,6 +5,8 @@
 #include "view/Drag.h"
 #include "view/Form.h"
 
+#include <tarnwise/Help.h>
+
 #include <functional>
 #include <memory>
 #include <vector>
@@ -29,7 +31,9 @@ class Toolkit {
   virtual void MessageBox(Form* over, const String& text, int style, const String& title) = 0;
   virtual void Beep() = 0;
   virtual void SetPointer(int pointer) = 0;
-  virtual void Help(Form& form, const String& path, int command, int context) = 0;
+  virtual void Help(Form& form, const String& path, int command,
+                    int context) = 0;  // where the host has no way of its own
+  virtual WindowHandle WindowOf(const Form& form) = 0;
   virtual void Focus(Control& control) = 0;           // the tree's focus has gone there
   virtual void AnnounceChange(Control& control) = 0;  // a verdict changed: tell a screen reader
   virtual Single TextWidth(const String& text) = 0;   // twips, in a grid's font
@@ -90,6 +94,7 @@ class Platform {
   Toolkit& Tools() { return *toolkit_; }
 
   PlatformTrace Trace;
+  HelpOperation HostsHelp;  // in place of the toolkit's; see SetHelp
 
   // The drag that is under way, if any (view/Drag.h).
   DragSession Drag;

@@ -93,5 +93,19 @@ TEST(OwnScreen, TheFirstStepShownWhileALaterOneIsOpenStaysBlocked) {
   TakeMessages();
 }
 
+TEST(OwnScreen, HelpIsToldTheStepsWindow) {
+  OnItsOwnScreen client;
+  const HWND first = FindWindowW(nullptr, kFirst);
+  Sink* const handler = new Sink;
+  HWND asked = nullptr;
+  handler->Inside = [&asked](DISPID, DISPPARAMS& p) { asked = static_cast<HWND>(LongToHandle(p.rgvarg[3].lVal)); };
+  EXPECT_EQ(CallSetHelp(client.Object.Get(), handler), S_OK);
+  SendMessageW(Button(first, L"&Help"), BM_CLICK, 0, 0);
+  EXPECT_EQ(asked, first);
+  EXPECT_EQ(client.Object->UnloadTarnwise(), S_OK);
+  client.Object = {};
+  EXPECT_EQ(handler->Release(), 0U) << "the object has let it go";
+}
+
 }  // namespace
 }  // namespace Tarnwise

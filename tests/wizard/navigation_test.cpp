@@ -1,6 +1,5 @@
 // The way through the wizard: which forms are shown, hidden and released, and in which order.
-#include "Places.h"
-#include "view/Reach.h"
+#include "Navigating.h"
 
 namespace Tarnwise {
 namespace {
@@ -9,36 +8,6 @@ constexpr const char* kSaysMethod = "say Select a method to make value judgments
 constexpr const char* kSaysOrder = "say Rank the attributes according to their relative importance.";
 constexpr const char* kSaysDirect = "say  Indicate a value reference region on the two selected attributes.";
 constexpr const char* kSaysTradeOffs = "say  Give your preference between the two selected criteria.";
-
-// Forms and events, without the pointer and the focus.
-Lines Moves(const Lines& notes) {
-  Lines moves;
-  for (const String& note : notes) {
-    if (!note.starts_with("pointer") && !note.starts_with("focus")) moves.push_back(note);
-  }
-  return moves;
-}
-
-VariantArray Zeros() { return VariantArray(4, Variant(0.0)); }
-
-struct Navigation : Wizarding {
-  explicit Navigation(const WizardData& model = Model()) : Wizarding(model) {
-    Load();
-    const VariantArray zeros = Zeros();
-    Wizard->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros);
-    TakeNotes();
-  }
-
-  // What one click does, at the place that the steps lead to.
-  Lines MovesOf(Steps steps, const Steps& then) {
-    steps.push_back([this] { TakeNotes(); });
-    Lines moves;
-    steps.insert(steps.end(), then.begin(), then.end());
-    steps.push_back([this, &moves] { moves = Moves(Notes); });
-    Run(steps);
-    return moves;
-  }
-};
 
 TEST(Navigation, NextOfTheFirstStepHidesItAndShowsTheOrderingStepModally) {
   Navigation n;
@@ -148,65 +117,6 @@ TEST(Navigation, ManyTimesThereAndBackLeavesNothingBehind) {
   EXPECT_EQ(Only(n.Notes, "release frmDirectB").size(), 40U);
 }
 
-// A host that shows the first step again while a later one is open.
-struct ShownAgain : Navigation {
-  // The button that nobody can see to press is pressed all the same.
-  void PressNextOfFirst() {
-    Control& next = Named("frmTRNSelMethod.cmdNext");
-    EXPECT_EQ(Refusal(next), "blocked by a modal form");
-    if (Input::Press(next)) Input::Activate(next);
-  }
-};
-
-TEST(FirstStepShownAgain, BecomesVisibleAndStaysBlockedByEachLaterStep) {
-  for (const bool atLast : {false, true}) {
-    SCOPED_TRACE(atLast);
-    ShownAgain n;
-    bool asked = false;
-    Steps steps = atLast ? n.ToJudgments() : n.ToOrdering();
-    steps.push_back([&] {
-      const String later = n.Active();
-      const Lines forms = n.Forms();
-      n.TakeNotes();
-      n.Wizard->ShowTarnwise();
-      EXPECT_EQ(n.TakeNotes(), Lines{"show frmTRNSelMethod"});
-      EXPECT_EQ(n.Active(), later);
-      n.PressNextOfFirst();
-      Input::CloseForm(n.Named("frmTRNSelMethod.cmdNext").Owner);
-      EXPECT_EQ(n.Notes, Lines{});
-      EXPECT_EQ(n.Forms(), forms);
-      asked = true;
-    });
-    n.Run(steps);
-    EXPECT_TRUE(asked);
-  }
-}
-
-TEST(FirstStepShownAgain, StaysBlockedWhileOneLaterStepMakesWayForTheNext) {
-  ShownAgain n;
-  int prompts = 0;
-  n.InEvent = [&](const String& event) {
-    if (event != "SendMasseges" || n.Forms().size() < 3) return;
-    ++prompts;  // the ordering step is hidden, the direct one not shown yet
-    n.PressNextOfFirst();
-  };
-  Steps steps = n.ToReferences();
-  steps.push_back([&n] { n.Wizard->ShowTarnwise(); });
-  n.Run(Wizarding::Joined(steps, {n.Clicks("cmdNext"), [&n] { EXPECT_EQ(n.Active(), "frmDirectB"); }}));
-  EXPECT_EQ(prompts, 1);
-  EXPECT_EQ(Only(n.Notes, "show frmIniImpOrder").size(), 1U);
-}
-
-TEST(FirstStepShownAgain, TakesTheInputWhenBackLeadsToIt) {
-  ShownAgain n;
-  Steps steps = n.ToOrdering();
-  steps.push_back([&n] { n.Wizard->ShowTarnwise(); });
-  const Lines moves = n.MovesOf(steps, {n.Clicks("cmdBack")});
-  EXPECT_EQ(moves, Lines({"hide frmIniImpOrder", "release frmIniImpOrder"})) << "it is visible already";
-  n.Run({[&n] { EXPECT_EQ(n.Active(), "frmTRNSelMethod"); }, n.Clicks("cmdNext")});
-  EXPECT_EQ(n.Active(), "frmIniImpOrder");
-}
-
 TEST(Cancel, OfEachStepIsAnsweredByTheHost) {
   const auto places = [](Navigation& n) {
     return std::vector<Steps>{{n.Shows()}, n.ToOrdering(), n.ToReferences(), n.ToJudgments()};
@@ -302,27 +212,6 @@ TEST(Finish, OfTheTradeOffStepHandsOverFreshPointsWithTheHostsOrientation) {
                                                   },
                                                   n.Clicks("cmdFinish")}));
   EXPECT_EQ(mdTRNMain().ABPoints2[1].AX, 11.0F) << "the arrays are fresh ones";
-}
-
-TEST(Help, OfEveryStepOpensTheSamePage) {
-  Navigation n;
-  const Lines page = {"help C:/KESTA\\KESTA.HLP 1 4005025"};
-  int places = 0;
-  Steps steps = {n.Shows()};
-  const auto ask = [&] {
-    n.TakeNotes();
-    n.Click("cmdHelp");
-    EXPECT_EQ(n.Notes, page) << n.Active();
-    ++places;
-  };
-  steps.push_back(ask);
-  const Steps way = n.ToJudgments();
-  for (std::size_t i = 1; i < way.size(); ++i) {
-    steps.push_back(way[i]);
-    if (i == 1 || i + 1 == way.size()) steps.push_back(ask);
-  }
-  n.Run(steps);
-  EXPECT_EQ(places, 3);
 }
 
 TEST(Session, PrintsTheRoadThroughTheDirectApproach) {

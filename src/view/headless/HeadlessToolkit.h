@@ -20,6 +20,7 @@ class HeadlessToolkit : public Toolkit {
   void Beep() override;
   void SetPointer(int pointer) override;
   void Help(Form& form, const String& path, int command, int context) override;
+  WindowHandle WindowOf(const Form& form) override;
   void Focus(Control& control) override;
   void AnnounceChange(Control& control) override;
   Single TextWidth(const String& text) override;

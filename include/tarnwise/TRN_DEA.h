@@ -9,6 +9,7 @@
 // All calls and events belong to one thread. A host may call any method, and may let the object go, inside any event.
 #pragma once
 
+#include <tarnwise/Help.h>
 #include <tarnwise/Scalars.h>
 #include <tarnwise/Variant.h>
 
@@ -30,6 +31,11 @@ std::shared_ptr<Platform> MakeHeadlessPlatform();  // no screen: for tests and s
 // that is no number.
 VariantArray OrientationsOf(const VariantArray& ALX, const VariantArray& ALY, const VariantArray& AUX,
                             const VariantArray& AUY);
+
+// How help is shown on that screen from now on, for all objects that share it. An empty operation brings back the
+// screen's own way: Windows shows the help file by WinHelpA, Qt opens it with the program that the desktop has for it,
+// without a screen nothing happens.
+void SetHelp(Platform& screen, HelpOperation help);
 
 struct TRN_DEA_Events {
   // The wizard ends: answer by the method UnloadTarnwise. WeightsDone is false when the user cancelled.

@@ -5,11 +5,13 @@
 #include <windows.h>
 
 #include <ocidl.h>
+#include <shellapi.h>
 
 // What follows is to define its identifiers here.
 #include <initguid.h>
 
 #include <cstdio>
+#include <string>
 
 #include "Tarnwise_DEA.h"
 // end region
@@ -51,12 +53,20 @@ void PrintIntervals(DISPPARAMS* arguments) {
   }
 }
 
+// Help(Window, Path, Command, Context): a page of our own, in the browser, in place of KESTA.HLP.
+void ShowHelp(DISPPARAMS* arguments) {
+  const std::wstring page = L"https://help.example.org/tarnwise#" + std::to_wstring(V_I4(&Argument(arguments, 3)));
+  const auto window = static_cast<HWND>(LongToHandle(V_I4(&Argument(arguments, 0))));
+  ShellExecuteW(window, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
 // One object, which lives as long as the program.
 struct Events : IDispatch {
   _TRN_DEA* Dea = nullptr;
 
   STDMETHODIMP Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT*, EXCEPINFO*, UINT*) override {
     switch (event) {
+      case DISPID_VALUE: ShowHelp(arguments); break;
       case 1:  // UnloadTarnwise(fIndex, WeightsDone)
         std::puts(V_BOOL(&Argument(arguments, 1)) != VARIANT_FALSE ? "judged" : "cancelled");
         Dea->UnloadTarnwise();
@@ -93,6 +103,16 @@ HRESULT Connect(_TRN_DEA* dea, IDispatch* events, IConnectionPoint** point, DWOR
   return FAILED(outcome) ? outcome : (*point)->Advise(events, cookie);
 }
 
+// The same object shows help.
+HRESULT ShowHelpBy(_TRN_DEA* dea, IDispatch* handler) {
+  ITarnwiseHelp* help = nullptr;
+  HRESULT outcome = dea->QueryInterface(IID_ITarnwiseHelp, reinterpret_cast<void**>(&help));
+  if (FAILED(outcome)) return outcome;
+  outcome = help->SetHelp(handler);
+  help->Release();
+  return outcome;
+}
+
 // Nine arrays by reference, here one and the same: elements 0 to 30, as many as a model can have attributes.
 HRESULT HandOverNoPoints(_TRN_DEA* dea) {
   SAFEARRAY* none = SafeArrayCreateVector(VT_VARIANT, 0, 31);
@@ -126,6 +146,7 @@ HRESULT Run(const wchar_t* model) {
   IConnectionPoint* point = nullptr;
   DWORD cookie = 0;
   outcome = Connect(dea, &events, &point, &cookie);
+  if (SUCCEEDED(outcome)) outcome = ShowHelpBy(dea, &events);
   if (SUCCEEDED(outcome)) outcome = Show(dea, model);
   if (SUCCEEDED(outcome)) {
     MSG message;

@@ -33,6 +33,8 @@ STDMETHODIMP Component::QueryInterface(REFIID iid, void** object) {
     *object = static_cast<IConnectionPointContainer*>(this);
   } else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) {
     *object = static_cast<IProvideClassInfo2*>(this);
+  } else if (iid == IID_ITarnwiseHelp) {
+    *object = static_cast<ITarnwiseHelp*>(this);
   } else if (iid == IID_ITarnwisePlayerAccess) {
     *object = static_cast<ITarnwisePlayerAccess*>(this);
   } else {
@@ -104,7 +106,7 @@ void Component::Transfer(TRN_DEA& wizard, const ScoreArrays& scores) const {
 }
 
 STDMETHODIMP Component::InterfaceSupportsErrorInfo(REFIID iid) {
-  return iid == IID__TRN_DEA || iid == IID_IDispatch ? S_OK : S_FALSE;
+  return iid == IID__TRN_DEA || iid == IID_IDispatch || iid == IID_ITarnwiseHelp ? S_OK : S_FALSE;
 }
 
 STDMETHODIMP Component::EnumConnectionPoints(IEnumConnectionPoints** points) {

@@ -25,6 +25,7 @@ class Component final : public _TRN_DEA,
                         public ISupportErrorInfo,
                         public IConnectionPointContainer,
                         public IProvideClassInfo2,
+                        public ITarnwiseHelp,
                         public ITarnwisePlayerAccess {
  public:
   Component();
@@ -53,6 +54,7 @@ class Component final : public _TRN_DEA,
   STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** point) override;
   STDMETHODIMP GetClassInfo(ITypeInfo** info) override;
   STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override;
+  STDMETHODIMP SetHelp(IDispatch* Handler) override;
   STDMETHODIMP Access(std::shared_ptr<Platform>** screen, WizardData** data) override;
   STDMETHODIMP MakeDriver(std::unique_ptr<Driver>* driver) override;
 

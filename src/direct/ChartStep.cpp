@@ -14,6 +14,7 @@ void frmDirectB::ConnectChart() {
   Chart.picTradeOffsRange.DragOver = [this](Control& source, Single x, Single y, DragState state) {
     HandleDragged(source, x, y, state);
   };
+  Chart.picTradeOffsRange.AcceptsDrop = [](const Control&) { return true; };  // the handle has followed already
   // A handle carried away from the chart shows that it can't be dropped there. The two are not alike on purpose.
   DragOver = [](Control& source, Single, Single, DragState state) {
     if (state == DragState::Enter) source.MousePointer = 0;

@@ -9,15 +9,12 @@ namespace Tarnwise {
 
 namespace {
 
-enum Key { kBackspace = 8, kReturn = 13, kCtrlV = 22, kBlank = 32, kInsert = 45 };
-constexpr int kShift = 1;
+enum Key { kBackspace = 8, kReturn = 13, kCtrlV = 22, kBlank = 32 };
 
 }  // namespace
 
 void frmDirectB::ConnectEntryBox(TextBox& box, Box which) {
-  box.KeyDown = [](KeyEvent& key) {
-    if (key.Code == kInsert && key.Shift == kShift) key.Code = 0;
-  };
+  box.KeyDown = DropPasting;
   box.KeyPress = [this, &box, which](KeyEvent& key) {
     if (key.Code == kCtrlV) key.Code = 0;
     FilterEntryKey(box, which, key);

@@ -4,6 +4,12 @@ namespace Tarnwise {
 
 bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
 
+void DropPasting(KeyEvent& key) {
+  constexpr int kInsert = 45;
+  constexpr int kShift = 1;
+  if (key.Code == kInsert && (key.Shift & kShift) != 0) key.Code = 0;
+}
+
 void RemoveSecondPoint(TextBox& box) {
   const String& text = box.Text();
   const auto point = text.find('.');

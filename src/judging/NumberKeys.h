@@ -8,6 +8,9 @@ namespace Tarnwise {
 // Digits and the point; there are no signs and no exponents.
 bool IsNumeric(int character);
 
+// At a key down: Insert with Shift would paste, whatever else is held.
+void DropPasting(KeyEvent& key);
+
 // Where the text holds two points, the character before the caret goes; with the caret at the start, none.
 void RemoveSecondPoint(TextBox& box);
 

@@ -25,11 +25,17 @@ void frmIniImpOrder::ConnectDrags(Group g) {
     row.DragOver = [this, g, &row](Control& source, Single, Single, DragState state) {
       OverRow(g, row, source, state);
     };
+    row.AcceptsDrop = [this, g, &row](const Control& source) {
+      return TakesOnRank(g, static_cast<int>(Val(row.Tag())), source);
+    };
   });
   c.cmdAttB.Wire([this, g](CommandButton& button) {
     button.Click = [this, g, &button] { SelectRank(g, RankOfButton(button)); };
     button.DragDrop = [this, g, &button](Control& source, Single, Single) { DropOnButton(g, button, source); };
     button.DragOver = [this, g, &button](Control& source, Single, Single, DragState) { OverButton(g, button, source); };
+    button.AcceptsDrop = [this, g, &button](const Control& source) {
+      return TakesOnRank(g, RankOfButton(button), source);
+    };
   });
   c.picAttPanel.DragOver = [this, &c](Control& source, Single, Single, DragState) { OverList(c.optAttInfo, source); };
   // The names of the cost list mark the option of the benefit list; it has always been so.
@@ -57,12 +63,17 @@ void frmIniImpOrder::DropOnRow(Group g, PictureBox& row, Control& source) {
 }
 
 void frmIniImpOrder::DropOnButton(Group g, const Control& button, Control& source) {
-  if (!IsButton(source)) return;
   const int rank = RankOfButton(button);
+  if (TakesOnRank(g, rank, source)) DropOnRow(g, RowOfRank(g, rank), source);
+}
+
+// Whether a drop there moves the attribute.
+bool frmIniImpOrder::TakesOnRank(Group g, int rank, const Control& source) const {
+  if (!IsButton(source)) return false;
   const char letter = LetterOf(source);
   const bool listed = letter == (g == Group::Benefit ? 'A' : 'C');
   const bool placed = letter == (g == Group::Benefit ? 'B' : 'D');
-  if (listed || (placed && RankOfButton(source) != rank)) DropOnRow(g, RowOfRank(g, rank), source);
+  return listed || (placed && RankOfButton(source) != rank);
 }
 
 bool frmIniImpOrder::IsOwnRow(int rank, const Control& source, char letter) const {

@@ -61,6 +61,7 @@ struct frmIniImpOrder : IniImpOrderForm {
   void OverRow(Group g, PictureBox& row, const Control& source, DragState state);
   void OverButton(Group g, const Control& button, const Control& source);
   void OverList(ControlArray<OptionButton>& options, const Control& source);
+  bool TakesOnRank(Group g, int rank, const Control& source) const;
   bool IsOwnRow(int rank, const Control& source, char letter) const;
   void DrawMarker(Group g, PictureBox& row);
 

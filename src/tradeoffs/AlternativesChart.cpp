@@ -34,6 +34,7 @@ void frmTradeOffsB::ConnectChart() {
     const bool inside = x >= plot.Left && x <= plot.Left + plot.Width && y >= plot.Top && y <= plot.Top + plot.Height;
     if (!inside) Screen().Beep();
   };
+  Chart.picPCGraph.AcceptsDrop = [](const Control&) { return false; };
   Lights.Timer1.Tick = [this] { Timer1_Timer(); };
 }
 

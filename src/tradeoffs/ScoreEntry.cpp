@@ -10,8 +10,7 @@ namespace Tarnwise {
 
 namespace {
 
-enum Key { kReturn = 13, kCtrlV = 22, kBlank = 32, kInsert = 45 };
-constexpr int kShift = 1;
+enum Key { kReturn = 13, kCtrlV = 22, kBlank = 32 };
 constexpr Integer kYes = -1;
 
 String ScoreText(Double score) { return StripTrailingDot(Format(score, "0.##")); }
@@ -24,7 +23,7 @@ void frmTradeOffsB::ConnectScores() {
     box->Change = [this] { ShowDifferences(); };
     box->KeyDown = [this](KeyEvent& key) {
       mScoresDirty = kYes;
-      if (key.Code == kInsert && key.Shift == kShift) key.Code = 0;
+      DropPasting(key);
     };
     box->KeyPress = [this, box](KeyEvent& key) { ScoreKey(key, *box); };
     box->LostFocus = [this] {

@@ -92,6 +92,8 @@ struct Control {
 
   std::function<void(Control& source, Single x, Single y, DragState state)> DragOver;
   std::function<void(Control& source, Single x, Single y)> DragDrop;
+  // Whether a drop of the source here would be taken, for the pointer to say; empty: where there is a DragDrop.
+  std::function<bool(const Control& source)> AcceptsDrop;
   std::function<void()> Click;
   std::function<void()> GotFocus;
   std::function<void()> LostFocus;

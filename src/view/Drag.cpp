@@ -50,6 +50,13 @@ std::vector<Control*> PanelsFor(const Control& source) {
 void DragSession::Begin(Control& source) {
   source_ = &source;
   target_ = nullptr;
+  icon_ = source.DragIcon;
+  if (icon_.empty() && source.Type == Kind::PictureBox) icon_ = static_cast<PictureBox&>(source).Picture;
+}
+
+bool DragSession::WouldBeTaken() const {
+  if (source_ == nullptr || target_ == nullptr) return false;
+  return target_->AcceptsDrop ? target_->AcceptsDrop(*source_) : target_->DragDrop != nullptr;
 }
 
 void DragSession::Notify(DragState state) {
@@ -58,6 +65,7 @@ void DragSession::Notify(DragState state) {
   if (target == nullptr || source == nullptr || !target->DragOver) return;
   const auto handler = target->DragOver;
   Dispatch(*target, "DragOver", [&] { handler(*source, x_, y_, state); });
+  if (source_ == source && !source->DragIcon().empty()) icon_ = source->DragIcon;
 }
 
 void DragSession::Over(Control& target, Single x, Single y) {
@@ -160,6 +168,10 @@ void DragSession::Forget(const Control& control) {
     target_ = nullptr;
   }
   if (target_ == &control) target_ = nullptr;
+}
+
+int PointerOver(const Control& control) {
+  return control.DragAutomatic && control.MousePointer == kNoDrop ? 0 : control.MousePointer();
 }
 
 }  // namespace Tarnwise

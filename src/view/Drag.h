@@ -14,6 +14,12 @@ class DragSession {
   Single X() const { return x_; }  // where the pointer stands on the target, in its scale
   Single Y() const { return y_; }
 
+  // What is seen of it, whatever MousePointer and DragIcon of the source say for the moment: whether a drop where the
+  // pointer stands would be taken, and the picture that stands for the source everywhere. Path or name of the last
+  // DragIcon that it had, before the first one its own picture; empty when it has none.
+  bool WouldBeTaken() const;
+  const String& Icon() const { return icon_; }
+
   void Begin(Control& source);
 
   // The pointer stands at (x, y) of a control that takes drags, in that control's scale; or over nothing that does.
@@ -42,6 +48,16 @@ class DragSession {
   Control* target_ = nullptr;
   Single x_ = 0.0F;
   Single y_ = 0.0F;
+  String icon_;
 };
+
+// Pixels of the design: a mouse's pointer would cover the letter of an icon under it, so that hangs beside it.
+constexpr int kIconBesidePointer = 10;
+
+constexpr int kNoDrop = 12;  // the pointer's shape over what takes no drop
+
+// The shape of the pointer over a control while nothing is dragged. A drag may leave its no-drop shape with the source,
+// where it says nothing any more.
+int PointerOver(const Control& control);
 
 }  // namespace Tarnwise

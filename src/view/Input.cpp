@@ -128,6 +128,18 @@ bool ToolbarKey(Toolbar& toolbar, int code) {
   return true;
 }
 
+constexpr int kWheelStep = 40;  // 120ths of a notch for a small change
+
+VScrollBar* BarFor(Control& control) {
+  if (control.Type == Kind::VScrollBar) return IsUsable(control) ? &static_cast<VScrollBar&>(control) : nullptr;
+  for (const Control* around = &control; around != nullptr; around = around->Parent) {
+    for (Control* child : ChildrenOf(control.Owner, around)) {
+      if (child->Type == Kind::VScrollBar && IsUsable(*child)) return static_cast<VScrollBar*>(child);
+    }
+  }
+  return nullptr;
+}
+
 bool RaiseKey(TextBox& box, const char* event, const std::function<void(KeyEvent&)>& handler, KeyEvent& key) {
   if (handler) Dispatch(box, event, [&] { handler(key); });
   return key.Code != 0;
@@ -159,6 +171,7 @@ bool MoveFocus(Control& control) {
 }
 
 bool Press(Control& control) {
+  if (control.Owner.Screen().IsBlocked(control.Owner)) return false;
   if (control.DragAutomatic || !TakesFocus(control)) return !control.Owner.Released && IsUsable(control);
   return MoveFocus(control);
 }
@@ -204,9 +217,23 @@ void ScrollTo(VScrollBar& bar, int value, bool dragging) {
   bar.SetValue(value);
 }
 
+bool Wheel(Control& control, int by) {
+  if (control.Type == Kind::Grid || control.Type == Kind::ListBox) return false;
+  VScrollBar* const bar = BarFor(control);
+  if (bar == nullptr) return true;
+  int& turned = control.Owner.Screen().WheelTurned;
+  if ((turned < 0) != (by < 0)) turned = 0;
+  turned += by;
+  const int steps = turned / kWheelStep;
+  turned -= steps * kWheelStep;
+  if (steps != 0) ScrollTo(*bar, bar->Value - steps * bar->SmallChange, false);
+  return true;
+}
+
 void Tick(Timer& timer) { RaiseEvent(timer, "Timer", timer.Tick); }
 
 void CloseForm(Form& form) {
+  if (form.Screen().IsBlocked(form)) return;
   Dispatch(form, "QueryUnload", [&form] { form.CloseBox(); });
 }
 

@@ -6,8 +6,9 @@
 
 namespace Tarnwise::Input {
 
-// The press: moves the focus where the control takes it. False when the click must not follow, because the move raised
-// a message or left the control disabled, hidden or on a released form.
+// The press: moves the focus where the control takes it. False when the click must not follow, because a modal form
+// keeps the input from this one, or the move raised a message or left the control disabled, hidden or on a released
+// form.
 bool Press(Control& control);
 // The focus goes to the control; false as with Press.
 bool MoveFocus(Control& control);
@@ -17,6 +18,9 @@ void Activate(Control& control);
 void SelectRow(Control& list, int index);  // in the control's own numbers
 void PressToolButton(Toolbar& toolbar, const String& key);
 void ScrollTo(VScrollBar& bar, int value, bool dragging);
+// The wheel has turned over the control, in 120ths of a notch, positive away from the person: the bar that it is, or
+// that of the nearest viewport around it, goes by three small changes a notch. False: a control that scrolls by itself.
+bool Wheel(Control& control, int by);
 void Tick(Timer& timer);
 void CloseForm(Form& form);
 

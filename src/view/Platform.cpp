@@ -33,7 +33,8 @@ class ModalCall {
   Form* const form_;
 };
 
-// A message box or a modal form inside a handler: handlers that run meanwhile bring their own changes to the screen.
+// A message box, a modal form or a host's help inside a handler: handlers that run meanwhile bring their own changes to
+// the screen.
 class FreshHandlers {
  public:
   explicit FreshHandlers(int& depth) : depth_(depth), outside_(std::exchange(depth, 0)) {}
@@ -59,7 +60,11 @@ Platform::~Platform() = default;
 void Platform::Created(Form& form) { forms_.push_back(&form); }
 
 void Platform::Show(Form& form) {
-  if (form.Visible || form.Released) return;
+  if (form.Released) return;
+  if (form.Visible) {  // behind another one perhaps, which is gone now
+    if (!IsBlocked(form)) toolkit_->Show(form, ShowingOf(form));
+    return;
+  }
   form.Visible = true;
   Remove(shownOrder_, &form);
   shownOrder_.push_back(&form);
@@ -67,7 +72,7 @@ void Platform::Show(Form& form) {
   form.Activate();
   if (Trace.Shown) Trace.Shown(form, false);
   SyncAll();
-  toolkit_->Show(form, IsModal(form));
+  toolkit_->Show(form, ShowingOf(form));
 }
 
 void Platform::ShowModal(Form& form) {
@@ -81,7 +86,7 @@ void Platform::ShowModal(Form& form) {
   form.Activate();
   if (hidden && Trace.Shown) Trace.Shown(form, true);
   SyncAll();
-  toolkit_->Show(form, true);
+  toolkit_->Show(form, Showing::Modal);
   const FreshHandlers fresh(HandlerDepth);
   toolkit_->RunModal(form);
 }
@@ -107,6 +112,15 @@ void Platform::Release(Form& form) {
 
 bool Platform::IsModal(const Form& form) const {
   return std::find(modal_.begin(), modal_.end(), &form) != modal_.end();
+}
+
+bool Platform::IsBlocked(const Form& form) const {
+  if (IsModal(form)) return ActiveForm() != &form;
+  return std::any_of(modal_.begin(), modal_.end(), [](const Form* other) { return !other->Released; });
+}
+
+Showing Platform::ShowingOf(const Form& form) const {
+  return IsBlocked(form) ? Showing::Blocked : IsModal(form) ? Showing::Modal : Showing::Modeless;
 }
 
 Form* Platform::ActiveForm() const {
@@ -137,7 +151,13 @@ void Platform::SetPointer(int pointer) {
 
 void Platform::Help(Form& form, const String& path, int command, int context) {
   if (Trace.Help) Trace.Help(path, command, context);
-  toolkit_->Help(form, path, command, context);
+  SyncAll();
+  const FreshHandlers fresh(HandlerDepth);  // it may show a window and wait
+  const HelpOperation help = HostsHelp;     // it may set another one
+  if (help)
+    help(toolkit_->WindowOf(form), path, command, context);
+  else
+    toolkit_->Help(form, path, command, context);
 }
 
 void Platform::SetFocus(Control& control) {

@@ -5,18 +5,23 @@
 #include "view/Drag.h"
 #include "view/Form.h"
 
+#include <tarnwise/Help.h>
+
 #include <functional>
 #include <memory>
 #include <vector>
 
 namespace Tarnwise {
 
+// How a form comes to the screen. Blocked: it is seen, behind the form that takes the input, and takes none itself.
+enum class Showing { Modeless, Modal, Blocked };
+
 // One way of bringing forms to a screen. All calls come on the thread of the forms.
 class Toolkit {
  public:
   virtual ~Toolkit() = default;
 
-  virtual void Show(Form& form, bool modal) = 0;
+  virtual void Show(Form& form, Showing how) = 0;  // one that is shown already comes to the front
   virtual void Hide(Form& form) = 0;
   virtual void Release(Form& form) = 0;                // drop the window; the form itself may live on
   virtual void ControlUnloaded(Control& control) = 0;  // an element of a control array goes
@@ -26,7 +31,9 @@ class Toolkit {
   virtual void MessageBox(Form* over, const String& text, int style, const String& title) = 0;
   virtual void Beep() = 0;
   virtual void SetPointer(int pointer) = 0;
-  virtual void Help(Form& form, const String& path, int command, int context) = 0;
+  virtual void Help(Form& form, const String& path, int command,
+                    int context) = 0;  // where the host has no way of its own
+  virtual WindowHandle WindowOf(const Form& form) = 0;
   virtual void Focus(Control& control) = 0;           // the tree's focus has gone there
   virtual void AnnounceChange(Control& control) = 0;  // a verdict changed: tell a screen reader
   virtual Single TextWidth(const String& text) = 0;   // twips, in a grid's font
@@ -63,6 +70,7 @@ class Platform {
 
   const std::vector<Form*>& Forms() const { return forms_; }  // in the order in which they were created
   bool IsModal(const Form& form) const;                       // its modal call is running
+  bool IsBlocked(const Form& form) const;                     // another form's modal call keeps the input from it
   Form* ActiveForm() const;  // the one that takes input: the innermost visible modal one, else the last one shown
 
   void MessageBox(const String& text, int style, const String& title);
@@ -86,6 +94,7 @@ class Platform {
   Toolkit& Tools() { return *toolkit_; }
 
   PlatformTrace Trace;
+  HelpOperation HostsHelp;  // in place of the toolkit's; see SetHelp
 
   // The drag that is under way, if any (view/Drag.h).
   DragSession Drag;
@@ -93,8 +102,11 @@ class Platform {
   // Bookkeeping of view/Dispatch.h and view/Input.h.
   int HandlerDepth = 0;
   int LosingFocus = 0;
+  int WheelTurned = 0;  // what is not enough for a step yet
 
  private:
+  Showing ShowingOf(const Form& form) const;
+
   std::shared_ptr<Toolkit> toolkit_;
   std::vector<Form*> forms_;
   std::vector<Form*> shownOrder_;

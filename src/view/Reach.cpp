@@ -40,6 +40,18 @@ Control* TargetIn(const Form& form, const Control& container, FormPoint at, bool
   return nullptr;
 }
 
+// What has a place in the tab order, in that order.
+std::vector<Control*> TabStops(const Form& form) {
+  std::vector<Control*> stops;
+  for (Control* control : form.Controls()) {
+    if (control->TabIndex >= 0 && TakesTab(*control)) stops.push_back(control);
+  }
+  std::stable_sort(stops.begin(), stops.end(), [](const Control* a, const Control* b) {
+    return a->TabIndex != b->TabIndex ? a->TabIndex < b->TabIndex : a->Index < b->Index;
+  });
+  return stops;
+}
+
 }  // namespace
 
 Double UnitOf(const Control& container) {
@@ -154,10 +166,9 @@ bool AnswersKeys(const Control& control) {
 }
 
 Control* LabelledBy(const Label& label) {
-  bool behind = false;
-  for (Control* control : label.Owner.Controls()) {
-    if (behind && control->Parent == label.Parent && control->TabIndex >= 0 && TakesFocus(*control)) return control;
-    if (control == &label) behind = true;
+  if (label.TabIndex < 0) return nullptr;
+  for (Control* stop : TabStops(label.Owner)) {
+    if (stop->TabIndex >= label.TabIndex) return stop;
   }
   return nullptr;
 }
@@ -165,7 +176,7 @@ Control* LabelledBy(const Label& label) {
 String Refusal(const Control& control) {
   const Form& form = control.Owner;
   if (!IsOnScreen(control)) return "hidden";
-  if (form.Screen().ActiveForm() != &form) return "blocked by a modal form";
+  if (form.Screen().IsBlocked(form) || form.Screen().ActiveForm() != &form) return "blocked by a modal form";
   if (!IsUsable(control)) return "disabled";
   if (IsCovered(control)) return "covered";
   return {};
@@ -200,13 +211,7 @@ std::vector<Control*> ChildrenOf(const Form& form, const Control* container) {
 }
 
 Control* NextInTabOrder(const Form& form, bool back) {
-  std::vector<Control*> stops;
-  for (Control* control : form.Controls()) {
-    if (control->TabIndex >= 0 && TakesTab(*control)) stops.push_back(control);
-  }
-  std::stable_sort(stops.begin(), stops.end(), [](const Control* a, const Control* b) {
-    return a->TabIndex != b->TabIndex ? a->TabIndex < b->TabIndex : a->Index < b->Index;
-  });
+  std::vector<Control*> stops = TabStops(form);
   if (back) std::reverse(stops.begin(), stops.end());
   const auto present = std::find(stops.begin(), stops.end(), form.ActiveControl);
   if (present != stops.end()) std::rotate(stops.begin(), std::next(present), stops.end());

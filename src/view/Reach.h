@@ -53,7 +53,8 @@ bool HasCaption(const Control& control);
 bool HasRows(const Control& control);
 bool AnswersKeys(const Control& control);
 
-// The control that a label's mnemonic goes to: the first one behind it in the same container. Null when there is none.
+// The control that a label's mnemonic leads to: the next one in the tab order, in which a label stands in front of the
+// control with its own number. Null when there is none, or when the label has no place in that order.
 Control* LabelledBy(const Label& label);
 
 // Why a person can't act on the control now: "hidden", "disabled", "covered", "blocked by a modal form"; empty: can.

@@ -1,9 +1,12 @@
 #include <tarnwise/TRN_DEA.h>
 
 #include "model/ModelFile.h"
+#include "view/Platform.h"
 #include "wizard/Wizard.h"
 
 namespace Tarnwise {
+
+void SetHelp(Platform& screen, HelpOperation help) { screen.HostsHelp = std::move(help); }
 
 VariantArray OrientationsOf(const VariantArray& ALX, const VariantArray& ALY, const VariantArray& AUX,
                             const VariantArray& AUY) {

@@ -26,6 +26,7 @@ const char* TypeName(VARTYPE type) {
   switch (type) {
     case VT_EMPTY: return "EMPTY";
     case VT_I2: return "I2";
+    case VT_I4: return "I4";
     case VT_R4: return "R4";
     case VT_R8: return "R8";
     case VT_BOOL: return "BOOL";
@@ -76,6 +77,10 @@ ComRef<IClassFactory> Factory() {
 }
 
 HRESULT CanUnloadNow() { return Entry<HRESULT(STDAPICALLTYPE*)()>("DllCanUnloadNow")(); }
+
+HRESULT CallSetHelp(IUnknown* wizard, IDispatch* handler) {
+  return Entry<HRESULT(STDAPICALLTYPE*)(IUnknown*, IDispatch*)>("TarnwiseSetHelp")(wizard, handler);
+}
 
 String Described(const VARIANT& value) {
   if (value.vt == (VT_BYREF | VT_VARIANT)) return "&VARIANT " + Described(*value.pvarVal);

@@ -19,6 +19,7 @@ inline constexpr const wchar_t* kDll = L"Tarnwise_DEA.dll";
 // The module; it stays loaded until the end.
 ComRef<IClassFactory> Factory();
 HRESULT CanUnloadNow();
+HRESULT CallSetHelp(IUnknown* wizard, IDispatch* handler);  // the function that the module exports
 std::wstring DllPath();
 
 // A value in words: "I2 3", "BSTR DEA_DIRECT", "&VARIANT R8 1.5", "&[0..1] R8 1; R8 0.5".

@@ -19,10 +19,9 @@ ComRef<T> As(IUnknown* object, REFIID iid) {
 
 TEST(Object, HasOneIdentityByWhicheverInterface) {
   const Client client(ModelOf(1, 1));
-  const IID iids[] = {IID_IUnknown,           IID_IDispatch,
-                      IID__TRN_DEA,           IID_ISupportErrorInfo,
-                      IID_IProvideClassInfo,  IID_IConnectionPointContainer,
-                      IID_IProvideClassInfo2, IID_ITarnwisePlayerAccess};
+  const IID iids[] = {IID_IUnknown,           IID_IDispatch,         IID__TRN_DEA,
+                      IID_ISupportErrorInfo,  IID_IProvideClassInfo, IID_IConnectionPointContainer,
+                      IID_IProvideClassInfo2, IID_ITarnwiseHelp,     IID_ITarnwisePlayerAccess};
   const ComRef<IUnknown> identity = As<IUnknown>(client.Object.Get(), IID_IUnknown);
   for (const IID& from : iids) {
     const ComRef<IUnknown> first = As<IUnknown>(client.Object.Get(), from);
@@ -107,6 +106,7 @@ TEST(Object, SpeaksOfErrorInformationForItsOwnInterface) {
   const Client client(ModelOf(1, 1));
   const auto support = As<ISupportErrorInfo>(client.Object.Get(), IID_ISupportErrorInfo);
   EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID__TRN_DEA), S_OK);
+  EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID_ITarnwiseHelp), S_OK);
   EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID_IStream), S_FALSE);
 }
 

@@ -1,5 +1,7 @@
 // Dragging the handles, the verdict's lights, and their blinking.
 #include "direct/Ward.h"
+#include "direct/frmDirectB.h"
+#include "support/TestHost.h"
 
 #include <gtest/gtest.h>
 
@@ -60,6 +62,24 @@ TEST(Dragging, FromTheFormToTheChartLeavesTheNoDropPointerOfTheForm) {
   EXPECT_EQ(
       Ward().Ask("grab picHandle(0)\nover frmDirectB 10 10\nover picTradeOffsRange\nget picHandle(0).MousePointer"),
       Lines{"12"});
+}
+
+TEST(Dragging, SaysOfTheChartAloneThatItTakesAHandleWhereverItComesFrom) {
+  OpenForm<frmDirectB> step(RankedData(WardRanks(), 0, 3));
+  step.Open();
+  DragSession& drag = step.Screen->Drag;
+  const auto taken = [&drag](Control& target) {
+    drag.Over(target, 20.0F, 20.0F);
+    return drag.WouldBeTaken();
+  };
+  drag.Begin(step.Form->Chart.picHandle[0]);
+  EXPECT_TRUE(taken(step.Form->Chart.picTradeOffsRange));
+  EXPECT_FALSE(taken(step.Form->picPanel[0]));
+  EXPECT_FALSE(taken(*step.Form));
+  EXPECT_TRUE(taken(step.Form->Chart.picTradeOffsRange));
+  EXPECT_EQ(step.Form->Chart.picHandle[0].MousePointer(), 12) << "the rule's value stays as it is";
+  EXPECT_EQ(drag.Icon(), "") << "the handle itself is seen";
+  drag.Cancel();
 }
 
 TEST(Dragging, AcrossTheOtherHandleKeepsTheSmallerSlopeInTheLowerBox) {

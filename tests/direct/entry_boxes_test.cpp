@@ -1,5 +1,8 @@
 // Typing an interval: which keys pass, what is checked, and where the handles go.
 #include "direct/Ward.h"
+#include "direct/frmDirectB.h"
+#include "support/TestHost.h"
+#include "view/Input.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +72,21 @@ TEST(EntryKeys, WithShiftPassButForInsert) {
   EXPECT_EQ(Ward().Ask(InEmptied("txtWRLower") + "type 1.3\nkey Shift+Left\nget txtWRLower.SelStart\n"
                                                  "key Shift+Insert\nget txtWRLower.Text"),
             (Lines{"2", R"("1.3")"}));
+}
+
+TEST(EntryKeys, DropInsertWithShiftWhateverElseIsHeld) {
+  OpenForm<frmDirectB> step(RankedData(WardRanks(), 0, 3));
+  step.Open();
+  for (TextBox* const box : {&step.Form->txtWRLower, &step.Form->txtWRUpper}) {
+    for (const int shift : {1, 3, 5, 7}) {
+      KeyEvent key{45, shift};
+      EXPECT_FALSE(Input::KeyDown(*box, key)) << shift;
+    }
+    for (const int shift : {0, 2, 4, 6}) {
+      KeyEvent key{45, shift};
+      EXPECT_TRUE(Input::KeyDown(*box, key)) << shift;
+    }
+  }
 }
 
 TEST(LeavingABox, AppliesAPassedValueToItsHandle) {

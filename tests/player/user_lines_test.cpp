@@ -284,6 +284,14 @@ TEST(Close, IsTheCancelOfTheActiveForm) {
   EXPECT_EQ(Ordering("close")[0], R"({"event":"UnloadTarnwise","fIndex":3,"WeightsDone":false})");
 }
 
+TEST(HostShow, InALaterStepShowsTheFirstWhichStaysBlocked) {
+  EXPECT_EQ(Ordering("host show\nclick frmTRNSelMethod.cmdNext\nforms"),
+            (Lines{R"({"show":"frmTRNSelMethod","modal":false})",
+                   R"({"refused":"frmTRNSelMethod.cmdNext: blocked by a modal form","line":7})",
+                   R"({"forms":[{"name":"frmTRNSelMethod","visible":true,"modal":false},)"
+                   R"({"name":"frmIniImpOrder","visible":true,"modal":true}]})"}));
+}
+
 TEST(Press, NeedsAToolbar) { EXPECT_EQ(Why(Ward().Play("press cmdEnter up")), "cmdEnter: is no toolbar"); }
 
 TEST(Dump, ListsEveryControlOfAFormWithItsProperties) {

@@ -369,6 +369,43 @@ TEST(DragIcons, NameTheAlternativeInTheHostsFolder) {
   step.Screen->Drag.Cancel();
 }
 
+TEST(DragIcons, ShowWhichOneIsDraggedOutsideTheChartToo) {
+  TradeOffStep step(Ward());
+  DragSession& drag = step.Screen->Drag;
+  for (const bool a : {true, false}) {
+    PictureBox& mark = a ? step.Form->Chart.shpPCA : step.Form->Chart.shpPCB;
+    mark.DragIcon = "";
+    drag.Begin(mark);
+    EXPECT_EQ(drag.Icon(), a ? "drag.A" : "drag.B") << "before it has been over the chart";
+    drag.Over(step.Form->Chart.picTradeOffsRange, 20.0F, 20.0F);
+    const String inside = a ? "C:/KESTA\\adrag.ico" : "C:/KESTA\\bdrag.ico";
+    EXPECT_EQ(drag.Icon(), inside);
+    drag.OverNothing();
+    EXPECT_EQ(mark.DragIcon(), "") << "the rule's value stays as it is";
+    EXPECT_EQ(drag.Icon(), inside);
+    drag.Cancel();
+  }
+}
+
+TEST(DragPointer, SaysThatThePlotAndTheMarksTakeADrop) {
+  TradeOffStep step(Ward());
+  step.MoveA(60, 40);
+  step.MoveB(40, 80);
+  DragSession& drag = step.Screen->Drag;
+  drag.Begin(step.Form->Chart.shpPCA);
+  const auto taken = [&drag](Control& target) {
+    drag.Over(target, 20.0F, 20.0F);
+    return drag.WouldBeTaken();
+  };
+  EXPECT_TRUE(taken(step.Form->Chart.picTradeOffsRange));
+  EXPECT_TRUE(taken(step.Form->Chart.shpPCA));
+  EXPECT_TRUE(taken(step.Form->Chart.shpPCB));
+  EXPECT_FALSE(taken(step.Form->Chart.picPCGraph)) << "beside the plot it beeps";
+  drag.OverNothing();
+  EXPECT_FALSE(drag.WouldBeTaken());
+  drag.Cancel();
+}
+
 // A scale without length.
 
 TEST(ScaleWithoutLength, IsARuntimeErrorWhereThePairIsShownAndTheWizardLives) {

@@ -88,9 +88,11 @@ TEST(ScoreKeys, CharactersBelowTheBlankPass) {
 TEST(ScoreKeys, PasteKeysAreDropped) {
   ScoreStep step;
   TextBox& box = step.Box(1);
-  KeyEvent insert{45, 1};
-  box.KeyDown(insert);
-  EXPECT_EQ(insert.Code, 0);
+  for (const int shift : {1, 3, 5, 7}) {
+    KeyEvent insert{45, shift};
+    box.KeyDown(insert);
+    EXPECT_EQ(insert.Code, 0) << shift << ", whatever else is held";
+  }
   KeyEvent paste{22, 2};
   box.KeyPress(paste);
   EXPECT_EQ(paste.Code, 0);

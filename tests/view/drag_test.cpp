@@ -88,6 +88,66 @@ TEST(Drag, GivesThePointInTheScaleOfItsTarget) {
   EXPECT_EQ(bench.Notes[0], "picChart enter picHandle(0) 100,50");
 }
 
+TEST(Drag, SaysWhetherADropWouldBeTakenWhereThePointerStands) {
+  Dragging bench;
+  BenchForm& form = *bench.On;
+  form.lblText.DragOver = [](Control&, Single, Single, DragState) {};
+  DragSession& drag = bench.Drag();
+  EXPECT_FALSE(drag.WouldBeTaken());
+  drag.Begin(form.cmdSource);
+  EXPECT_FALSE(drag.WouldBeTaken()) << "over nothing yet";
+  form.cmdSource.MousePointer = 12;
+  drag.Over(form.picRow[0], 10, 20);
+  EXPECT_TRUE(drag.WouldBeTaken()) << "whatever shape the source has for the moment";
+  form.cmdSource.MousePointer = 0;
+  drag.Over(form.lblText, 10, 20);
+  EXPECT_FALSE(drag.WouldBeTaken()) << "it is told of drags and takes none";
+  form.picRow[1].AcceptsDrop = [](const Control& source) { return source.Name == "cmdGo"; };
+  drag.Over(form.picRow[1], 10, 20);
+  EXPECT_FALSE(drag.WouldBeTaken()) << "refused by silence";
+  drag.Cancel();
+  drag.Begin(form.cmdGo);
+  drag.Over(form.picRow[1], 10, 20);
+  EXPECT_TRUE(drag.WouldBeTaken());
+  drag.OverNothing();
+  EXPECT_FALSE(drag.WouldBeTaken());
+  drag.Cancel();
+}
+
+TEST(Drag, KeepsThePictureThatTheSourceHadLast) {
+  Dragging bench;
+  BenchForm& form = *bench.On;
+  PictureBox& mark = form.picHandle[0];
+  form.picRow[0].DragOver = [](Control& source, Single, Single, DragState state) {
+    source.DragIcon = state == DragState::Leave ? "" : "KESTA\\adrag.ico";
+  };
+  DragSession& drag = bench.Drag();
+  drag.Begin(mark);
+  EXPECT_EQ(drag.Icon(), "") << "none of its own";
+  drag.Over(form.picRow[0], 10, 20);
+  drag.OverNothing();
+  EXPECT_EQ(mark.DragIcon(), "");
+  EXPECT_EQ(drag.Icon(), "KESTA\\adrag.ico");
+  drag.Cancel();
+  mark.Picture = "drag.A";
+  drag.Begin(mark);
+  EXPECT_EQ(drag.Icon(), "drag.A") << "not the one of the drag before";
+  drag.Cancel();
+  drag.Begin(form.cmdSource);
+  EXPECT_EQ(drag.Icon(), "") << "nor that of another source";
+  drag.Cancel();
+}
+
+TEST(Drag, LeavesNoShapeOfThePointerBehind) {
+  Bench bench;
+  bench.On->cmdSource.MousePointer = 12;
+  EXPECT_EQ(PointerOver(bench.On->cmdSource), 0);
+  bench.On->cmdSource.MousePointer = 11;
+  EXPECT_EQ(PointerOver(bench.On->cmdSource), 11);
+  bench.On->cmdGo.MousePointer = 12;
+  EXPECT_EQ(PointerOver(bench.On->cmdGo), 12) << "what can't be dragged means it";
+}
+
 TEST(DragTarget, IsTheTopmostThatTakesDragsUnderThePointer) {
   Dragging bench;
   const Rect row = PlaceOnForm(bench.On->picRow[0]);

@@ -78,22 +78,35 @@ TEST(Kinds, OfWhichTheNativeControlFollowsTheMouseACaptionIsCutARowIsPressedOrKe
   EXPECT_FALSE(HasRows(box));
 }
 
-TEST(Mnemonic, OfALabelGoesToTheNextControlBesideItThatTakesTheFocus) {
+TEST(Mnemonic, OfALabelLeadsToTheNextControlInTheTabOrder) {
   Bench bench;
   BenchForm& form = *bench.On;
+  TextBox before(form, &form.picPanel[0], "before");
   Label label(form, &form.picPanel[0], "label");
-  EXPECT_EQ(LabelledBy(label), nullptr) << "those in front of it are not meant";
-  TextBox elsewhere(form, &form.picPanel[1], "elsewhere");
-  const Label other(form, &form.picPanel[0], "other");
-  TextBox untabbed(form, &form.picPanel[0], "untabbed");
-  untabbed.TabIndex = -1;
-  elsewhere.TabIndex = 20;
-  EXPECT_EQ(LabelledBy(label), nullptr);
-  TextBox meant(form, &form.picPanel[0], "meant");
   TextBox later(form, &form.picPanel[0], "later");
-  meant.TabIndex = 22;
-  later.TabIndex = 21;
-  EXPECT_EQ(LabelledBy(label), &meant);
+  TextBox meant(form, &form.picPanel[1], "meant");
+  Label another(form, &form.picPanel[0], "another");
+  before.TabIndex = 20;
+  label.TabIndex = 21;
+  another.TabIndex = 22;
+  meant.TabIndex = 23;
+  later.TabIndex = 24;
+  EXPECT_EQ(LabelledBy(label), &meant) << "neither the next one made, nor one of its own container, nor a label";
+  meant.TabIndex = 21;
+  EXPECT_EQ(LabelledBy(label), &meant) << "a label stands in front of the control with its own number";
+  before.TabIndex = 30;
+  meant.TabIndex = later.TabIndex = 19;
+  EXPECT_EQ(LabelledBy(label), &before) << "though it was made first";
+}
+
+TEST(Mnemonic, OfALabelWithoutAPlaceInTheTabOrderOrAtItsEndLeadsNowhere) {
+  Bench bench;
+  Label label(*bench.On, &bench.On->picPanel[0], "label");
+  TextBox behind(*bench.On, &bench.On->picPanel[0], "behind");
+  behind.TabIndex = 30;
+  EXPECT_EQ(LabelledBy(label), nullptr);
+  label.TabIndex = 31;
+  EXPECT_EQ(LabelledBy(label), nullptr);
 }
 
 TEST(Refusal, SaysWhyAPersonCannot) {
@@ -222,7 +235,10 @@ TEST(ModalCall, OfAFormThatIsVisibleAlreadyBlocksAndTellsOfNoShowing) {
 
 struct Watching : HeadlessToolkit {
   Lines Calls;
-  void Show(Form& form, bool modal) override { Calls.push_back("show " + form.Name + (modal ? " modal" : "")); }
+  void Show(Form& form, Showing how) override {
+    const char* const words[] = {"", " modal", " blocked"};
+    Calls.push_back("show " + form.Name + words[static_cast<int>(how)]);
+  }
   void Hide(Form& form) override { Calls.push_back("hide " + form.Name); }
   void Release(Form& form) override { Calls.push_back("release " + form.Name); }
 };
@@ -236,6 +252,42 @@ TEST(Showing, HidingAndReleasingReachTheToolkit) {
   screen->Hide(*form);
   screen->Release(*form);
   EXPECT_EQ(tools->Calls, (Lines{"show frmBench", "hide frmBench", "release frmBench"}));
+}
+
+// A form that a host shows while another one's modal call runs.
+TEST(Showing, BehindAModalFormIsBlockedUntilThatOneIsThrough) {
+  const auto tools = std::make_shared<Watching>();
+  const auto screen = std::make_shared<Platform>(tools);
+  const auto first = std::make_shared<BenchForm>(screen);
+  const auto later = std::make_shared<BenchForm>(screen);
+  String log;
+  first->cmdGo.Click = [&log] { log += "click "; };
+  for (const auto& form : {first, later}) screen->Created(*form);
+  bool asked = false;
+  tools->Pump = [&] {
+    tools->Calls.clear();
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls, Lines{"show frmBench blocked"});
+    EXPECT_TRUE(first->Visible);
+    EXPECT_TRUE(screen->IsBlocked(*first));
+    EXPECT_FALSE(screen->IsBlocked(*later));
+    EXPECT_EQ(screen->ActiveForm(), later.get());
+    EXPECT_FALSE(Input::Press(first->cmdGo));
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls.size(), 1U) << "shown again it stays where it is";
+    screen->Hide(*later);
+    EXPECT_FALSE(Input::Press(first->cmdGo)) << "its call has not returned, and may go on with another form";
+    screen->Release(*later);
+    tools->Calls.clear();
+    screen->Show(*first);
+    EXPECT_EQ(tools->Calls, Lines{"show frmBench"}) << "it comes to the front";
+    EXPECT_TRUE(Input::Press(first->cmdGo));
+    return asked = true;
+  };
+  screen->ShowModal(*later);
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(screen->IsBlocked(*first));
+  screen->Release(*first);
 }
 
 TEST(Showing, AVisibleFormAgainOrHidingAHiddenOneTellsNothing) {

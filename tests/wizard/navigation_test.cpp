@@ -1,5 +1,5 @@
 // The way through the wizard: which forms are shown, hidden and released, and in which order.
-#include "Places.h"
+#include "Navigating.h"
 
 namespace Tarnwise {
 namespace {
@@ -8,36 +8,6 @@ constexpr const char* kSaysMethod = "say Select a method to make value judgments
 constexpr const char* kSaysOrder = "say Rank the attributes according to their relative importance.";
 constexpr const char* kSaysDirect = "say  Indicate a value reference region on the two selected attributes.";
 constexpr const char* kSaysTradeOffs = "say  Give your preference between the two selected criteria.";
-
-// Forms and events, without the pointer and the focus.
-Lines Moves(const Lines& notes) {
-  Lines moves;
-  for (const String& note : notes) {
-    if (!note.starts_with("pointer") && !note.starts_with("focus")) moves.push_back(note);
-  }
-  return moves;
-}
-
-VariantArray Zeros() { return VariantArray(4, Variant(0.0)); }
-
-struct Navigation : Wizarding {
-  explicit Navigation(const WizardData& model = Model()) : Wizarding(model) {
-    Load();
-    const VariantArray zeros = Zeros();
-    Wizard->TranferABCoordinates(zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros, zeros);
-    TakeNotes();
-  }
-
-  // What one click does, at the place that the steps lead to.
-  Lines MovesOf(Steps steps, const Steps& then) {
-    steps.push_back([this] { TakeNotes(); });
-    Lines moves;
-    steps.insert(steps.end(), then.begin(), then.end());
-    steps.push_back([this, &moves] { moves = Moves(Notes); });
-    Run(steps);
-    return moves;
-  }
-};
 
 TEST(Navigation, NextOfTheFirstStepHidesItAndShowsTheOrderingStepModally) {
   Navigation n;
@@ -242,27 +212,6 @@ TEST(Finish, OfTheTradeOffStepHandsOverFreshPointsWithTheHostsOrientation) {
                                                   },
                                                   n.Clicks("cmdFinish")}));
   EXPECT_EQ(mdTRNMain().ABPoints2[1].AX, 11.0F) << "the arrays are fresh ones";
-}
-
-TEST(Help, OfEveryStepOpensTheSamePage) {
-  Navigation n;
-  const Lines page = {"help C:/KESTA\\KESTA.HLP 1 4005025"};
-  int places = 0;
-  Steps steps = {n.Shows()};
-  const auto ask = [&] {
-    n.TakeNotes();
-    n.Click("cmdHelp");
-    EXPECT_EQ(n.Notes, page) << n.Active();
-    ++places;
-  };
-  steps.push_back(ask);
-  const Steps way = n.ToJudgments();
-  for (std::size_t i = 1; i < way.size(); ++i) {
-    steps.push_back(way[i]);
-    if (i == 1 || i + 1 == way.size()) steps.push_back(ask);
-  }
-  n.Run(steps);
-  EXPECT_EQ(places, 3);
 }
 
 TEST(Session, PrintsTheRoadThroughTheDirectApproach) {

@@ -12,7 +12,7 @@ constexpr Single kTwipsPerCharacter = 90.0F;
 
 }  // namespace
 
-void HeadlessToolkit::Show(Form& /*form*/, bool /*modal*/) {}
+void HeadlessToolkit::Show(Form& /*form*/, Showing /*how*/) {}
 void HeadlessToolkit::Hide(Form& /*form*/) {}
 void HeadlessToolkit::Release(Form& /*form*/) {}
 void HeadlessToolkit::ControlUnloaded(Control& /*control*/) {}
@@ -27,6 +27,7 @@ void HeadlessToolkit::MessageBox(Form* /*over*/, const String& /*text*/, int /*s
 void HeadlessToolkit::Beep() {}
 void HeadlessToolkit::SetPointer(int /*pointer*/) {}
 void HeadlessToolkit::Help(Form& /*form*/, const String& /*path*/, int /*command*/, int /*context*/) {}
+WindowHandle HeadlessToolkit::WindowOf(const Form& /*form*/) { return 0; }
 void HeadlessToolkit::Focus(Control& /*control*/) {}
 void HeadlessToolkit::AnnounceChange(Control& /*control*/) {}
 

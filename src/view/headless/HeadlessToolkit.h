@@ -10,7 +10,7 @@ class HeadlessToolkit : public Toolkit {
   // Does the next thing that a user would do while a modal form is up; false when nothing comes any more.
   std::function<bool()> Pump;
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;
@@ -20,6 +20,7 @@ class HeadlessToolkit : public Toolkit {
   void Beep() override;
   void SetPointer(int pointer) override;
   void Help(Form& form, const String& path, int command, int context) override;
+  WindowHandle WindowOf(const Form& form) override;
   void Focus(Control& control) override;
   void AnnounceChange(Control& control) override;
   Single TextWidth(const String& text) override;

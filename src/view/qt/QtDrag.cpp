@@ -17,7 +17,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kForbidden = 12;
 constexpr int kIconSide = 28;  // pixels, of the picture that stands for a mark
 constexpr double kOpacity = 0.7;
 constexpr double kTwips = 15.0;  // in a pixel
@@ -105,10 +104,10 @@ void QtDrag::Show(QtForm& form) {
   Follow(form, QPointF(at.X, at.Y) / kTwips);
 }
 
-QPixmap QtDrag::PictureOf(QtForm& form, const Control& source) {
-  const double ratio = form.Window().devicePixelRatioF();
-  if (!source.DragIcon().empty()) {
-    const QPixmap icon = IconOf(source.DragIcon, ratio);
+QPixmap QtDrag::PictureOf(QtForm& form, const DragSession& drag) {
+  const Control& source = *drag.Source();
+  if (!drag.Icon().empty()) {
+    const QPixmap icon = IconOf(drag.Icon(), form.Window().devicePixelRatioF());
     if (!icon.isNull()) return icon;
   }
   // What the handlers move themselves needs no second picture.
@@ -123,11 +122,10 @@ void QtDrag::Follow(QtForm& form, const QPointF& inWindow) {
     Clear();
     return;
   }
-  const Control& source = *drag.Source();
-  const String looks = source.FullName() + "|" + source.DragIcon();
+  const String looks = drag.Source()->FullName() + "|" + drag.Icon();
   auto* ghost = static_cast<QLabel*>(ghost_.data());
   if (ghost == nullptr || ghostOf_ != looks) {
-    const QPixmap picture = PictureOf(form, source);
+    const QPixmap picture = PictureOf(form, drag);
     if (ghost == nullptr) ghost = new QLabel(&form.Window());
     ghost->setAttribute(Qt::WA_TransparentForMouseEvents);
     ghost->setPixmap(picture);
@@ -136,15 +134,16 @@ void QtDrag::Follow(QtForm& form, const QPointF& inWindow) {
     ghost_ = ghost;
     ghostOf_ = looks;
   }
-  ghost->move((inWindow - QPointF(ghost->width() / 2.0, ghost->height() / 2.0)).toPoint());
+  const bool beside = on_ && !drag.Icon().empty();
+  const QPointF corner =
+      beside ? QPointF(kIconBesidePointer, kIconBesidePointer) : QPointF(-ghost->width() / 2.0, -ghost->height() / 2.0);
+  ghost->move((inWindow + corner).toPoint());
   ghost->raise();
-  if (on_) SetCursor(source.MousePointer, drag.Target() != nullptr);
+  if (on_) SetCursor(drag.WouldBeTaken());
 }
 
-void QtDrag::SetCursor(int mousePointer, bool overTarget) {
-  const Qt::CursorShape shape = mousePointer == kForbidden || !overTarget ? Qt::ForbiddenCursor
-                                : mousePointer == 0                       ? Qt::ClosedHandCursor
-                                                                          : CursorFor(mousePointer);
+void QtDrag::SetCursor(bool taken) {
+  const Qt::CursorShape shape = taken ? Qt::ClosedHandCursor : CursorFor(kNoDrop);
   if (pointed_)
     QApplication::changeOverrideCursor(shape);
   else

@@ -30,8 +30,8 @@ class QtDrag {
 
  private:
   void Follow(QtForm& form, const QPointF& inWindow);
-  QPixmap PictureOf(QtForm& form, const Control& source);
-  void SetCursor(int mousePointer, bool overTarget);
+  QPixmap PictureOf(QtForm& form, const DragSession& drag);
+  void SetCursor(bool taken);
   bool End(void (DragSession::*how)());
   void Clear();
 

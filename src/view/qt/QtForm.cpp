@@ -50,11 +50,12 @@ void SetName(QWidget& widget, const Control& control) {
 }
 
 void SetCursorOf(QWidget& widget, const Control& control) {
-  if (control.MousePointer == 0 && !control.DragAutomatic) {
+  const int pointer = PointerOver(control);
+  if (pointer == 0 && !control.DragAutomatic) {
     if (widget.testAttribute(Qt::WA_SetCursor) && control.Type != Kind::TextBox) widget.unsetCursor();
     return;
   }
-  const Qt::CursorShape shape = control.MousePointer == 0 ? Qt::OpenHandCursor : CursorFor(control.MousePointer);
+  const Qt::CursorShape shape = pointer == 0 ? Qt::OpenHandCursor : CursorFor(pointer);
   if (widget.cursor().shape() != shape) widget.setCursor(shape);
 }
 

@@ -14,6 +14,7 @@
 
 class QKeyEvent;
 class QMouseEvent;
+class QShortcutEvent;
 class QWheelEvent;
 
 namespace Tarnwise {
@@ -50,10 +51,11 @@ class QtForm : public QObject {
   void Release();
 
   // What widgets tell, all of it by a person's hand.
-  void Clicked(QWidget& widget);             // a button's release or its mnemonic
+  void Clicked(QWidget& widget);             // a button's release, or a screen reader's press
   void RowChosen(QWidget& widget, int row);  // in the control's own numbers
   void ToolPressed(QWidget& widget, const String& key);
   void Scrolled(QWidget& widget, int value, bool dragging);
+  void TextCame(const QWidget& widget);  // into a box, by none of its keys
   void CloseWanted();
   void Ticked(const Control& timer);
 
@@ -71,13 +73,14 @@ class QtForm : public QObject {
 
   bool Press(const QObject& object, Control& control, const QMouseEvent& event);
   bool Move(const QObject& object, const QMouseEvent& event);
-  bool LetGo(QObject& object, QMouseEvent& event);
+  bool LetGo(QObject& object, const Control& control, QMouseEvent& event);
   void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
   void Settle(Control* control);
-  bool Wheel(Control& control, QWheelEvent& event);
-  bool Mnemonic(Control& control, QWidget& widget, bool ambiguous);
+  bool Wheel(Control& control, const QWheelEvent& event);
+  bool Mnemonic(const Control& control, const QShortcutEvent& event);
   bool KeyDown(Control& control, QKeyEvent& event);
   bool BoxKey(TextBox& box, QKeyEvent& event);
+  bool Commit(Control& control, const QString& text);
   bool KeyUp(const QKeyEvent& event);
   void FocusCame(QObject& object, Control& control, int reason);
 

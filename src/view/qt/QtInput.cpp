@@ -2,6 +2,7 @@
 // their own behaviour is wanted; what they would choose or toggle by themselves is put to the tree, which decides.
 #include "view/Dispatch.h"
 #include "view/Input.h"
+#include "view/Mnemonics.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKeys.h"
@@ -10,12 +11,13 @@
 #include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
 
-#include <QAbstractButton>
 #include <QApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QShortcutEvent>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QWheelEvent>
 
@@ -30,6 +32,9 @@ int RowAt(const Control& control, const QWidget& widget, const QPoint& at) {
   const int tab = static_cast<const QTabBar&>(widget).tabAt(at);
   return tab < 0 ? -1 : tab + 1;
 }
+
+// A text box would paste as the middle button comes up.
+bool IgnoresOtherButtons(const Control& control) { return control.Type == Kind::TextBox || !FollowsMouse(control); }
 
 // Of the whole event only this position has kept its fractions of a pixel.
 QPointF InWindow(const QObject& object, const QMouseEvent& event) {
@@ -56,12 +61,12 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick: return Press(*object, *control, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseMove: return Move(*object, *static_cast<QMouseEvent*>(event));
-    case QEvent::MouseButtonRelease: return LetGo(*object, *static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonRelease: return LetGo(*object, *control, *static_cast<QMouseEvent*>(event));
     case QEvent::Wheel: return Wheel(*control, *static_cast<QWheelEvent*>(event));
     case QEvent::KeyPress: return KeyDown(*control, *static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod: return Commit(*control, static_cast<QInputMethodEvent*>(event)->commitString());
     case QEvent::KeyRelease: return KeyUp(*static_cast<QKeyEvent*>(event));
-    case QEvent::Shortcut:
-      return Mnemonic(*control, *static_cast<QWidget*>(object), static_cast<QShortcutEvent*>(event)->isAmbiguous());
+    case QEvent::Shortcut: return Mnemonic(*control, *static_cast<QShortcutEvent*>(event));
     case QEvent::FocusIn: FocusCame(*object, *control, static_cast<QFocusEvent*>(event)->reason()); return false;
     default: return false;
   }
@@ -69,7 +74,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
 
 bool QtForm::Press(const QObject& object, Control& control, const QMouseEvent& event) {
   const bool native = FollowsMouse(control);
-  if (event.button() != Qt::LeftButton) return control.Type == Kind::TextBox || !native;
+  if (event.button() != Qt::LeftButton) return IgnoresOtherButtons(control);
   const QtEntry entry(*form_);
   press_ = {&control, -1, false, native};
   toolkit_.Drag().Cancel();
@@ -100,8 +105,8 @@ bool QtForm::Move(const QObject& object, const QMouseEvent& event) {
   return !press_.Native;
 }
 
-bool QtForm::LetGo(QObject& object, QMouseEvent& event) {
-  if (event.button() != Qt::LeftButton) return false;
+bool QtForm::LetGo(QObject& object, const Control& control, QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return IgnoresOtherButtons(control);
   const QtEntry entry(*form_);
   if (toolkit_.Drag().Release()) {
     press_ = {};
@@ -115,7 +120,7 @@ bool QtForm::LetGo(QObject& object, QMouseEvent& event) {
   }
   if (press.On->Type == Kind::Grid) return false;
   if (press.Native) {
-    // Clicked comes from inside this call, so that a press can be told from a mnemonic.
+    // Clicked comes from inside this call, so that a press can be told from anything else.
     object.event(&event);
     press_ = {};
     return true;
@@ -153,7 +158,7 @@ void QtForm::RowChosen(QWidget& widget, int row) {
   Control* const control = ControlOf(&widget);
   if (form_ == nullptr || control == nullptr || row < 0) return;
   const QtEntry entry(*form_);
-  if (IsUsable(*control)) Input::SelectRow(*control, row);
+  if (Refusal(*control).empty()) Input::SelectRow(*control, row);
   Settle(ControlOf(&widget));
 }
 
@@ -187,38 +192,24 @@ void QtForm::Ticked(const Control& timer) {
   Settle(nullptr);
 }
 
-// The wheel turns the scroll bar of the viewport that the pointer is over.
-bool QtForm::Wheel(Control& control, QWheelEvent& event) {
-  if (control.Type == Kind::VScrollBar || control.Type == Kind::Grid || control.Type == Kind::ListBox) return false;
-  for (const Control* around = &control; around != nullptr; around = around->Parent) {
-    for (const Control* child : ChildrenOf(*form_, around)) {
-      if (child->Type != Kind::VScrollBar || !IsUsable(*child)) continue;
-      if (QWidget* const bar = WidgetOf(*child)) QCoreApplication::sendEvent(bar, &event);
-      return true;
-    }
-  }
+bool QtForm::Wheel(Control& control, const QWheelEvent& event) {
+  const QtEntry entry(*form_);
+  if (!Input::Wheel(control, event.angleDelta().y())) return false;
+  Settle(nullptr);
   return true;
 }
 
-bool QtForm::Mnemonic(Control& control, QWidget& widget, bool ambiguous) {
+// Qt has found the letter in a caption; which one is meant, of several too, is the tree's to say.
+bool QtForm::Mnemonic(const Control& control, const QShortcutEvent& event) {
+  if (!HasCaption(control) || event.key().isEmpty()) return false;
   const QtEntry entry(*form_);
-  if (control.Type == Kind::Label) {
-    Control* const meant = LabelledBy(static_cast<Label&>(control));
-    if (meant != nullptr && Refusal(*meant).empty()) Input::MoveFocus(*meant);
-    Settle(nullptr);
-    return true;
-  }
-  if (dynamic_cast<QAbstractButton*>(&widget) == nullptr) return false;
-  if (!ambiguous) {
-    Clicked(widget);
-  } else if (Refusal(control).empty()) {
-    Input::MoveFocus(control);
-    Settle(nullptr);
-  }
+  Input::Mnemonic(*form_, event.key()[0].key());
+  Settle(nullptr);
   return true;
 }
 
 bool QtForm::KeyDown(Control& control, QKeyEvent& event) {
+  if (form_->Screen().IsBlocked(*form_)) return true;
   const int code = VirtualKey(event);
   const int shift = ShiftOf(event);
   const QtEntry entry(*form_);
@@ -264,6 +255,7 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
   }
   SyncControl(box);
   if (character == 0) {
+    const QSignalBlocker known(*edit);
     PressEditingKey(*edit, down.Code, down.Shift);
   } else {
     KeyEvent press{character, ShiftOf(event)};
@@ -273,6 +265,7 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
       return true;
     }
     SyncControl(box);
+    const QSignalBlocker known(*edit);
     if (types) TypeCharacter(*edit, press.Code);
   }
   const QString text = edit->text();
@@ -283,6 +276,27 @@ bool QtForm::BoxKey(TextBox& box, QKeyEvent& event) {
     StoreCaret(box, *edit);
   Settle(here() ? &box : nullptr);
   return true;
+}
+
+// What an input method hands over goes the way of the keys that type it.
+bool QtForm::Commit(Control& control, const QString& text) {
+  if (control.Type != Kind::TextBox) return false;
+  for (const auto code : text.toUcs4()) {
+    const int key = code < 128U ? QChar(code).toUpper().unicode() : static_cast<int>(Qt::Key_unknown);
+    const QString typed = QString::fromUcs4(reinterpret_cast<const char32_t*>(&code), 1);
+    const QPointer<QWidget> widget = WidgetOf(control);
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
+    KeyDown(control, down);
+    if (form_ != nullptr) KeyUp(QKeyEvent(QEvent::KeyRelease, key, Qt::NoModifier, typed));
+    if (form_ == nullptr || widget.isNull() || ControlOf(widget) != &control) break;
+  }
+  return true;
+}
+
+// A text that came into a box by none of its keys is put back: it shows what the tree has.
+void QtForm::TextCame(const QWidget& widget) {
+  Control* const box = ControlOf(&widget);
+  if (form_ != nullptr && box != nullptr) SyncControl(*box);
 }
 
 bool QtForm::KeyUp(const QKeyEvent& event) {

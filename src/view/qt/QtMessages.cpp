@@ -15,6 +15,8 @@ namespace Tarnwise {
 
 namespace {
 
+constexpr int kInformation = 64;
+
 QMessageBox::Icon IconFor(int style) {
   switch (style & 0x70) {
     case 16: return QMessageBox::Critical;
@@ -53,13 +55,18 @@ void QtToolkit::MessageBox(Form* over, const String& text, int style, const Stri
 }
 
 void QtToolkit::Help(Form& form, const String& path, int /*command*/, int /*context*/) {
+  if (AutoAnswer) return;
   QString file = Text(path);
   file.replace('\\', '/');
-  if (AutoAnswer) return;
-  if (QFileInfo(file).isFile() && QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()))) {
-    return;
-  }
-  MessageBox(&form, "The help file " + path + " can't be opened here.", 64, form.Caption);
+  if (QFileInfo(file).isFile())
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
+  else
+    form.Screen().MessageBox("There is no help file " + path + ".", kInformation, "KESTA");
+}
+
+WindowHandle QtToolkit::WindowOf(const Form& form) {
+  QtForm* const shown = FormOf(form);
+  return shown == nullptr ? 0 : static_cast<WindowHandle>(shown->Window().winId());
 }
 
 }  // namespace Tarnwise

@@ -36,6 +36,7 @@ QWidget* MakeTextBox(QtForm& form, Control& control, QWidget& parent) {
   QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] {
     if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
   });
+  QObject::connect(edit, &QLineEdit::textChanged, &form, [&form, edit] { form.TextCame(*edit); });
   // The caret stands where the tree says until a person moves it.
   edit->setText(Text(static_cast<TextBox&>(control).Text));
   return edit;

@@ -41,19 +41,23 @@ QtForm& QtToolkit::Window(Form& form) {
   return *window;
 }
 
-void QtToolkit::Show(Form& form, bool modal) {
+void QtToolkit::Show(Form& form, Showing how) {
   QtForm& shown = Window(form);
   QWidget& window = shown.Window();
-  const Qt::WindowModality modality = modal ? Qt::ApplicationModal : Qt::NonModal;
+  const Qt::WindowModality modality = how == Showing::Modal ? Qt::ApplicationModal : Qt::NonModal;
   if (window.windowModality() != modality) {
     window.hide();
     window.setWindowModality(modality);
   }
   shown.Sync();
+  window.setAttribute(Qt::WA_ShowWithoutActivating, how == Showing::Blocked);
   window.show();
-  window.raise();
-  window.activateWindow();
-  shown.FocusTree();
+  const Form* const front = how == Showing::Blocked ? form.Screen().ActiveForm() : &form;
+  if (QtForm* const top = front != nullptr ? FormOf(*front) : nullptr) {
+    top->Window().raise();
+    top->Window().activateWindow();
+    top->FocusTree();
+  }
 }
 
 void QtToolkit::Hide(Form& form) {

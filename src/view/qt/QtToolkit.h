@@ -26,7 +26,7 @@ class QtToolkit : public Toolkit {
   std::function<void(QMessageBox&)> AutoAnswer;  // answers a message box that has come up
   bool RealTimers = true;                        // false: a form's timers wait for the script
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;
@@ -36,6 +36,7 @@ class QtToolkit : public Toolkit {
   void Beep() override;
   void SetPointer(int pointer) override;
   void Help(Form& form, const String& path, int command, int context) override;
+  WindowHandle WindowOf(const Form& form) override;
   void Focus(Control& control) override;
   void AnnounceChange(Control& control) override;
   Single TextWidth(const String& text) override;

@@ -16,7 +16,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kForbidden = 12;
 constexpr int kIconSide = 28;    // pixels of the design, of the picture that stands for a mark
 constexpr BYTE kOpacity = 180;   // of 255
 constexpr double kTwips = 15.0;  // in a pixel of the design
@@ -135,10 +134,11 @@ void WinDrag::Show(WinForm& form) {
   Follow(form, at.X * pixels, at.Y * pixels);
 }
 
-void WinDrag::MakeGhost(WinForm& form, const Control& source) {
+void WinDrag::MakeGhost(WinForm& form, const DragSession& drag) {
   if (ghost_ != nullptr) DestroyWindow(std::exchange(ghost_, nullptr));
+  const Control& source = *drag.Source();
   const HWND window = form.WindowOf(source);
-  const bool marked = !source.DragIcon().empty();
+  const bool marked = !drag.Icon().empty();
   // What the handlers move themselves needs no second picture.
   if (window == nullptr || (!marked && source.KeyboardDrag == DragBy::Units)) return;
   const int side = Scaled(kIconSide, form.Scale());
@@ -148,7 +148,7 @@ void WinDrag::MakeGhost(WinForm& form, const Control& source) {
   Canvas canvas(ghostSize_.cx, ghostSize_.cy, 1);
   canvas.Fill(ToColorRef(kWindowBackground));
   if (marked) {
-    const HICON icon = IconOf(source.DragIcon, side);
+    const HICON icon = IconOf(drag.Icon(), side);
     DrawIconEx(canvas.Dc(), 0, 0, icon, side, side, 0, nullptr, DI_NORMAL);
     if (icon != nullptr) DestroyIcon(icon);
   } else {
@@ -170,21 +170,20 @@ void WinDrag::Follow(WinForm& form, double x, double y) {
     Clear();
     return;
   }
-  const Control& source = *drag.Source();
-  const String looks = source.FullName() + "|" + source.DragIcon();
+  const String looks = drag.Source()->FullName() + "|" + drag.Icon();
   if (ghostOf_ != looks) {
-    MakeGhost(form, source);
+    MakeGhost(form, drag);
     ghostOf_ = looks;
   }
-  POINT at{static_cast<LONG>(std::lround(x)) - ghostSize_.cx / 2,
-           static_cast<LONG>(std::lround(y)) - ghostSize_.cy / 2};
+  const LONG beside = Scaled(kIconBesidePointer, form.Scale());
+  const bool isIcon = on_ && !drag.Icon().empty();
+  POINT at{static_cast<LONG>(std::lround(x)) + (isIcon ? beside : -ghostSize_.cx / 2),
+           static_cast<LONG>(std::lround(y)) + (isIcon ? beside : -ghostSize_.cy / 2)};
   ClientToScreen(form.Window(), &at);
   if (ghost_ != nullptr) {
     SetWindowPos(ghost_, HWND_TOPMOST, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
   }
-  if (!on_) return;
-  const bool refused = source.MousePointer == kForbidden || drag.Target() == nullptr;
-  SetCursor(refused ? CursorFor(kForbidden) : LoadCursorW(nullptr, IDC_HAND));
+  if (on_) SetCursor(drag.WouldBeTaken() ? LoadCursorW(nullptr, IDC_HAND) : CursorFor(kNoDrop));
 }
 
 void WinDrag::Clear() {

@@ -32,7 +32,7 @@ class WinDrag {
  private:
   bool Alive() const;
   void Follow(WinForm& form, double x, double y);
-  void MakeGhost(WinForm& form, const Control& source);
+  void MakeGhost(WinForm& form, const DragSession& drag);
   bool End(void (DragSession::*how)());
   void Clear();
 

@@ -149,13 +149,18 @@ void WinForm::SetTip(HWND window, const std::wstring& text) {
 
 void WinForm::KeepImages(HWND window, Images images) { images_[window] = std::move(images); }
 
-void WinForm::Show(bool modal) {
+void WinForm::Show(Showing how, HWND behind) {
   MakeWindow();
   Sync();
   EnableWindow(window_, TRUE);
+  if (how == Showing::Blocked) {
+    const UINT keepOrder = behind == nullptr ? SWP_NOZORDER : 0U;
+    SetWindowPos(window_, behind, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW | keepOrder);
+    return;
+  }
   ShowWindow(window_, SW_SHOW);
   SetForegroundWindow(window_);
-  if (modal) SetActiveWindow(window_);
+  if (how == Showing::Modal) SetActiveWindow(window_);
   FocusTree();
 }
 

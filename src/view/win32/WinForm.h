@@ -17,6 +17,7 @@
 namespace Tarnwise {
 
 class WinToolkit;
+enum class Showing;
 
 struct DestroyImages {
   void operator()(HIMAGELIST images) const { ImageList_Destroy(images); }
@@ -59,8 +60,8 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   // The pictures that a toolbar or a combo shows, kept for as long as it lives.
   void KeepImages(HWND window, Images images);
 
-  void Show(bool modal);
-  void Sync();  // what the tree has marked
+  void Show(Showing how, HWND behind);  // `behind`: where it is blocked, the window that stays in front of it
+  void Sync();                          // what the tree has marked
   void SyncControl(Control& control);
   void FocusTree();  // the keyboard goes to the window of the tree's active control, or to the form's own
   void Settle(Control* control);
@@ -84,6 +85,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
 
   std::optional<LRESULT> Mouse(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT InputMethod(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Parent(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Window(Control& control, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> Erase(const Control& control, HWND window, HDC dc);
@@ -93,7 +95,8 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   bool Move(HWND window, POINT at, bool down);
   bool LetGo(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void FinishPress(const WinPress& press, POINT inForm);
-  bool Wheel(const Control& control, WPARAM wParam);
+  std::optional<LRESULT> Wheel(HWND window, Control& control, WPARAM wParam, LPARAM lParam);
+  bool Pressed(Control& control);
   void Clicked(Control& control);
   void RowChosen(Control& control);
   void Scrolled(Control& control, HWND bar, int code);
@@ -124,6 +127,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   bool moved_ = false;  // it has wanted it somewhere
   WinPress press_;
   int typing_ = 0;              // key that went down in a text box and has not come up
+  bool typingNow_ = false;      // a text box changes by its keys
   bool dropCharacter_ = false;  // what the key that went down would type
   wchar_t highSurrogate_ = 0;
   UINT_PTR nextTimer_ = 1;

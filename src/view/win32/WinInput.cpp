@@ -12,6 +12,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <utility>
+
 namespace Tarnwise {
 
 namespace {
@@ -23,6 +25,11 @@ POINT PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam
 POINT Mapped(HWND from, HWND to, POINT at) {
   MapWindowPoints(from, to, &at, 1);
   return at;
+}
+
+bool IsOfInputMethod(UINT message) {
+  return message == WM_IME_CHAR || message == WM_IME_STARTCOMPOSITION || message == WM_IME_COMPOSITION ||
+         message == WM_IME_ENDCOMPOSITION;
 }
 
 bool IsInside(HWND window, POINT at) {
@@ -52,6 +59,7 @@ std::optional<LRESULT> WinForm::Handle(HWND window, UINT message, WPARAM wParam,
   if (form_ == nullptr || control == nullptr) return std::nullopt;
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) return Mouse(window, *control, message, wParam, lParam);
   if (message >= WM_KEYFIRST && message <= WM_KEYLAST) return Keyboard(window, *control, message, wParam, lParam);
+  if (control->Type == Kind::TextBox && IsOfInputMethod(message)) return InputMethod(window, message, wParam, lParam);
   if (IsContainer(*control)) {
     if (auto answer = Parent(message, wParam, lParam)) return answer;
   }
@@ -71,11 +79,17 @@ std::optional<LRESULT> WinForm::Mouse(HWND window, Control& control, UINT messag
     case WM_LBUTTONUP:
       if (LetGo(window, message, wParam, lParam)) return 0;
       return std::nullopt;
-    case WM_MOUSEWHEEL:
-      if (Wheel(control, wParam)) return 0;
-      return std::nullopt;
+    case WM_MOUSEWHEEL: return Wheel(window, control, wParam, lParam);
     default: return std::nullopt;
   }
+}
+
+// An input method composes beside the box, and what it hands over comes as characters like any other.
+LRESULT WinForm::InputMethod(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_IME_CHAR) return DefWindowProcW(window, message, wParam, lParam);
+  const auto held = shared_from_this();
+  Character(window, wParam);
+  return 0;
 }
 
 // True: the window itself must not see it.
@@ -161,21 +175,15 @@ void WinForm::FinishPress(const WinPress& press, POINT inForm) {
   Settle(ControlOf(window));
 }
 
-// The wheel turns the scroll bar of the viewport that the pointer is over.
-bool WinForm::Wheel(const Control& control, WPARAM wParam) {
-  if (control.Type == Kind::Grid || control.Type == Kind::ListBox) return false;
-  for (const Control* around = &control; around != nullptr; around = around->Parent) {
-    for (Control* child : ChildrenOf(*form_, around)) {
-      if (child->Type != Kind::VScrollBar || !IsUsable(*child)) continue;
-      const WinEntry entry(*form_);
-      auto& bar = static_cast<VScrollBar&>(*child);
-      const int steps = GET_WHEEL_DELTA_WPARAM(wParam) / (WHEEL_DELTA / 3);
-      Input::ScrollTo(bar, bar.Value - steps * bar.SmallChange, false);
-      Settle(&bar);
-      return true;
-    }
-  }
-  return true;
+// It comes to where the keyboard is, or to where the pointer is, as Windows is set up. The pointer's place is meant.
+std::optional<LRESULT> WinForm::Wheel(HWND window, Control& control, WPARAM wParam, LPARAM lParam) {
+  const HWND under = WindowFromPoint(PointOf(lParam));
+  if (under != window && ControlOf(under) != nullptr) return SendMessageW(under, WM_MOUSEWHEEL, wParam, lParam);
+  const auto held = shared_from_this();
+  const WinEntry entry(*form_);
+  if (!Input::Wheel(control, GET_WHEEL_DELTA_WPARAM(wParam))) return std::nullopt;
+  Settle(nullptr);
+  return 0;
 }
 
 // The rest: painting, the pointer's shape, focus, timers, the window's own buttons.
@@ -189,7 +197,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
     case WM_ERASEBKGND: return Erase(control, window, reinterpret_cast<HDC>(wParam));
     case WM_SETCURSOR: {
       if (LOWORD(lParam) != HTCLIENT) return std::nullopt;
-      int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : control.MousePointer();
+      int shape = toolkit_.Pointer() != 0 ? toolkit_.Pointer() : PointerOver(control);
       if (shape == 0 && control.DragAutomatic && control.Enabled) {
         SetCursor(LoadCursorW(nullptr, IDC_HAND));
         return TRUE;
@@ -204,6 +212,12 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
       else if (!focusing_ && form_->ActiveControl != &control)
         PostMessageW(window_, kFocusCame, 0, reinterpret_cast<LPARAM>(window));
       if (IsBox(control)) InvalidateRect(window, nullptr, FALSE);
+      if (control.Type == Kind::OptionButton) {  // it would choose itself
+        const bool former = std::exchange(focusing_, true);
+        const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
+        focusing_ = former;
+        return answer;
+      }
       return std::nullopt;
     case WM_KILLFOCUS:
       if (IsBox(control)) InvalidateRect(window, nullptr, FALSE);

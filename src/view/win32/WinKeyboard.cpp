@@ -1,6 +1,7 @@
 // Keys on their way from Windows to the tree.
-#include "view/Captions.h"
 #include "view/Input.h"
+#include "view/Mnemonics.h"
+#include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
@@ -31,27 +32,11 @@ bool IsOpen(const Control& control, HWND window) {
   return SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
-const String* CaptionOf(const Control& control) {
-  switch (control.Type) {
-    case Kind::CommandButton: return &static_cast<const CommandButton&>(control).Caption();
-    case Kind::OptionButton: return &static_cast<const OptionButton&>(control).Caption();
-    case Kind::CheckBox: return &static_cast<const CheckBox&>(control).Caption();
-    case Kind::Label: return &static_cast<const Label&>(control).Caption();
-    default: return nullptr;
-  }
-}
-
-// What a mnemonic leads to, now.
-Control* MeantBy(Control& control) {
-  if (!IsOnScreen(control) || IsCovered(control)) return nullptr;
-  Control* const meant = control.Type == Kind::Label ? LabelledBy(static_cast<Label&>(control)) : &control;
-  return meant != nullptr && Refusal(*meant).empty() ? meant : nullptr;
-}
-
 }  // namespace
 
 std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto held = shared_from_this();
+  if (form_->Screen().IsBlocked(*form_)) return 0;
   bool taken = false;
   switch (message) {
     case WM_KEYDOWN:
@@ -113,7 +98,9 @@ bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam
     }
     SyncControl(box);
     if (edit != window) return true;
+    typingNow_ = true;
     DefSubclassProc(window, message, static_cast<WPARAM>(down.Code), lParam);
+    typingNow_ = false;
     TakeText(box, edit);
     return true;
   }
@@ -160,7 +147,9 @@ bool WinForm::Character(HWND window, WPARAM unit) {
     return true;
   }
   SyncControl(box);
+  typingNow_ = true;
   if (types) TypeCharacter(edit, press.Code);
+  typingNow_ = false;
   TakeText(box, edit);
   return true;
 }
@@ -186,22 +175,8 @@ void WinForm::KeyUp(int code) {
 }
 
 bool WinForm::Mnemonic(WPARAM character) {
-  const auto wanted = static_cast<char>(character < 128 ? character : 0);
-  const char lower = wanted >= 'A' && wanted <= 'Z' ? static_cast<char>(wanted - 'A' + 'a') : wanted;
-  if (lower <= ' ') return false;
-  std::vector<Control*> meant;
-  for (Control* control : form_->Controls()) {
-    const String* const caption = CaptionOf(*control);
-    if (caption == nullptr || MnemonicOf(*caption) != lower) continue;
-    if (Control* const found = MeantBy(*control)) meant.push_back(found);
-  }
-  if (meant.empty()) return false;
   const WinEntry entry(*form_);
-  // Several with the same letter: the focus walks through them.
-  const auto present = std::find(meant.begin(), meant.end(), form_->ActiveControl);
-  Control& next = present == meant.end() || std::next(present) == meant.end() ? *meant.front() : **std::next(present);
-  const bool good = Input::Press(next);
-  if (form_ != nullptr && good && meant.size() == 1 && CaptionOf(next) != nullptr) Input::Activate(next);
+  if (!Input::Mnemonic(*form_, static_cast<int>(character))) return false;
   Settle(nullptr);
   return true;
 }

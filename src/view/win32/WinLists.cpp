@@ -212,6 +212,7 @@ void SyncImageCombo(WinForm& form, Control& control, HWND window) {
 }  // namespace
 
 int ChosenRow(const Control& control, HWND window) {
+  if (control.Type == Kind::TabStrip) return TabCtrl_GetCurSel(window) + 1;
   const int row = static_cast<int>(Tell(window, control.Type == Kind::ListBox ? LB_GETCURSEL : CB_GETCURSEL));
   return control.Type == Kind::ImageCombo ? row + 1 : row;
 }

@@ -54,7 +54,6 @@ void WinToolkit::Beep() { MessageBeep(MB_OK); }
 
 void WinToolkit::Help(Form& form, const String& path, int command, int context) {
   if (AutoAnswer) return;
-  const WinForm* const shown = FormOf(form);
   String ansi;
   {
     const std::wstring wide = Wide(path);
@@ -62,8 +61,13 @@ void WinToolkit::Help(Form& form, const String& path, int command, int context) 
     ansi.resize(static_cast<std::size_t>(length));
     WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, ansi.data(), length, nullptr, nullptr);
   }
-  WinHelpA(shown != nullptr ? shown->Window() : nullptr, ansi.c_str(), static_cast<UINT>(command),
+  WinHelpA(reinterpret_cast<HWND>(WindowOf(form)), ansi.c_str(), static_cast<UINT>(command),
            static_cast<ULONG_PTR>(context));
+}
+
+WindowHandle WinToolkit::WindowOf(const Form& form) {
+  const WinForm* const shown = FormOf(form);
+  return shown == nullptr ? 0 : reinterpret_cast<WindowHandle>(shown->Window());
 }
 
 }  // namespace Tarnwise

@@ -9,19 +9,25 @@
 
 namespace Tarnwise {
 
-void WinForm::Clicked(Control& control) {
-  if (press_.On != &control) return;  // not by a person
-  const WinEntry entry(*form_);
+// A native control says that it was pressed: by the mouse, whose press the tree knows, or without it, by a screen
+// reader.
+bool WinForm::Pressed(Control& control) {
+  if (press_.On != &control || press_.Refused) return Refusal(control).empty() && Input::Press(control);
   press_ = {};
-  Input::Activate(control);
+  return true;
+}
+
+void WinForm::Clicked(Control& control) {
+  const WinEntry entry(*form_);
+  if (Pressed(control)) Input::Activate(control);
   Settle(nullptr);
 }
 
 void WinForm::RowChosen(Control& control) {
   const HWND window = WindowOf(control);
-  if (window == nullptr || !IsUsable(control)) return;
+  if (window == nullptr) return;
   const WinEntry entry(*form_);
-  Input::SelectRow(control, ChosenRow(control, window));
+  if (Refusal(control).empty()) Input::SelectRow(control, ChosenRow(control, window));
   Settle(ControlOf(window));
 }
 
@@ -53,6 +59,14 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       if (bar == nullptr || bar->Type != Kind::VScrollBar) return std::nullopt;
       const auto held = shared_from_this();
       Scrolled(*bar, reinterpret_cast<HWND>(lParam), LOWORD(wParam));
+      return 0;
+    }
+    case WM_NOTIFY: {
+      const auto& told = *reinterpret_cast<const NMHDR*>(lParam);
+      Control* const strip = ControlOf(told.hwndFrom);
+      if (told.code != TCN_SELCHANGE || strip == nullptr || strip->Type != Kind::TabStrip) return std::nullopt;
+      const auto held = shared_from_this();
+      RowChosen(*strip);
       return 0;
     }
     case WM_DRAWITEM: {
@@ -88,20 +102,27 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
     case Kind::CommandButton:
     case Kind::OptionButton:
     case Kind::CheckBox:
-      if (code == BN_CLICKED) Clicked(*control);
+      if (code == BN_CLICKED && !focusing_) Clicked(*control);  // an option button tells its focus so, too
+      return 0;
+    case Kind::ListBox:
+      if (code == LBN_SELCHANGE) RowChosen(*control);
       return 0;
     case Kind::ComboBox:
     case Kind::ImageCombo:
       if (code == CBN_SELENDOK) PostMessageW(window_, kChoose, 0, reinterpret_cast<LPARAM>(from));
       if (code == CBN_SELENDCANCEL) PostMessageW(window_, kGivenUp, 0, reinterpret_cast<LPARAM>(from));
       return 0;
+    case Kind::TextBox:
+      // A text that came by none of its keys is put back: the box shows what the tree has.
+      if (code == EN_CHANGE && !typingNow_) SyncControl(*control);
+      return 0;
     case Kind::Toolbar: {
       const auto& bar = static_cast<Toolbar&>(*control);
       const std::size_t button = LOWORD(wParam);
-      if (button == 0 || button > bar.Buttons.size() || press_.On != control) return 0;
+      if (button == 0 || button > bar.Buttons.size() || !bar.Buttons[button - 1].Enabled) return 0;
       const WinEntry entry(*form_);
-      press_ = {};
-      Input::PressToolButton(static_cast<Toolbar&>(*control), String(bar.Buttons[button - 1].Key));
+      if (Pressed(*control))
+        Input::PressToolButton(static_cast<Toolbar&>(*control), String(bar.Buttons[button - 1].Key));
       Settle(nullptr);
       return 0;
     }

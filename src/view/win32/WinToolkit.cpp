@@ -116,12 +116,15 @@ WinForm* WinToolkit::FormOf(const Form& form) const {
   return found == forms_.end() ? nullptr : found->second.get();
 }
 
-void WinToolkit::Show(Form& form, bool modal) {
+void WinToolkit::Show(Form& form, Showing how) {
   auto& window = forms_[&form];
   if (!window) window = std::make_shared<WinForm>(form, *this);
   const std::shared_ptr<WinForm> shown = window;
-  shown->Show(modal);
-  if (!modal_.empty() && modal_.back()->IsOf(form)) modal_.back()->Disable();  // it was hidden, and its call still runs
+  const Form* const front = form.Screen().ActiveForm();
+  const WinForm* const top = how == Showing::Blocked && front != nullptr ? FormOf(*front) : nullptr;
+  shown->Show(how, top != nullptr ? top->Window() : nullptr);
+  // It was hidden, and its call still runs; or it came while another one's does.
+  if (!modal_.empty() && (how == Showing::Blocked || modal_.back()->IsOf(form))) modal_.back()->Disable();
 }
 
 void WinToolkit::Hide(Form& form) {

@@ -30,7 +30,7 @@ class WinToolkit : public Toolkit {
   bool RealTimers = true;      // false: a form's timers wait for the script
   bool AutoAnswer = false;     // message boxes are answered as soon as they are up, help is not opened
 
-  void Show(Form& form, bool modal) override;
+  void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;
   void ControlUnloaded(Control& control) override;
@@ -40,6 +40,7 @@ class WinToolkit : public Toolkit {
   void Beep() override;
   void SetPointer(int pointer) override;
   void Help(Form& form, const String& path, int command, int context) override;
+  WindowHandle WindowOf(const Form& form) override;
   void Focus(Control& control) override;
   void AnnounceChange(Control& control) override;
   Single TextWidth(const String& text) override;

@@ -1,6 +1,7 @@
 #include "TestForm.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QMouseEvent>
 
 namespace Tarnwise {
@@ -79,18 +80,63 @@ TEST_F(QtDragging, OutsideTheWindowIsOverNothing) {
   EXPECT_EQ(Joined(form->Log), "enter0 over0 leave0");
 }
 
-TEST_F(QtDragging, ThePointersShapeIsTheSources) {
+TEST_F(QtDragging, ThePointersShapeSaysWhetherADropWouldBeTaken) {
+  form->picRow[1].AcceptsDrop = [](const Control& /*source*/) { return false; };
+  form->DragOver = [](Control& source, Single /*x*/, Single /*y*/, DragState state) {
+    source.MousePointer = state == DragState::Leave ? 12 : 0;
+  };
   Show();
   Press();
-  form->cmdSource.MousePointer = 12;
-  MoveTo(3300, 500);
-  ASSERT_NE(QApplication::overrideCursor(), nullptr);
-  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ForbiddenCursor);
-  form->cmdSource.MousePointer = 0;
-  MoveTo(3310, 500);
-  EXPECT_NE(QApplication::overrideCursor()->shape(), Qt::ForbiddenCursor);
+  const auto shape = [this](double x, double y) {
+    MoveTo(x, y);
+    const QCursor* const shown = QApplication::overrideCursor();
+    return shown == nullptr ? Qt::ArrowCursor : shown->shape();
+  };
+  EXPECT_EQ(shape(2000, 4500), Qt::ForbiddenCursor) << "the form";
+  EXPECT_EQ(form->cmdSource.MousePointer, 0);
+  EXPECT_EQ(shape(3300, 500), Qt::ClosedHandCursor) << "a row that takes it";
+  EXPECT_EQ(form->cmdSource.MousePointer, 12);
+  EXPECT_EQ(shape(3300, 1300), Qt::ForbiddenCursor) << "a row that does not";
+  EXPECT_EQ(shape(-3000, 500), Qt::ForbiddenCursor) << "outside";
+  EXPECT_EQ(shape(3300, 500), Qt::ClosedHandCursor);
   Release();
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(form->cmdSource.MousePointer, 12);
+  EXPECT_EQ(WidgetOf(form->cmdSource)->cursor().shape(), Qt::OpenHandCursor) << "it can be dragged again";
+}
+
+TEST_F(QtDragging, TheCarriedMarkIsSeenAlsoWhereItHasNoIcon) {
+  PictureBox mark{*form, &form->picRows, "picMark"};
+  Place(mark, 2000, 2000, 150, 150);
+  mark.DragAutomatic = true;
+  mark.KeyboardDrag = DragBy::Units;
+  mark.Picture = "drag.A";
+  const auto ghost = [this]() -> QLabel* {
+    QLabel* seen = nullptr;
+    for (QLabel* label : Window().findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (label->isVisible() && !label->pixmap().isNull()) seen = label;
+    }
+    return seen;
+  };
+  form->picRow[0].DragOver = [](Control& source, Single /*x*/, Single /*y*/, DragState state) {
+    source.DragIcon = state == DragState::Leave ? "" : "C:/nowhere\\bdrag.ico";
+  };
+  Show();
+  QTest::mousePress(WidgetOf(mark), Qt::LeftButton);
+  MoveTo(7000, 4000);
+  ASSERT_NE(ghost(), nullptr) << "before any icon its own picture";
+  const QImage own = ghost()->pixmap().toImage();
+  MoveTo(3300, 500);
+  ASSERT_NE(ghost(), nullptr);
+  const QImage named = ghost()->pixmap().toImage();
+  EXPECT_NE(named, own);
+  EXPECT_GE(ghost()->geometry().center().x(), 3300 / 15 + 20) << "its letter is not under the pointer";
+  MoveTo(7000, 4000);
+  ASSERT_NE(ghost(), nullptr) << "after it has left";
+  EXPECT_EQ(ghost()->pixmap().toImage(), named);
+  QTest::mouseRelease(WidgetOf(mark), Qt::LeftButton);
+  EXPECT_EQ(ghost(), nullptr);
+  platform->Release(*form);
 }
 
 TEST_F(QtDragging, TheKeyboardGivesTheSameNotifications) {

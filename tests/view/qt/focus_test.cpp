@@ -101,7 +101,7 @@ TEST_F(QtFocus, ALabelsMnemonicGoesToTheControlBehindIt) {
   label.Caption = "&Name:";
   Place(label, 150, 1800, 900, 300);
   Place(box, 1200, 1800, 900, 375);
-  box.TabIndex = 30;
+  label.TabIndex = box.TabIndex = 30;
   Show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
   EXPECT_EQ(As<QLabel>(label).buddy(), WidgetOf(box));

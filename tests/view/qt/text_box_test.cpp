@@ -1,8 +1,11 @@
 #include "TestForm.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QLineEdit>
+#include <QMimeData>
 
 namespace Tarnwise {
 
@@ -113,6 +116,70 @@ TEST_F(QtTextBox, PastingGoesThroughTheKeyEvents) {
   QTest::mouseClick(&Edit(), Qt::MiddleButton);
   EXPECT_EQ(form->txtFirst.Text(), "42");
   QApplication::clipboard()->clear();
+}
+
+class QtTextBoxOnly : public QtTextBox {
+ protected:
+  // A box that takes digits, by the keys that type them, and says what it was told.
+  void ShowDigits() {
+    TextBox& box = form->txtFirst;
+    box.Text = "12";
+    box.SelStart = 1;
+    box.KeyDown = [this](KeyEvent&) { ++downs; };
+    box.KeyPress = [](KeyEvent& key) {
+      if (key.Code >= 32 && (key.Code < '0' || key.Code > '9')) key.Code = 0;
+    };
+    box.Change = [this] { form->Log.push_back(form->txtFirst.Text()); };
+    Show();
+  }
+  // What is seen is what the wizard has, and that is what it was.
+  void ExpectUntouched(const char* way) {
+    EXPECT_EQ(Edit().text(), "12") << way;
+    EXPECT_EQ(form->txtFirst.Text(), "12") << way;
+    EXPECT_EQ(Edit().cursorPosition(), 1) << way;
+    EXPECT_EQ(form->txtFirst.SelStart, 1) << way;
+    EXPECT_EQ(Joined(form->Log), "") << way;
+  }
+
+  int downs = 0;
+};
+
+TEST_F(QtTextBoxOnly, ByItsKeysATextCanComeIntoIt) {
+  ShowDigits();
+  QMimeData text;
+  text.setText("67");
+  QDropEvent drop(QPointF(3, 3), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&Edit(), &drop);
+  ExpectUntouched("a drop");
+  QApplication::clipboard()->setText("67");
+  Edit().paste();
+  ExpectUntouched("a paste by the widget itself");
+  QApplication::clipboard()->clear();
+  QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&Edit());
+  read->setText(QAccessible::Value, "67");
+  ExpectUntouched("a text set by a screen reader");
+  if (auto* const editable = read->editableTextInterface()) editable->insertText(0, "67");
+  ExpectUntouched("a text put in by a screen reader");
+  Type("3");
+  EXPECT_EQ(form->txtFirst.Text(), "132") << "keys go on where the caret was";
+  EXPECT_EQ(Edit().text(), "132");
+}
+
+TEST_F(QtTextBoxOnly, AnInputMethodsTextComesAsKeysThatTypeIt) {
+  ShowDigits();
+  QInputMethodEvent commit;
+  commit.setCommitString(QString::fromUtf8("x\xEF\xBC\x95-"));
+  QCoreApplication::sendEvent(&Edit(), &commit);
+  ExpectUntouched("what the keys would not have given");
+  EXPECT_EQ(downs, 3);
+  commit.setCommitString("3a4");
+  QCoreApplication::sendEvent(&Edit(), &commit);
+  EXPECT_EQ(form->txtFirst.Text(), "1342");
+  EXPECT_EQ(Edit().text(), "1342");
+  EXPECT_EQ(Joined(form->Log), "132 1342");
+  QInputMethodEvent unfinished("5", {});
+  QCoreApplication::sendEvent(&Edit(), &unfinished);
+  EXPECT_EQ(Edit().displayText(), "1342");
 }
 
 TEST_F(QtTextBox, SelectAllAndBackspaceEmptyIt) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace Tarnwise {
 
@@ -71,6 +72,34 @@ inline void SendAlt(char letter) {
   SendMessageW(GetFocus(), WM_SYSKEYDOWN, static_cast<WPARAM>(code), kAltIsDown | 1);
   SendMessageW(GetFocus(), WM_SYSCHAR, static_cast<WPARAM>(letter), kAltIsDown | 1);
   SendMessageW(GetFocus(), WM_SYSKEYUP, static_cast<WPARAM>(code), kAltIsDown | 1);
+}
+
+// The keys as the keyboard gives them to Windows: all down, then all up again.
+inline void TypeReally(const std::vector<WORD>& chord) {
+  std::vector<INPUT> inputs;
+  const auto put = [&inputs](WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    inputs.push_back(input);
+  };
+  for (const WORD key : chord) put(key, 0);
+  for (auto key = chord.rbegin(); key != chord.rend(); ++key) put(*key, KEYEVENTF_KEYUP);
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+// A press and its release as the mouse gives them to Windows, at a point of the window.
+inline void ClickReally(HWND window, POINT at) {
+  ClientToScreen(window, &at);
+  SetCursorPos(at.x, at.y);
+  for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flag;
+    SendInput(1, &input, sizeof input);
+  }
 }
 
 inline void TakeMessages() {

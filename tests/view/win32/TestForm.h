@@ -6,6 +6,7 @@
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
+#include "view/forms/WizardForm.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"
@@ -19,13 +20,6 @@
 
 namespace Tarnwise {
 
-inline void Place(Control& control, Single left, Single top, Single width, Single height) {
-  control.Left = left;
-  control.Top = top;
-  control.Width = width;
-  control.Height = height;
-}
-
 struct TestForm : Form {
   explicit TestForm(std::shared_ptr<Platform> platform, const String& name = "frmTest")
       : Form(std::move(platform), name) {
@@ -33,7 +27,7 @@ struct TestForm : Form {
     PlaceControls();
     int tab = 0;
     for (Control* stop : std::vector<Control*>{&txtFirst, &txtSecond, &cmdGo, &cmdSource, &optOne, &optTwo, &chkBox,
-                                               &lstRows, &tbMoves, &tsTab, &cmbRows, &imgcmbRows, &txtName}) {
+                                               &lstRows, &tbMoves, &tsTab, &cmbRows, &imgcmbRows, &lblName, &txtName}) {
       stop->TabIndex = tab++;
     }
     cmdGo.Caption = "&Go";

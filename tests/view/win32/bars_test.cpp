@@ -81,6 +81,27 @@ TEST_F(WinScrolling, TheWheelTurnsTheBarOfTheContainerItIsOver) {
   EXPECT_EQ(Joined(form->Log), "300 0");
 }
 
+TEST_F(WinScrolling, TheWheelOverABarTurnsItThreeStepsANotchWhateverIsHeld) {
+  Show();
+  const HWND bar = WindowOf(form->vsrBar);
+  POINT at = MiddleOf(bar);
+  ClientToScreen(bar, &at);
+  const auto turn = [&](HWND window, int by, int keys = 0) {
+    SendMessageW(window, WM_MOUSEWHEEL, MAKEWPARAM(keys, static_cast<WORD>(by)), At(at));
+  };
+  turn(bar, -WHEEL_DELTA);
+  turn(bar, -WHEEL_DELTA, MK_CONTROL);
+  turn(bar, WHEEL_DELTA, MK_SHIFT);
+  EXPECT_EQ(Joined(form->Log), "300 600 300");
+  EXPECT_EQ(Shown(), 300);
+  form->Log.clear();
+  for (int i = 0; i < 4; ++i) turn(bar, -WHEEL_DELTA / 6);
+  EXPECT_EQ(Joined(form->Log), "400 500") << "parts of a notch add up";
+  form->Log.clear();
+  turn(WindowOf(form->txtFirst), -WHEEL_DELTA);
+  EXPECT_EQ(Joined(form->Log), "800") << "sent to the keyboard's window it is the pointer's place that counts";
+}
+
 TEST_F(WinScrolling, TheRangeFollowsItsRecord) {
   Show();
   form->vsrBar.Max = 4000;

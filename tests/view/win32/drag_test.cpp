@@ -161,6 +161,60 @@ TEST_F(WinDragging, AMessageBoxGivesItUp) {
   toolkit->AutoAnswer = true;
 }
 
+TEST_F(WinDragging, ThePointersShapeSaysWhetherADropWouldBeTaken) {
+  form->picRow[1].AcceptsDrop = [](const Control& /*source*/) { return false; };
+  form->DragOver = [](Control& source, Single /*x*/, Single /*y*/, DragState state) {
+    source.MousePointer = state == DragState::Leave ? 12 : 0;
+  };
+  Show();
+  const HCURSOR no = LoadCursorW(nullptr, IDC_NO);
+  const HCURSOR hand = LoadCursorW(nullptr, IDC_HAND);
+  const auto shape = [this](int x, int y) {
+    MoveTo(x, y);
+    return GetCursor();
+  };
+  Press();
+  EXPECT_EQ(shape(2000, 5500), no) << "the form";
+  EXPECT_EQ(form->cmdSource.MousePointer, 0);
+  EXPECT_EQ(shape(3300, 525), hand) << "a row that takes it";
+  EXPECT_EQ(form->cmdSource.MousePointer, 12);
+  EXPECT_EQ(shape(3300, 1305), no) << "a row that does not";
+  EXPECT_EQ(shape(-3000, 525), no) << "outside";
+  EXPECT_EQ(shape(3300, 525), hand);
+  LetGo(3300, 525);
+  EXPECT_EQ(form->cmdSource.MousePointer, 12);
+  SendMessageW(WindowOf(form->cmdSource), WM_SETCURSOR, reinterpret_cast<WPARAM>(WindowOf(form->cmdSource)),
+               MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+  EXPECT_EQ(GetCursor(), hand) << "it can be dragged again";
+}
+
+TEST_F(WinDragging, TheCarriedMarkIsSeenAlsoWhereItHasNoIcon) {
+  PictureBox mark{*form, &form->picRows, "picMark"};
+  Place(mark, 2000, 2000, 150, 150);
+  mark.DragAutomatic = true;
+  mark.KeyboardDrag = DragBy::Units;
+  mark.Picture = "drag.A";
+  form->picRow[0].DragOver = [](Control& source, Single /*x*/, Single /*y*/, DragState state) {
+    source.DragIcon = state == DragState::Leave ? "" : "C:/nowhere\\bdrag.ico";
+  };
+  Show();
+  PressAt(WindowOf(mark), MiddleOf(WindowOf(mark)));
+  MoveTo(7000, 5500);
+  EXPECT_NE(Ghost(), nullptr) << "before any icon its own picture";
+  MoveTo(3300, 525);
+  const HWND named = Ghost();
+  EXPECT_NE(named, nullptr);
+  RECT place{};
+  GetWindowRect(named, &place);
+  MapWindowPoints(nullptr, Window(), reinterpret_cast<POINT*>(&place), 2);
+  EXPECT_GE((place.left + place.right) / 2, 3300 / 15 + 20) << "its letter is not under the pointer";
+  MoveTo(7000, 5500);
+  EXPECT_EQ(Ghost(), named) << "after it has left the same one";
+  LetGo(7000, 5500);
+  EXPECT_EQ(Ghost(), nullptr);
+  platform->Release(*form);
+}
+
 TEST_F(WinDragging, TheKeyboardGivesTheSameNotifications) {
   Show();
   Input::MoveFocus(form->cmdSource);

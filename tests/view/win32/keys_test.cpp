@@ -188,6 +188,56 @@ TEST_F(WinKeys, PastingGoesThroughTheKeyEvents) {
   EXPECT_EQ(Shown(), "42");
 }
 
+TEST_F(WinKeys, AreTheOnlyWayIntoABox) {
+  form->txtFirst.Text = "12";
+  form->txtFirst.SelStart = 1;
+  form->txtFirst.Change = [this] { form->Log.push_back(form->txtFirst.Text()); };
+  Show();
+  PutOnClipboard(L"67");
+  const auto untouched = [this](const char* way) {
+    TakeMessages();
+    EXPECT_EQ(Shown(), "12") << way;
+    EXPECT_EQ(Selected(), Range(1, 1)) << way;
+    EXPECT_EQ(form->txtFirst.Text(), "12") << way;
+    EXPECT_EQ(form->txtFirst.SelStart, 1) << way;
+    EXPECT_EQ(Joined(form->Log), "") << way;
+  };
+  SendMessageW(Edit(), WM_PASTE, 0, 0);
+  untouched("a paste by another program");
+  SendMessageW(Edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"67"));
+  untouched("a text put in by another program");
+  SendMessageW(Edit(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"67"));
+  untouched("a text set by a screen reader");
+  SendMessageW(Edit(), WM_MBUTTONDOWN, MK_MBUTTON, At({5, 5}));
+  SendMessageW(Edit(), WM_MBUTTONUP, 0, At({5, 5}));
+  untouched("the middle button");
+  SendMessageW(Edit(), EM_SETSEL, 0, 1);
+  SendMessageW(Edit(), WM_CLEAR, 0, 0);
+  EXPECT_EQ(Shown(), "12") << "nor does anything else take something out";
+  Type(L"3");
+  EXPECT_EQ(form->txtFirst.Text(), Shown());
+}
+
+TEST_F(WinKeys, GetWhatAnInputMethodHandsOver) {
+  form->txtFirst.KeyPress = [](KeyEvent& key) {
+    if (key.Code < '0' || key.Code > '9') key.Code = 0;
+  };
+  Show();
+  for (const wchar_t unit : {L'3', L'x', L'\xFF15', L'4'}) SendMessageW(Edit(), WM_IME_CHAR, unit, 1);
+  TakeMessages();
+  EXPECT_EQ(form->txtFirst.Text(), "34");
+  EXPECT_EQ(Shown(), "34");
+  const HIMC context = ImmGetContext(Edit());
+  if (context == nullptr) GTEST_SKIP() << "this Windows has no input methods";
+  wchar_t composed[] = L"5y";
+  ImmSetCompositionStringW(context, SCS_SETSTR, composed, sizeof composed - sizeof(wchar_t), nullptr, 0);
+  ImmNotifyIME(context, NI_COMPOSITIONSTR, CPS_COMPLETE, 0);
+  ImmReleaseContext(Edit(), context);
+  TakeMessages();
+  EXPECT_EQ(Shown(), form->txtFirst.Text());
+  EXPECT_EQ(form->txtFirst.Text(), "345");
+}
+
 TEST_F(WinKeys, SelectAllAndBackspaceEmptyIt) {
   form->txtFirst.Text = "1234";
   Show();

@@ -46,6 +46,44 @@ TEST_F(WinModal, OtherWindowsOfTheThreadAreDisabledAndEnabledAgain) {
   platform->Release(*other);
 }
 
+TEST_F(WinModal, AnotherFormShownMeanwhileIsSeenAndTakesNoPressUntilItIsThrough) {
+  const auto other = Other();
+  other->cmdGo.Click = [this] { form->Log.push_back("click"); };
+  form->Left = 3000;
+  bool ran = false;
+  const auto pressed = [&] {
+    ClickReally(WindowOf(other->cmdGo), MiddleOf(WindowOf(other->cmdGo)));
+    Wait(50);
+  };
+  Later(20, [&] {
+    ran = true;
+    platform->Show(*other);
+    EXPECT_TRUE(IsWindowVisible(WindowOf(*other)));
+    EXPECT_FALSE(IsWindowEnabled(WindowOf(*other)));
+    EXPECT_EQ(GetActiveWindow(), Window());
+    HWND above = GetWindow(WindowOf(*other), GW_HWNDPREV);
+    while (above != nullptr && above != Window()) above = GetWindow(above, GW_HWNDPREV);
+    EXPECT_EQ(above, Window()) << "it stands behind the one that is open";
+    pressed();
+    SendMessageW(WindowOf(other->cmdGo), BM_CLICK, 0, 0);
+    Click(other->cmdGo);
+    SendMessageW(WindowOf(*other), WM_CLOSE, 0, 0);
+    EXPECT_EQ(Joined(form->Log), "");
+    EXPECT_EQ(Joined(other->Log), "");
+    EXPECT_EQ(GetActiveWindow(), Window());
+    Click(form->cmdGo);
+  });
+  platform->ShowModal(*form);
+  EXPECT_TRUE(ran);
+  EXPECT_TRUE(IsWindowEnabled(WindowOf(*other)));
+  EXPECT_TRUE(IsWindowEnabled(host));
+  platform->Show(*other);
+  EXPECT_EQ(GetActiveWindow(), WindowOf(*other)) << "shown once more it comes to the front";
+  pressed();
+  EXPECT_EQ(Joined(form->Log), "click");
+  platform->Release(*other);
+}
+
 TEST_F(WinModal, TheHostsWindowIsTheActiveOneAfterwards) {
   SetActiveWindow(host);
   ASSERT_EQ(GetActiveWindow(), host);

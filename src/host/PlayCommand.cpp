@@ -7,7 +7,7 @@
 #include <sstream>
 
 #ifdef TARNWISE_QT
-#include <QApplication>
+#include "host/QtStart.h"
 #endif
 #ifdef TARNWISE_WIN32
 #include "host/ComHost.h"
@@ -24,12 +24,11 @@ namespace {
 constexpr int kUnreadable = 2;
 
 int Play(Driver& driver, const PlayOptions& options, const MakeHosted& make = nullptr) {
-  std::error_code error;
-  if (options.Shots != ".") std::filesystem::create_directories(options.Shots, error);
   if (options.Script == "-") {
     return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr, make).Play();
   }
   std::ifstream script(options.Script);
+  std::error_code error;
   if (!script || std::filesystem::is_directory(options.Script, error)) {
     std::cerr << "The script " << options.Script << " can't be read.\n";
     return kUnreadable;
@@ -48,7 +47,7 @@ int PlaySession(const PlayOptions& options, int& argc, char** argv) {
   if (options.Toolkit == "headless") return Play(*MakeHeadlessDriver(), options);
 #ifdef TARNWISE_QT
   if (options.Toolkit == "qt") {
-    const QApplication application(argc, argv);
+    const std::unique_ptr<QApplication> application = StartQt(argc, argv);
     return Play(*MakeQtDriver(), options);
   }
 #endif

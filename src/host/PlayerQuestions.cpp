@@ -68,6 +68,8 @@ void Player::Shot(const String& file) {
   Form* const form = screen_->ActiveForm();
   if (form == nullptr) throw Refused("no form is open");
   const std::filesystem::path path = std::filesystem::path(shots_) / file;
+  std::error_code error;  // a folder that can't be made is a picture that can't be taken
+  if (driver_.TakesPictures()) std::filesystem::create_directories(path.parent_path(), error);
   if (driver_.Shot(*form, path.string())) {
     Print({{"shot", file}});
   } else {

@@ -1,6 +1,6 @@
+#include "host/QtStart.h"
 #include "host/RunScreen.h"
 
-#include <QApplication>
 #include <cstdlib>
 #include <iostream>
 
@@ -25,7 +25,7 @@ void WaitForEnd() {
 }  // namespace
 
 RunScreen OpenScreen(int& argc, char** argv, bool /*com*/) {
-  const auto application = std::make_shared<QApplication>(argc, argv);
+  const std::shared_ptr<QApplication> application = StartQt(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return {[application] { return HostLinked(MakeQtPlatform()); }, WaitForEnd, [] { QApplication::quit(); }};
 }

@@ -72,8 +72,8 @@ TEST(WizardData, AModelWithoutAttributesHasEmptyLists) {
 
 TEST(WizardData, AnEmptyGroupsReferenceIsNotTheFirstAttribute) {
   Session s(ModelOf(2, 0));
-  s.Given(String(kOpenOrdering) + "click cmdAdd\n" + Drags("cmdAttA", {"picOrder(0)", "picOrder(1)"}) +
-          "click cmdNext\nclick cmdAttButtons(1)\nclick cmdNext");
+  const String ranks = Drags("cmdAttA", {"picOrder(0)", "picOrder(1)"});
+  s.Given(kOpenOrdering + ("click cmdAdd\n" + ranks) + "click cmdNext\nclick cmdAttButtons(1)\nclick cmdNext");
   EXPECT_EQ(s.Ask("data CRefAttID\nget frmDirectB.imgcmbTargetAtt.SelectedItem\ndata RefAttWR"), Lines({"0", "1", "1"}))
       << "attribute 0 is a target like any other";
 }

@@ -27,10 +27,10 @@ class Toolkit {
   virtual void Beep() = 0;
   virtual void SetPointer(int pointer) = 0;
   virtual void Help(Form& form, const String& path, int command, int context) = 0;
-  virtual void Focus(Control& control) = 0;           // the tree's focus has gone there
-  virtual void AnnounceChange(Control& control) = 0;  // a verdict changed: tell a screen reader
-  virtual Single TextWidth(const String& text) = 0;   // twips, in a grid's font
-  virtual Single ScreenWidth() = 0;                   // twips
+  virtual void Focus(Control& control) = 0;          // the tree's focus has gone there
+  virtual void AnnounceChange(Label& label) = 0;     // tell a screen reader what it says now
+  virtual Single TextWidth(const String& text) = 0;  // twips, in a grid's font
+  virtual Single ScreenWidth() = 0;                  // twips
   virtual Single ScreenHeight() = 0;
 };
 
@@ -71,7 +71,6 @@ class Platform {
   int Pointer() const { return pointer_; }
   void Help(Form& form, const String& path, int command, int context);
   void SetFocus(Control& control);  // by the program; nothing happens where the control can't take it
-  void AnnounceChange(Control& control);
   Single TextWidth(const String& text) { return toolkit_->TextWidth(text); }
 
   // Tells the user of a fault. `in` is the handler that ended.

@@ -28,7 +28,7 @@ void HeadlessToolkit::Beep() {}
 void HeadlessToolkit::SetPointer(int /*pointer*/) {}
 void HeadlessToolkit::Help(Form& /*form*/, const String& /*path*/, int /*command*/, int /*context*/) {}
 void HeadlessToolkit::Focus(Control& /*control*/) {}
-void HeadlessToolkit::AnnounceChange(Control& /*control*/) {}
+void HeadlessToolkit::AnnounceChange(Label& /*label*/) {}
 
 Single HeadlessToolkit::TextWidth(const String& text) { return kTwipsPerCharacter * static_cast<Single>(Length(text)); }
 Single HeadlessToolkit::ScreenWidth() { return 28800.0F; }

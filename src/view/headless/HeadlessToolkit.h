@@ -21,7 +21,7 @@ class HeadlessToolkit : public Toolkit {
   void SetPointer(int pointer) override;
   void Help(Form& form, const String& path, int command, int context) override;
   void Focus(Control& control) override;
-  void AnnounceChange(Control& control) override;
+  void AnnounceChange(Label& label) override;
   Single TextWidth(const String& text) override;
   Single ScreenWidth() override;
   Single ScreenHeight() override;

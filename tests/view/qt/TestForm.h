@@ -5,6 +5,7 @@
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
+#include "view/forms/WizardForm.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtToolkit.h"
 
@@ -18,13 +19,6 @@
 #include <vector>
 
 namespace Tarnwise {
-
-inline void Place(Control& control, Single left, Single top, Single width, Single height) {
-  control.Left = left;
-  control.Top = top;
-  control.Width = width;
-  control.Height = height;
-}
 
 struct TestForm : Form {
   explicit TestForm(std::shared_ptr<Platform> platform, const String& name = "frmTest")

@@ -1,7 +1,5 @@
 #include "judging/JudgmentLights.h"
 
-#include "view/Platform.h"
-
 namespace Tarnwise {
 
 namespace {
@@ -16,11 +14,8 @@ int LightOf(JudgmentState state) { return state == kConsistent ? 0 : state == kI
 
 void Light(LightControls& lights, int inForce) {
   for (int i = 0; i < 3; ++i) {
-    Label& caption = lights.lblAlarm[i];
-    const bool changes = i == inForce && caption.ForeColor != kHighlightText;
     lights.shpAlarm[i].FillColor = i == inForce ? kEntered[i] : kOut;
-    caption.ForeColor = i == inForce ? kHighlightText : kBlack;
-    if (changes) caption.Owner.Screen().AnnounceChange(caption);
+    lights.lblAlarm[i].ForeColor = i == inForce ? kHighlightText : kBlack;
   }
 }
 

@@ -66,7 +66,10 @@ void Player::Call(const std::vector<String>& words) {
 void Player::Shot(const String& file) {
   Form* const form = screen_->ActiveForm();
   if (form == nullptr) throw Refused("no form is open");
-  if (driver_.Shot(*form, TextFromPath(PathFromText(shots_) / PathFromText(file)))) {
+  const std::filesystem::path path = PathFromText(shots_) / PathFromText(file);
+  std::error_code error;  // a folder that can't be made is a picture that can't be taken
+  if (driver_.TakesPictures()) std::filesystem::create_directories(path.parent_path(), error);
+  if (driver_.Shot(*form, TextFromPath(path))) {
     Print({{"shot", file}});
   } else {
     Print({{"shot", nullptr}});

@@ -8,8 +8,8 @@ namespace Tarnwise {
 struct PlayOptions {
   String Script;  // "-": standard input
   String Toolkit = "headless";
-  String Shots = ".";
-  bool Com = false;  // the registered class instead of the linked one
+  String Shots = "out";  // folder of the pictures, made when the first is taken
+  bool Com = false;      // the registered class instead of the linked one
 };
 
 int PlaySession(const PlayOptions& options, int& argc, char** argv);

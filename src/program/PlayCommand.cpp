@@ -13,13 +13,12 @@ namespace {
 constexpr int kUnreadable = 2;
 
 int Play(Driver& driver, const PlayOptions& options, const MakeHosted& make) {
-  std::error_code error;
-  if (options.Shots != ".") std::filesystem::create_directories(PathFromText(options.Shots), error);
   if (options.Script == "-") {
     return Player(driver, std::cin, ".", options.Shots, std::cout, std::cerr, make).Play();
   }
   const std::filesystem::path path = PathFromText(options.Script);
   std::ifstream script(path);
+  std::error_code error;
   if (!script || std::filesystem::is_directory(path, error)) {
     std::cerr << "The script " << options.Script << " can't be read.\n";
     return kUnreadable;

@@ -1,6 +1,6 @@
+#include "program/QtStart.h"
 #include "program/Screens.h"
 
-#include <QApplication>
 #include <cstdlib>
 #include <iostream>
 
@@ -28,14 +28,14 @@ const char* const kToolkits = "headless or qt";
 const bool kHasCom = false;
 
 RunScreen OpenScreen(int& argc, char** argv, bool /*com*/) {
-  const auto application = std::make_shared<QApplication>(argc, argv);
+  const std::shared_ptr<QApplication> application = StartQt(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return {[application] { return HostLinked(MakeQtPlatform()); }, WaitForEnd, [] { QApplication::quit(); }};
 }
 
 std::optional<PlayScreen> OpenPlayScreen(const String& toolkit, bool /*com*/, int& argc, char** argv) {
   if (toolkit != "qt") return std::nullopt;
-  const auto application = std::make_shared<QApplication>(argc, argv);
+  const std::shared_ptr<QApplication> application = StartQt(argc, argv);
   return PlayScreen{application, MakeQtDriver(), nullptr};
 }
 

@@ -26,7 +26,8 @@ int Main(int argc, char** argv) {
   PlayOptions play;
   CLI::App* const playCommand = app.add_subcommand("play", "Drive the wizard by a session script");
   playCommand->add_option("--toolkit", play.Toolkit, kToolkits)->capture_default_str();
-  playCommand->add_option("--shots", play.Shots, "Folder for the pictures that the script takes");
+  playCommand->add_option("--shots", play.Shots, "Folder for the pictures that the script takes; made when needed")
+      ->capture_default_str();
   playCommand->add_option("SCRIPT", play.Script, "Script file, or - for standard input")->required();
 
   if (kHasCom) {

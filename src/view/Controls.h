@@ -42,6 +42,7 @@ enum class Kind {
 enum class ScaleMode { Twips, Pixels };
 enum class Align { Left, Right, Centre };
 enum class DragState { Enter = 0, Leave = 1, Over = 2 };
+enum class Announce { Never, Caption, Lit };  // what a screen reader is told: each new caption, or one that lights up
 enum class DragBy { Targets, Units };  // what the keyboard does with a source: walk the targets, or move it by units
 
 constexpr Single kTwipsPerPixel = 15.0F;
@@ -108,7 +109,8 @@ struct Label : Control {
   Property<bool> Bold{*this, false};
   Property<int> Points{*this, 9};  // size of the type
   Property<bool> WordWrap{*this, false};
-  Property<bool> Announces{*this, false};  // a screen reader is told of a new caption or colour
+  Announce Announces = Announce::Never;
+  String Told;  // what a screen reader has heard of it last
 };
 
 struct CommandButton : Control {

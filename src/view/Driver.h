@@ -38,7 +38,8 @@ class Driver {
   virtual void Scroll(VScrollBar& bar, int value) = 0;
   virtual void Tick(Timer& timer) = 0;
   virtual void Close(Form& form) = 0;
-  virtual bool Shot(Form& form, const String& path) = 0;  // false: this toolkit takes no pictures
+  virtual bool TakesPictures() const { return true; }
+  virtual bool Shot(Form& form, const String& path) = 0;  // false: there is no picture there
 };
 
 std::unique_ptr<Driver> MakeHeadlessDriver();

@@ -2,6 +2,7 @@
 
 #include "view/Dispatch.h"
 #include "view/Reach.h"
+#include "view/Speech.h"
 
 #include <algorithm>
 #include <utility>
@@ -71,6 +72,7 @@ void Platform::Show(Form& form) {
   if (form.ActiveControl == nullptr) form.ActiveControl = NextInTabOrder(form, false);
   form.Activate();
   if (Trace.Shown) Trace.Shown(form, false);
+  TakeAsTold(form);
   SyncAll();
   toolkit_->Show(form, ShowingOf(form));
 }
@@ -85,6 +87,7 @@ void Platform::ShowModal(Form& form) {
   if (form.ActiveControl == nullptr) form.ActiveControl = NextInTabOrder(form, false);
   form.Activate();
   if (hidden && Trace.Shown) Trace.Shown(form, true);
+  if (hidden) TakeAsTold(form);
   SyncAll();
   toolkit_->Show(form, Showing::Modal);
   const FreshHandlers fresh(HandlerDepth);
@@ -174,8 +177,6 @@ void Platform::SetFocus(Control& control) {
   }
 }
 
-void Platform::AnnounceChange(Control& control) { toolkit_->AnnounceChange(control); }
-
 void Platform::ReportError(const RuntimeError& error, const String& in) {
   if (pointer_ != 0) SetPointer(0);
   if (Trace.Failed && Trace.Failed(error, in)) {
@@ -194,8 +195,10 @@ void Platform::SyncAll() {
   for (Form* form : std::vector<Form*>(forms_)) {
     if (form->ChangedControls.empty()) continue;
     toolkit_->Sync(*form);
+    const std::vector<Label*> news = form->Visible ? TakeNews(*form) : std::vector<Label*>();
     for (Control* control : form->ChangedControls) control->Changed = false;
     form->ChangedControls.clear();
+    for (Label* label : news) toolkit_->AnnounceChange(*label);
   }
 }
 

@@ -31,13 +31,13 @@ class Toolkit {
   virtual void MessageBox(Form* over, const String& text, int style, const String& title) = 0;
   virtual void Beep() = 0;
   virtual void SetPointer(int pointer) = 0;
-  virtual void Help(Form& form, const String& path, int command,
-                    int context) = 0;  // where the host has no way of its own
+  // Where the host has no way of its own.
+  virtual void Help(Form& form, const String& path, int command, int context) = 0;
   virtual WindowHandle WindowOf(const Form& form) = 0;
-  virtual void Focus(Control& control) = 0;           // the tree's focus has gone there
-  virtual void AnnounceChange(Control& control) = 0;  // a verdict changed: tell a screen reader
-  virtual Single TextWidth(const String& text) = 0;   // twips, in a grid's font
-  virtual Single ScreenWidth() = 0;                   // twips
+  virtual void Focus(Control& control) = 0;          // the tree's focus has gone there
+  virtual void AnnounceChange(Label& label) = 0;     // tell a screen reader what it says now
+  virtual Single TextWidth(const String& text) = 0;  // twips, in a grid's font
+  virtual Single ScreenWidth() = 0;                  // twips
   virtual Single ScreenHeight() = 0;
 };
 
@@ -79,7 +79,6 @@ class Platform {
   int Pointer() const { return pointer_; }
   void Help(Form& form, const String& path, int command, int context);
   void SetFocus(Control& control);  // by the program; nothing happens where the control can't take it
-  void AnnounceChange(Control& control);
   Single TextWidth(const String& text) { return toolkit_->TextWidth(text); }
 
   // Tells the user of a fault. `in` is the handler that ended.

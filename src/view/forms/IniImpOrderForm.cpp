@@ -107,7 +107,7 @@ ReferenceControls::ReferenceControls(Form& form, Control& stage, bool benefit)
   Place(lblRefAtt, GroupLeft(benefit), kOrderFrameHeight + 1110.0F, kFrameWidth, 420.0F);
   lblRefAtt.Points = 12;
   lblRefAtt.AccessibleName = benefit ? "Benefit reference" : "Cost reference";
-  lblRefAtt.Announces = true;
+  lblRefAtt.Announces = Announce::Caption;
 }
 
 IniImpOrderForm::IniImpOrderForm(std::shared_ptr<Platform> platform)

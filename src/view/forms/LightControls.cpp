@@ -5,7 +5,7 @@ namespace Tarnwise {
 LightControls::LightControls(Form& form, Control& stage)
     : picJudgmentState(form, &stage, "picJudgmentState"),
       shpAlarm(form, &picJudgmentState, "shpAlarm", [](Shape& /*lamp*/) {}),
-      lblAlarm(form, &picJudgmentState, "lblAlarm", [](Label& label) { label.Announces = true; }),
+      lblAlarm(form, &picJudgmentState, "lblAlarm", [](Label& label) { label.Announces = Announce::Lit; }),
       Timer1(form, &form, "Timer1") {
   const char* const captions[] = {"Consistent", "Invalid", "Inconsistent"};
   for (int i = 0; i < 3; ++i) {

@@ -49,6 +49,7 @@ class HeadlessDriver : public Driver {
 
   void Tick(Timer& timer) override { Input::Tick(timer); }
   void Close(Form& form) override { Input::CloseForm(form); }
+  bool TakesPictures() const override { return false; }
   bool Shot(Form& /*form*/, const String& /*path*/) override { return false; }
 
  private:

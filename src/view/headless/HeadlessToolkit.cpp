@@ -29,7 +29,7 @@ void HeadlessToolkit::SetPointer(int /*pointer*/) {}
 void HeadlessToolkit::Help(Form& /*form*/, const String& /*path*/, int /*command*/, int /*context*/) {}
 WindowHandle HeadlessToolkit::WindowOf(const Form& /*form*/) { return 0; }
 void HeadlessToolkit::Focus(Control& /*control*/) {}
-void HeadlessToolkit::AnnounceChange(Control& /*control*/) {}
+void HeadlessToolkit::AnnounceChange(Label& /*label*/) {}
 
 Single HeadlessToolkit::TextWidth(const String& text) { return kTwipsPerCharacter * static_cast<Single>(Length(text)); }
 Single HeadlessToolkit::ScreenWidth() { return 28800.0F; }

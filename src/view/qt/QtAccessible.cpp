@@ -139,11 +139,14 @@ void InstallAccessibility() {
   installed = true;
 }
 
-void Announce(QtForm& form, Control& control) {
-  QWidget* const widget = form.WidgetOf(control);
-  if (widget == nullptr || !QAccessible::isActive()) return;
-  QAccessibleEvent named(widget, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&named);
+// Some platforms pass on an alert, others a changed name alone. A new caption has changed the widget's name already.
+void TellOf(QtForm& form, const Label& label) {
+  QWidget* const widget = form.WidgetOf(label);
+  if (widget == nullptr) return;
+  if (label.Announces == Announce::Lit) {
+    QAccessibleEvent named(widget, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&named);
+  }
   QAccessibleEvent alert(widget, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }

@@ -9,6 +9,6 @@ namespace Tarnwise {
 class QtForm;
 
 void InstallAccessibility();
-void Announce(QtForm& form, Control& control);
+void TellOf(QtForm& form, const Label& label);
 
 }  // namespace Tarnwise

@@ -2,6 +2,7 @@
 
 #include "view/Platform.h"
 #include "view/Reach.h"
+#include "view/Speech.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtLifetime.h"
 #include "view/qt/QtPaint.h"
@@ -42,7 +43,7 @@ class FormWindow : public QWidget {
 };
 
 void SetName(QWidget& widget, const Control& control) {
-  const QString name = Text(control.AccessibleName);
+  const QString name = Text(SpokenName(control));
   if (widget.accessibleName() != name) widget.setAccessibleName(name);
   if (control.DragAutomatic && widget.accessibleDescription().isEmpty()) {
     widget.setAccessibleDescription("Space picks it up, the arrow keys move it, Space drops it, Escape gives up.");

@@ -1,4 +1,5 @@
 // Grids: a table to look at, its first row the heading that stays when the others scroll.
+#include "view/GridColumns.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
@@ -6,35 +7,22 @@
 #include <QHeaderView>
 #include <QTableWidget>
 #include <algorithm>
-#include <cmath>
 
 namespace Tarnwise {
 
 namespace {
 
 constexpr int kRowHeight = 26;
-constexpr int kCellMargin = 10;
-constexpr int kDefaultWidth = 64;
+constexpr double kPixelsPerTwip = 1.0 / 15.0;
 
 class GridWidget : public QTableWidget {
  public:
   using QTableWidget::QTableWidget;
   std::vector<int> Widths;  // twips
 
-  // Columns get the widths of the record, and share what room is left over.
   void SpreadColumns() {
-    int sum = 0;
-    std::vector<int> pixels;
-    for (const int width : Widths) {
-      pixels.push_back(width == 0 ? kDefaultWidth : static_cast<int>(std::ceil(width / 15.0)) + kCellMargin);
-      sum += pixels.back();
-    }
-    const int count = std::max(static_cast<int>(pixels.size()), 1);
-    const int spare = std::max(viewport()->width() - sum, 0);
-    for (int i = 0; i < static_cast<int>(pixels.size()); ++i) {
-      const int share = spare * (i + 1) / count - spare * i / count;
-      setColumnWidth(i, pixels[static_cast<std::size_t>(i)] + share);
-    }
+    const std::vector<int> pixels = ColumnWidths(Widths, kPixelsPerTwip, viewport()->width());
+    for (int i = 0; i < static_cast<int>(pixels.size()); ++i) setColumnWidth(i, pixels[static_cast<std::size_t>(i)]);
   }
 
  protected:
@@ -55,6 +43,7 @@ QWidget* MakeGrid(QtForm& form, Control& control, QWidget& parent) {
   table->verticalHeader()->setDefaultSectionSize(kRowHeight);
   table->horizontalHeader()->setSectionsClickable(false);
   table->horizontalHeader()->setHighlightSections(false);
+  table->horizontalHeader()->setMinimumSectionSize(1);  // the proportions come first
   table->horizontalHeader()->setFixedHeight(kRowHeight + 2);
   table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);

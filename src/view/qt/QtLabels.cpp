@@ -1,5 +1,4 @@
 // Labels, images and frames.
-#include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
@@ -132,7 +131,6 @@ void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   const bool marked = Caption(label.Caption).contains('&') && PlainCaption(label.Caption) != Text(label.Caption);
   const QString text = marked ? Caption(label.Caption) : Text(label.Caption);
   const QString plain = PlainCaption(label.Caption);
-  const bool news = label.Announces && lit && (!shown.Lit || shown.text() != text);
   const int room = std::max(widget.width() - (lit ? 8 : 0), 1);
   const QFont base = BaseFont(label.Points, label.Bold);
   const QFont font = label.WordWrap ? base : FittedFont(base, plain, room);
@@ -149,7 +147,6 @@ void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   shown.Ground = ground;
   SetInk(shown, InkOf(label, widget.window()->palette()));
   if (marked) SetBuddy(form, label, shown);
-  if (news) control.Owner.Screen().Tools().AnnounceChange(control);
 }
 
 QWidget* MakeImage(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new ImageWidget(&parent); }

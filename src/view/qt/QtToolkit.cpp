@@ -126,8 +126,8 @@ void QtToolkit::Focus(Control& control) {
   if (QtForm* const shown = FormOf(control.Owner)) shown->Sync();
 }
 
-void QtToolkit::AnnounceChange(Control& control) {
-  if (QtForm* const shown = FormOf(control.Owner)) Announce(*shown, control);
+void QtToolkit::AnnounceChange(Label& label) {
+  if (QtForm* const shown = FormOf(label.Owner)) TellOf(*shown, label);
 }
 
 Single QtToolkit::TextWidth(const String& text) {

@@ -38,7 +38,7 @@ class QtToolkit : public Toolkit {
   void Help(Form& form, const String& path, int command, int context) override;
   WindowHandle WindowOf(const Form& form) override;
   void Focus(Control& control) override;
-  void AnnounceChange(Control& control) override;
+  void AnnounceChange(Label& label) override;
   Single TextWidth(const String& text) override;
   Single ScreenWidth() override;
   Single ScreenHeight() override;

@@ -1,4 +1,5 @@
 // Grids: a list view in report form to look at, the first row of the record its heading.
+#include "view/GridColumns.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
@@ -7,15 +8,12 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr int kCellMargin = 16;  // pixels of the design
-constexpr int kDefaultWidth = 64;
-constexpr int kRowHeight = 24;
+constexpr int kRowHeight = 24;  // pixels of the design
 
 HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
   const HWND window = NewChild(
@@ -103,21 +101,12 @@ void SyncGrid(WinForm& form, Control& control, HWND window) {
 
 }  // namespace
 
-// Columns get the widths of the record, and share what room is left over.
 void SpreadColumns(const Grid& grid, HWND list, double scale) {
   RECT client{};
   GetClientRect(list, &client);
-  int sum = 0;
-  std::vector<int> widths;
-  for (const int width : grid.ColWidth) {
-    const int pixels = width == 0 ? kDefaultWidth : static_cast<int>(std::ceil(width / 15.0)) + kCellMargin;
-    widths.push_back(Scaled(pixels, scale));
-    sum += widths.back();
-  }
-  const int count = static_cast<int>(widths.size());
-  const int spare = std::max(static_cast<int>(client.right) - sum, 0);
-  for (int i = 0; i < count; ++i) {
-    const int wanted = widths[static_cast<std::size_t>(i)] + spare * (i + 1) / count - spare * i / count;
+  const std::vector<int> widths = ColumnWidths(grid.ColWidth, scale / 15.0, client.right);
+  for (int i = 0; i < static_cast<int>(widths.size()); ++i) {
+    const int wanted = widths[static_cast<std::size_t>(i)];
     if (ListView_GetColumnWidth(list, i) != wanted) ListView_SetColumnWidth(list, i, wanted);
   }
 }

@@ -1,6 +1,6 @@
 // Labels: static controls that we draw, so that they are see-through, fitted to their room, and lit where they signal.
 #include "view/Captions.h"
-#include "view/Platform.h"
+#include "view/Speech.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
@@ -51,15 +51,13 @@ bool IsMarked(const Label& label) {
 void SyncLabel(WinForm& form, Control& control, HWND window) {
   auto& label = static_cast<Label&>(control);
   const std::wstring plain = Wide(UnmarkedCaption(label.Caption));
-  const bool news = label.Announces && IsLit(label) && TextOf(window) != plain;
-  SetText(window, plain);
+  SetText(window, Wide(SpokenName(label)));
   RECT client{};
   GetClientRect(window, &client);
   const HFONT font = FittedFont(form.Scale(), label.Points, label.Bold, plain, client.right);
   const bool cut = !label.WordWrap && TextWidthIn(font, plain) > client.right + 1;
   if (label.ToolTipText().empty()) form.SetTip(window, cut ? plain : std::wstring());
   InvalidateRect(window, nullptr, FALSE);
-  if (news) control.Owner.Screen().Tools().AnnounceChange(control);
 }
 
 void DrawLabel(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {

@@ -196,11 +196,12 @@ void WinToolkit::Focus(Control& control) {
   if (WinForm* const shown = FormOf(control.Owner)) shown->Sync();
 }
 
-void WinToolkit::AnnounceChange(Control& control) {
-  const WinForm* const shown = FormOf(control.Owner);
-  const HWND window = shown != nullptr ? shown->WindowOf(control) : nullptr;
+// A new caption has changed the window's text, and Windows has told of that.
+void WinToolkit::AnnounceChange(Label& label) {
+  const WinForm* const shown = FormOf(label.Owner);
+  const HWND window = shown != nullptr ? shown->WindowOf(label) : nullptr;
   if (window == nullptr) return;
-  NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
+  if (label.Announces == Announce::Lit) NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
   NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
 }
 

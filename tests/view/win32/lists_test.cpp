@@ -257,20 +257,6 @@ TEST_F(WinLists, AGridShowsItsCellsAndItsHeading) {
   EXPECT_EQ(Heading(1), L"");
 }
 
-TEST_F(WinLists, AGridsColumnsFillItsWidth) {
-  form->grdRows.Shape(2, 2);
-  form->grdRows.SetColWidth(0, 300);
-  form->grdRows.SetColWidth(1, 900);
-  Show();
-  const HWND grid = WindowOf(form->grdRows);
-  RECT client{};
-  GetClientRect(grid, &client);
-  const int first = ListView_GetColumnWidth(grid, 0);
-  const int second = ListView_GetColumnWidth(grid, 1);
-  EXPECT_EQ(first + second, client.right);
-  EXPECT_NEAR(second - first, 40, 1);
-}
-
 TEST_F(WinLists, AToolIsPressedWithoutTheFocus) {
   form->tbMoves.ButtonClick = [this](const String& key) { form->Log.push_back(key); };
   form->txtFirst.LostFocus = [this] { form->Log.push_back("lost"); };

@@ -22,6 +22,12 @@ VariantArray NumbersOf(const Json& file, const char* name, int numAtts) {
   return numbers;
 }
 
+Json JsonOf(const Points& points) {
+  Json file = Json::object();
+  for (std::size_t i = 0; i < points.size(); ++i) file[kNames[i]] = ToJson(points[i]);
+  return file;
+}
+
 }  // namespace
 
 String PointsPath(const String& modelPath) { return modelPath + ".points.json"; }
@@ -49,10 +55,10 @@ Points ReadPoints(const String& modelPath, int numAtts) {
   }
 }
 
+String PointsText(const Points& points) { return JsonOf(points).dump(); }
+
 void WritePoints(const String& modelPath, const Points& points) {
-  Json file = Json::object();
-  for (std::size_t i = 0; i < points.size(); ++i) file[kNames[i]] = ToJson(points[i]);
-  const String text = file.dump(2) + "\n";
+  const String text = JsonOf(points).dump(2) + "\n";
   WriteFileAtomically(PointsPath(modelPath), {text.begin(), text.end()});
 }
 

@@ -18,6 +18,9 @@ Points ZeroPoints(int numAtts);
 // ModelFault.
 Points ReadPoints(const String& modelPath, int numAtts);
 
+// Their JSON on one line.
+String PointsText(const Points& points);
+
 void WritePoints(const String& modelPath, const Points& points);
 
 }  // namespace Tarnwise

@@ -1,5 +1,7 @@
-// The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files.
+// The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files, imports
+// projects.
 #include "host/Commands.h"
+#include "host/ImportCommand.h"
 #include "host/ModelCommands.h"
 
 #include <CLI/CLI.hpp>
@@ -34,6 +36,9 @@ int Main(int argc, char** argv) {
   playCommand->add_flag("--com", play.Com, comHelp);
 #endif
 
+  ImportOptions import;
+  const CLI::App* const importCommand = AddImportCommand(app, import);
+
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
   std::string from;
@@ -50,6 +55,7 @@ int Main(int argc, char** argv) {
     return app.exit(error);
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
+  if (importCommand->parsed()) return ImportProject(import, TimeNow(), std::cout, std::cerr);
   if (build->parsed()) return BuildModel(from, to, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, std::cout, std::cerr);
 #ifdef TARNWISE_RUN

@@ -107,7 +107,7 @@ std::string_view WithoutBlanks(std::string_view text) {
 
 String OnOneLine(std::string_view name) {
   String line;
-  for (const char c : WithoutBlanks(name)) {
+  for (const char c : name) {
     const bool blank = c == ' ' || c == '\t' || c == '\r' || c == '\n';
     if (!blank) {
       line += c;
@@ -115,7 +115,7 @@ String OnOneLine(std::string_view name) {
       line += ' ';
     }
   }
-  return line;
+  return String(WithoutBlanks(line));
 }
 
 String CsvCellText(std::string_view text, char delimiter) {

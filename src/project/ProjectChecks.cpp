@@ -122,7 +122,7 @@ void CheckJudgments(const Project& project, const JudgmentSession& session, cons
   if (!session.Cross || !session.Cross->Judged) return;
   const auto& ratio = session.Cross->Ratio;
   if (!ratio) Refuse("ratio", "cross of " + of, "it is missing");
-  if (!std::isfinite(*ratio) || *ratio <= 0.0) Refuse("ratio", "cross of " + of, "it must be above 0");
+  if (!std::isfinite(*ratio) || *ratio <= 0.0) Refuse("ratio", "cross of " + of, "it must be above 0 and finite");
 }
 
 String SessionPlace(std::size_t session) { return "session " + std::to_string(session); }
@@ -210,8 +210,13 @@ std::vector<String> SessionNotes(const Project& project, std::size_t session) {
     }
     if (attribute.Name == judged.BenefitReference || attribute.Name == judged.CostReference) continue;
     if (!attribute.Judged) continue;
-    if (attribute.Low == 0.0) notes.push_back(name + " has no lower bound: low is 0");
-    if (attribute.High == 0.0) notes.push_back(name + " has no upper bound: high is 0");
+    if (attribute.Low == 0.0 && attribute.High == 0.0) {
+      notes.push_back(name + " is not judged: low and high are 0");
+    } else if (attribute.Low == 0.0) {
+      notes.push_back(name + " has no lower bound: low is 0");
+    } else if (attribute.High == 0.0) {
+      notes.push_back(name + " has no upper bound: high is 0");
+    }
   }
   return notes;
 }

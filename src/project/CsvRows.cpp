@@ -120,6 +120,7 @@ String OnOneLine(std::string_view name) {
 
 String CsvCellText(std::string_view text, char delimiter) {
   const bool plain = !text.empty() && WithoutBlanks(text).size() == text.size() && text.front() != '"' &&
+                     !text.starts_with("sep=") &&
                      text.find_first_of(String("\r\n") + delimiter) == std::string_view::npos;
   if (plain) return String(text);
   String quoted = "\"";

@@ -34,6 +34,7 @@ struct Made {
 
 String CountsText(const std::vector<ColumnCount>& counts) {
   std::vector<String> items;
+  items.reserve(counts.size());
   for (const ColumnCount& count : counts) items.push_back(ShownName(count.Column) + " " + std::to_string(count.Count));
   return Enumerated(items);
 }

@@ -87,6 +87,7 @@ std::vector<Trial> Those(const std::vector<Trial>& trials, Condition condition) 
 
 [[noreturn]] void RefuseAsUnclear(const std::vector<Trial>& trials) {
   std::vector<String> readings;
+  readings.reserve(trials.size());
   for (const Trial& t : trials) readings.push_back(NameOfDelimiter(t.Sign) + " (" + CountOf(t.Width, "column") + ")");
   throw ModelFault("what separates the cells is unclear: " + Enumerated(readings, " or ") +
                    "? Say which with --delimiter");

@@ -62,6 +62,7 @@ std::vector<ValuePoint> CurveOf(const Model& model, int i, const String& place) 
     throw ModelFault("curve of " + place + ": it says that it has " + std::to_string(count) + " points");
   }
   std::vector<ValuePoint> curve;
+  curve.reserve(kMaxCurvePoints);
   for (int k = 0; k < count; ++k) {
     curve.push_back({CurveNumber(values.ValuePointX(i, k), place), CurveNumber(values.ValuePointY(i, k), place)});
   }

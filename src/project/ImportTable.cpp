@@ -118,6 +118,7 @@ FoundFormat FormatOf(const CsvTable& table, const Plan& plan, const NumberOption
 [[noreturn]] void RefuseUnclear(const CsvTable& table, std::size_t column, const std::vector<std::size_t>& rows,
                                 const NumberFormat& format) {
   std::vector<String> cells;
+  cells.reserve(rows.size());
   for (const std::size_t row : rows)
     cells.push_back(Shown(table.Cell(row, column)) + " (" + LineOfRow(table, row) + ")");
   throw ModelFault("column " + Shown(table.Names[column]) + ": " + Enumerated(cells) +

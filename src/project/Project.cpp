@@ -15,7 +15,7 @@ constexpr std::array<const char*, 2> kOrientations = {"in", "out"};
 
 template <class Enum, std::size_t N>
 const char* NameIn(const std::array<const char*, N>& names, Enum value) {
-  return names[static_cast<std::size_t>(value)];
+  return names.at(static_cast<std::size_t>(value));
 }
 
 template <class Enum, std::size_t N>

@@ -30,7 +30,8 @@ class TemporaryFolder {
   }
 
   String Write(const String& name, const std::vector<char>& bytes) const {
-    std::ofstream(path_ / InUtf8(name), std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path_ / InUtf8(name), std::ios::binary)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return File(name);
   }
   String Write(const String& name, const String& text) const {

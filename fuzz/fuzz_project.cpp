@@ -34,12 +34,22 @@ void CheckWritten(const Project& project) {
   Expect(ProjectText(*again) == text, "written otherwise the second time");
 }
 
+void CheckBounds(const JudgmentSession& session, const SessionAttribute& attribute) {
+  if (!IsJudged(session, attribute.Name)) return;
+  Expect(attribute.Low && attribute.High, "judged without a bound");
+  Expect(*attribute.Low >= 0.0 && *attribute.High >= 0.0, "a negative bound");
+  Expect(*attribute.Low <= *attribute.High || *attribute.High == 0.0, "low above high");
+}
+
 // Of a project that passes every check results can be asked for.
 void CheckChecks(const Project& project) {
   Expect(Passes(CheckRecords, project), "read, but its records are refused");
   const auto session = SessionInUse(project);
   Expect(!session || *session < project.Sessions.size(), "a session in use that is not there");
   for (std::size_t i = 0; i < project.Sessions.size(); ++i) (void)SessionNotes(project, i);
+  for (const JudgmentSession& judged : project.Sessions) {
+    for (const SessionAttribute& attribute : judged.Attributes) CheckBounds(judged, attribute);
+  }
   if (!Passes(CheckProject, project)) return;
   for (const DataColumn& column : project.Columns) {
     Expect(column.Values.size() == project.Units.size(), "a column of another length");

@@ -79,7 +79,7 @@ void CheckPreview(const String& text, CsvOptions options, const CsvTable& table)
   String fault;
   const auto preview = Read(text, options, fault);
   Expect(preview.has_value(), "refused in the preview only: " + fault);
-  Expect(preview->Names == table.Names && preview->RowsInFile == table.Rows(), "the preview is of another table");
+  Expect(preview->Names == table.Names && preview->RowsInFile() == table.Rows(), "the preview is of another table");
   Expect(preview->Rows() == std::min<std::size_t>(table.Rows(), 1), "the preview is longer than it should be");
   if (preview->Rows() == 1) Expect(SameRow(table, *preview, 0), "the preview's row is another");
 }

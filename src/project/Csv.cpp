@@ -168,8 +168,7 @@ CsvTable ReadCsv(std::vector<char> bytes, const CsvOptions& options) {
   const std::size_t width = WidthOf(table);
   table.Header = options.Header ? *options.Header : FindHeader(table, width, options.Columns);
   TakeNames(table, width);
-  table.RowsInFile = table.Rows();
-  if (table.Rows() > options.MostRows) table.Lines.resize(options.MostRows);
+  table.MostRows = options.MostRows;
   return table;
 }
 

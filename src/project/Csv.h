@@ -5,6 +5,7 @@
 #include "project/NumberText.h"
 #include "project/TextEncoding.h"
 
+#include <algorithm>
 #include <deque>
 #include <limits>
 #include <string_view>
@@ -17,7 +18,8 @@ struct CsvOptions {
   std::optional<char> Delimiter;
   std::optional<bool> Header;   // whether the first row holds the columns' names
   std::vector<String> Columns;  // names that are asked for: where the first row holds them all, it is the header
-  std::size_t MostRows = std::numeric_limits<std::size_t>::max();  // a preview: the same table, cut here
+  // A preview: the same table, cut here. Everything is found out from the whole file all the same.
+  std::size_t MostRows = std::numeric_limits<std::size_t>::max();
 };
 
 // Cells are texts without blanks at their ends; they live as long as the table.
@@ -34,16 +36,18 @@ struct CsvTable {
   char Delimiter = ',';
   bool Header = true;
   std::size_t BlankRows = 0;         // passed over
-  std::size_t RowsInFile = 0;        // without header and blank ones, and before the cut
   std::vector<String> Names;         // of the columns: from the header, or "Column 1"
   std::vector<std::size_t> Unnamed;  // columns that the header has no name for; they are called "Column 3"
 
-  std::vector<std::size_t> Lines;  // the line of the file in which each row begins, from 1
-  std::size_t Rows() const { return Lines.size(); }
+  // Rows after the header, blank ones apart: up to the cut, and of the whole file. Any of these may be asked for.
+  std::size_t Rows() const { return std::min(MostRows, Lines.size()); }
+  std::size_t RowsInFile() const { return Lines.size(); }
   std::size_t Columns() const { return Names.size(); }
   std::string_view Cell(std::size_t row, std::size_t column) const { return Cells[Starts[row] + column]; }
 
-  // What the cells stand in.
+  // What the rows and cells stand in.
+  std::size_t MostRows = std::numeric_limits<std::size_t>::max();
+  std::vector<std::size_t> Lines;  // of the file, from 1, in which each row begins
   std::vector<char> Text;
   std::deque<String> Rewritten;  // cells with doubled quotes, these single again
   std::vector<std::string_view> Cells;

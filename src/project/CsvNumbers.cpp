@@ -66,7 +66,7 @@ char DecimalOf(const Evidence& evidence, char delimiter) {
 FoundFormat FindFormat(const CsvTable& table, const std::vector<std::size_t>& columns, const NumberOptions& options) {
   Evidence evidence;
   for (const std::size_t column : columns) {
-    for (std::size_t row = 0; row < table.Rows(); ++row) {
+    for (std::size_t row = 0; row < table.RowsInFile(); ++row) {
       if (IsMissing(table.Cell(row, column), options.Missing)) continue;
       Weigh(evidence, table, row, column);
     }

@@ -192,6 +192,7 @@ TableReport ReportOf(const CsvTable& table, const FoundFormat& format) {
 ImportedTable ImportTable(std::vector<char> bytes, const TableOptions& options) {
   CsvOptions csv = options.Csv;
   csv.Columns = NamesAskedFor(options);
+  csv.MostRows = CsvOptions().MostRows;
   const CsvTable table = ReadCsv(std::move(bytes), csv);
   const Plan plan = PlanFor(table, options);
   if (table.Rows() == 0) throw ModelFault("there are no rows below the names of the columns");

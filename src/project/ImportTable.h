@@ -19,7 +19,7 @@ struct TableOptions {
   std::vector<String> Outputs;
   std::vector<String> Unused;      // columns to keep as unused ones; all others where none are named
   std::vector<GivenRange> Ranges;  // of inputs and outputs whose range is not to follow from the data
-  CsvOptions Csv;                  // but for its Columns, which follow from these
+  CsvOptions Csv;                  // but for its Columns, which follow from these, and without a cut
   NumberOptions Numbers;
 };
 

@@ -116,6 +116,15 @@ TEST(DecimalSign, IsLookedForInTheColumnsAskedForAlone) {
   EXPECT_EQ(FindFormat(table, {0}, {}).Format.Decimal, '.');
 }
 
+TEST(DecimalSign, OfAPreviewIsThatOfTheWholeFile) {
+  CsvOptions options;
+  options.MostRows = 1;
+  const String text = "Unit;X\nA;1\nB;2,5\n";
+  const CsvTable preview = ReadCsv({text.begin(), text.end()}, options);
+  EXPECT_EQ(FindFormat(preview, {1}, {}).Format.Decimal, ',');
+  EXPECT_EQ(NumbersOf(preview, 1, {',', '\0'}, {}).Values.size(), 1U);
+}
+
 TEST(ColumnNumbers, AreNumbersMissingOnesAndTheRest) {
   const CsvTable table = TableOf("X;Y\n1,5;a\n?;b\nabc;c\n1.5;d\n-99;e\n;f\n-2;g\n");
   const ColumnNumbers numbers = NumbersOf(table, 0, {',', '\0'}, {"-99"});

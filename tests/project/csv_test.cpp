@@ -48,7 +48,7 @@ TEST(Csv, TellsWhatItUnderstood) {
   EXPECT_EQ(table.Delimiter, ';');
   EXPECT_TRUE(table.Header);
   EXPECT_EQ(table.BlankRows, 2U);
-  EXPECT_EQ(table.RowsInFile, 2U);
+  EXPECT_EQ(table.RowsInFile(), 2U);
 }
 
 TEST(Csv, OfEveryEncodingGivesTheSameTable) {
@@ -168,7 +168,7 @@ TEST(Csv, PreviewIsTheTableCut) {
   options.MostRows = 20;
   const CsvTable preview = Read(text, options);
   EXPECT_EQ(preview.Rows(), 20U);
-  EXPECT_EQ(preview.RowsInFile, whole.Rows());
+  EXPECT_EQ(preview.RowsInFile(), whole.Rows());
   EXPECT_EQ(preview.BlankRows, whole.BlankRows);
   EXPECT_EQ(preview.Names, whole.Names);
   for (std::size_t row = 0; row < 20; ++row) {

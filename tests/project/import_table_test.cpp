@@ -192,6 +192,12 @@ TEST(ImportTable, ValuesMayBeNegativeOrZero) {
             "input X 14..-6 -5 12; output Y 0..1 0 0; ");
 }
 
+TEST(ImportTable, IsOfTheWholeFile) {
+  TableOptions options = Roles({"X"}, {});
+  options.Csv.MostRows = 1;
+  EXPECT_EQ(Import("Unit,X\nA,1\nB,2\n", options).Project.Units.size(), 2U);
+}
+
 TEST(ImportTable, HundredThousandUnitsAreReadToTheLast) {
   String text = "Unit,X,Y\n";
   for (int i = 1; i <= 100000; ++i) text += "Unit " + std::to_string(i) + "," + std::to_string(i) + ",0.5\n";

@@ -18,6 +18,7 @@ String ProjectText(const Project& project);
 
 // A file that is there as a whole, and its replacement as a whole or not at all. Faults begin with the path.
 Project ReadProject(const String& path);
+Project ReadProjectForResults(const String& path);  // passes CheckProject too
 void WriteProject(const String& path, const Project& project);
 
 }  // namespace Tarnwise

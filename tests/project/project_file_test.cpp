@@ -210,6 +210,17 @@ TEST(ProjectFile, ThatIsRefusedLeavesTheOldFile) {
   EXPECT_EQ(TemporaryFolder::Read(path).size(), 3U);
 }
 
+TEST(ProjectFile, ForResultsIsCheckedAsAWhole) {
+  const TemporaryFolder folder;
+  const String path = folder.Write("hospitals.tarnwise", String(kHospitals));
+  EXPECT_EQ(ReadProjectForResults(path), Hospitals());
+  folder.Write("hospitals.tarnwise",
+               Replaced(kHospitals, R"("costReference": "Doctors")", R"("costReference": "Beds")"));
+  EXPECT_EQ(FaultOf([&] { (void)ReadProject(path); }), "no fault");
+  EXPECT_EQ(FaultOf([&] { (void)ReadProjectForResults(path); }),
+            path + ": costReference of session 1: \"Beds\" is no input, its role is unused");
+}
+
 TEST(ProjectFile, FaultsBeginWithThePath) {
   const TemporaryFolder folder;
   EXPECT_EQ(FaultOf([&] { (void)ReadProject(folder.File("none.tarnwise")); }),

@@ -109,6 +109,14 @@ Variant TaggedVariantOf(const Json& value, const String& place) {
   return Null();
 }
 
+// A list or an object that is not closed yet.
+struct Level {
+  std::set<String> Keys;
+  String Key;  // whose value comes
+  String Name;
+  std::size_t Values = 0;
+};
+
 // Follows the parser: refuses an object with the same key twice, of which one would silently be lost, and what is
 // nested deeper than anything that means something; and knows where the parser stands when it fails.
 class ParseWatch {
@@ -137,13 +145,6 @@ class ParseWatch {
   }
 
  private:
-  struct Level {
-    std::set<String> Keys;
-    String Key;  // whose value comes
-    String Name;
-    std::size_t Values = 0;
-  };
-
   void Open() {
     if (open_.size() == kDeepest) throw ModelFault("lists and objects are nested more than 100 deep");
     open_.emplace_back();

@@ -1,13 +1,11 @@
 // Whole processes, measured by the processor time that they took:
 //   Process/Play200Lines   `tarnwise play` without a screen, a direct session of 200 lines
 //   Process/QtFirstForm    `tarnwise play --toolkit qt` off screen up to the first painted form
-#include <benchmark/benchmark.h>
+#include "Processes.h"
 
-#include <sys/resource.h>
-#include <sys/wait.h>
+#include <benchmark/benchmark.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -33,24 +31,6 @@ std::string SessionOf200Lines() {
   return session;
 }
 
-// Runs the program on a session; processor seconds, or nothing less than 0 when it could not be run.
-double ProcessorSeconds(const std::string& toolkit, const std::filesystem::path& script, const std::string& shots) {
-  const pid_t child = fork();
-  if (child == 0) {
-    if (std::freopen("/dev/null", "w", stdout) == nullptr) _exit(127);
-    execl(TARNWISE_PROGRAM, TARNWISE_PROGRAM, "play", "--toolkit", toolkit.c_str(), "--shots", shots.c_str(),
-          script.c_str(), static_cast<char*>(nullptr));
-    _exit(127);
-  }
-  int status = 0;
-  rusage used{};
-  if (child < 0 || wait4(child, &status, 0, &used) < 0 || !WIFEXITED(status) || WEXITSTATUS(status) > 1) return -1.0;
-  const auto seconds = [](const timeval& t) {
-    return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) / 1e6;
-  };
-  return seconds(used.ru_utime) + seconds(used.ru_stime);
-}
-
 void Play(benchmark::State& state, const std::string& toolkit, const std::string& session) {
   const auto folder = std::filesystem::temp_directory_path() / ("tarnwise-bench-" + std::to_string(getpid()));
   std::filesystem::create_directories(folder);
@@ -58,12 +38,13 @@ void Play(benchmark::State& state, const std::string& toolkit, const std::string
                              std::filesystem::copy_options::overwrite_existing);
   std::ofstream(folder / "bench.session") << session;
   for (auto _ : state) {
-    const double seconds = ProcessorSeconds(toolkit, folder / "bench.session", folder.string());
-    if (seconds < 0.0) {
+    const auto use = Tarnwise::RunProgram(
+        {"play", "--toolkit", toolkit, "--shots", folder.string(), (folder / "bench.session").string()});
+    if (!use) {
       state.SkipWithError("the program could not be run");
       break;
     }
-    state.SetIterationTime(seconds);
+    state.SetIterationTime(use->Seconds);
   }
   std::filesystem::remove_all(folder);
 }

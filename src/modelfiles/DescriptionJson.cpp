@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <functional>
 #include <set>
 
 namespace Tarnwise {
@@ -107,20 +108,62 @@ Variant TaggedVariantOf(const Json& value, const String& place) {
   return Null();
 }
 
-// Refuses an object with the same key twice, of which one would silently be lost.
-class KeyWatch {
+// A list or an object that is not closed yet.
+struct Level {
+  std::set<String> Keys;
+  String Key;  // whose value comes
+  String Name;
+  std::size_t Values = 0;
+};
+
+// Follows the parser: refuses an object with the same key twice, of which one would silently be lost, and what is
+// nested deeper than anything that means something; and knows where the parser stands when it fails.
+class ParseWatch {
  public:
   bool operator()(int /*depth*/, Json::parse_event_t event, const Json& parsed) {
-    if (event == Json::parse_event_t::object_start) keys_.emplace_back();
-    if (event == Json::parse_event_t::object_end) keys_.pop_back();
-    if (event == Json::parse_event_t::key && !keys_.back().insert(parsed.get<String>()).second) {
-      throw ModelFault("the key " + Quoted(parsed) + " stands twice in one object");
+    switch (event) {
+      case Json::parse_event_t::object_start:
+      case Json::parse_event_t::array_start: Open(); break;
+      case Json::parse_event_t::key: TakeKey(parsed.get_ref<const String&>()); break;
+      case Json::parse_event_t::object_end:
+      case Json::parse_event_t::array_end: open_.pop_back(); [[fallthrough]];
+      case Json::parse_event_t::value: CountValue(parsed); break;
     }
     return true;
   }
 
+  // "columns[1] ("Nurses").values[3]", with the names of the objects that have said theirs.
+  String Place() const {
+    String place;
+    for (const Level& level : open_) {
+      const bool list = level.Keys.empty();
+      place += list ? "[" + std::to_string(level.Values) + "]" : (place.empty() ? "" : ".") + level.Key;
+      if (list && &level != &open_.back() && !(&level + 1)->Name.empty()) place += " (" + (&level + 1)->Name + ")";
+    }
+    return place;
+  }
+
  private:
-  std::vector<std::set<String>> keys_;
+  void Open() {
+    if (open_.size() == kDeepest) throw ModelFault("lists and objects are nested more than 100 deep");
+    open_.emplace_back();
+  }
+
+  void TakeKey(const String& key) {
+    if (!open_.back().Keys.insert(key).second) {
+      throw ModelFault("the key " + Quoted(key) + " stands twice in one object");
+    }
+    open_.back().Key = key;
+  }
+
+  void CountValue(const Json& parsed) {
+    if (open_.empty()) return;
+    ++open_.back().Values;
+    if (open_.back().Key == "name" && parsed.is_string()) open_.back().Name = Quoted(parsed);
+  }
+
+  static constexpr std::size_t kDeepest = 100;
+  std::vector<Level> open_;
 };
 
 // Puts the value behind the line; false, with part of it there, once the line is too long.
@@ -235,12 +278,14 @@ std::vector<std::uint8_t> BytesOf(const Json& value, const String& place, std::s
 }
 
 Json ParseDescription(const String& text) {
+  ParseWatch watch;
   try {
-    return Json::parse(text, KeyWatch());
+    return Json::parse(text, std::ref(watch));
   } catch (const Json::exception& error) {
     const String what = error.what();
     const std::size_t start = what.find("] ");
-    throw ModelFault("it is no JSON: " + (start == String::npos ? what : what.substr(start + 2)));
+    const String place = watch.Place().empty() ? "" : "; in " + watch.Place();
+    throw ModelFault("it is no JSON: " + (start == String::npos ? what : what.substr(start + 2)) + place);
   }
 }
 

@@ -19,8 +19,8 @@ Variant VariantOf(const Json& value, const String& place);
 Json BytesJson(const std::vector<std::uint8_t>& bytes);
 std::vector<std::uint8_t> BytesOf(const Json& value, const String& place, std::size_t count);
 
-// The description in a text file's bytes. A ModelFault names the line of what is no JSON, and a key that is there
-// twice.
+// The description in a text file's bytes. A ModelFault names the line of what is no JSON and where in the description
+// it stands, a key that is there twice, and lists and objects nested more than 100 deep.
 Json ParseDescription(const String& text);
 
 // The description as people like to read it: what fits is on one line. Ends with a line end.

@@ -79,17 +79,20 @@ std::int64_t WholeOf(const Json& value, const String& place, std::int64_t lowest
   return value.get<std::int64_t>();
 }
 
-Section::Section(const Json& value, String place, const std::vector<String>& keys)
-    : json_(value), place_(std::move(place)) {
-  const String whose = place_.empty() ? "the description" : place_;
-  if (!value.is_object()) throw ModelFault(whose + ": an object is wanted, here is " + Quoted(value));
+Section::Section(const Json& value, String place) : json_(value), place_(std::move(place)) {
+  if (!value.is_object()) throw ModelFault(Whose() + ": an object is wanted, here is " + Quoted(value));
+}
+
+Section::Section(const Json& value, String place, const std::vector<String>& keys) : Section(value, std::move(place)) {
   for (const auto& [key, ignored] : value.items()) {
     if (std::find(keys.begin(), keys.end(), key) != keys.end()) continue;
     const String nearest = NearestName(key, keys);
     const String hint = nearest.empty() ? "" : "; did you mean \"" + nearest + "\"?";
-    throw ModelFault(whose + ": there is no key \"" + key + "\"" + hint);
+    throw ModelFault(Whose() + ": there is no key \"" + key + "\"" + hint);
   }
 }
+
+String Section::Whose() const { return place_.empty() ? "the description" : place_; }
 
 String Section::PlaceOf(const String& key) const { return place_.empty() ? key : key + " of " + place_; }
 

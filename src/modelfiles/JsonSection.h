@@ -19,6 +19,7 @@ String Quoted(const Json& value);
 class Section {
  public:
   Section(const Json& value, String place, const std::vector<String>& keys);
+  Section(const Json& value, String place);  // of any keys
 
   const String& Place() const { return place_; }
   String PlaceOf(const String& key) const;  // "scoreMin of attribute 3 (Nurses)"
@@ -36,6 +37,8 @@ class Section {
   [[noreturn]] void Fail(const String& key, const String& why) const;
 
  private:
+  String Whose() const;
+
   const Json& json_;
   String place_;
 };

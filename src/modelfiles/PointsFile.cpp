@@ -41,6 +41,8 @@ PointArrays ReadPoints(const String& modelPath, int numAtts) {
   }
 }
 
+String PointsText(const PointArrays& points) { return ToJson(points).dump(); }
+
 void WritePoints(const String& modelPath, const PointArrays& points) {
   const String text = ToJson(points).dump(2) + "\n";
   WriteFileAtomically(PointsPath(modelPath), {text.begin(), text.end()});

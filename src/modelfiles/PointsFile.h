@@ -11,6 +11,9 @@ String PointsPath(const String& modelPath);
 // ModelFault.
 PointArrays ReadPoints(const String& modelPath, int numAtts);
 
+// Their JSON on one line.
+String PointsText(const PointArrays& points);
+
 void WritePoints(const String& modelPath, const PointArrays& points);
 
 }  // namespace Tarnwise

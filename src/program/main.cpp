@@ -1,5 +1,7 @@
-// The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files.
+// The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files, imports
+// projects.
 #include "program/Commands.h"
+#include "program/ImportCommand.h"
 #include "program/ModelCommands.h"
 #include "program/Screens.h"
 #include "program/SystemText.h"
@@ -36,6 +38,9 @@ int Main(int argc, char** argv) {
     playCommand->add_flag("--com", play.Com, comHelp);
   }
 
+  ImportOptions import;
+  const CLI::App* const importCommand = AddImportCommand(app, import);
+
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
   std::string from;
@@ -58,6 +63,7 @@ int Main(int argc, char** argv) {
     return app.exit(error);
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
+  if (importCommand->parsed()) return ImportProject(import, TimeNow(), std::cout, std::cerr);
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
   return RunWizard(run, argc, argv);

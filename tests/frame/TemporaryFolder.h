@@ -24,10 +24,14 @@ class TemporaryFolder {
     std::filesystem::remove_all(path_, ignored);
   }
 
-  String File(const String& name) const { return (path_ / std::u8string(name.begin(), name.end())).string(); }
+  String File(const String& name) const {
+    const std::u8string path = (path_ / InUtf8(name)).u8string();
+    return {path.begin(), path.end()};
+  }
 
   String Write(const String& name, const std::vector<char>& bytes) const {
-    std::ofstream(File(name), std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path_ / InUtf8(name), std::ios::binary)
+        .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return File(name);
   }
   String Write(const String& name, const String& text) const {
@@ -35,7 +39,7 @@ class TemporaryFolder {
   }
 
   static std::vector<char> Read(const String& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(InUtf8(path), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   }
 
@@ -46,6 +50,8 @@ class TemporaryFolder {
   }
 
  private:
+  static std::filesystem::path InUtf8(const String& path) { return std::u8string(path.begin(), path.end()); }
+
   std::filesystem::path path_;
 };
 

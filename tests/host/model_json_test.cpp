@@ -234,6 +234,20 @@ TEST_F(ModelJson, KeyThatStandsTwiceIsAFault) {
             "the key \"x\" stands twice in one object");
 }
 
+TEST_F(ModelJson, PlaceOfWhatIsNoJsonIsNamed) {
+  const String fault =
+      FaultOf([] { (void)ParseDescription(R"({"attributes": [{}, {"name": "Beds", "curve": [[0, 0], [1, x]]}]})"); });
+  EXPECT_NE(fault.find("; in attributes[1] (\"Beds\").curve[1][1]"), String::npos) << fault;
+}
+
+TEST_F(ModelJson, NestingWithoutEndIsAFault) {
+  const auto nested = [](std::size_t deep) { return String(deep, '[') + String(deep, ']'); };
+  EXPECT_EQ(FaultOf([&] { (void)ParseDescription(nested(100)); }), "no fault");
+  EXPECT_EQ(FaultOf([&] { (void)ParseDescription(nested(101)); }), "lists and objects are nested more than 100 deep");
+  EXPECT_EQ(FaultOf([&] { (void)ParseDescription(R"({"note": )" + nested(100000) + "}"); }),
+            "lists and objects are nested more than 100 deep");
+}
+
 TEST_F(ModelJson, OrdinaryModelHasNoWarnings) { EXPECT_EQ(Warnings(), std::vector<String>()); }
 
 TEST_F(ModelJson, UnlikelyModelsAreBuiltWithAWarning) {

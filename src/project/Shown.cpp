@@ -1,0 +1,62 @@
+#include "project/Shown.h"
+
+#include "runtime/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace Tarnwise {
+
+namespace {
+
+constexpr std::size_t kLongest = 60;
+constexpr std::size_t kMostItems = 10;
+
+bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+// Also the control characters from U+0080 on, which some terminals obey.
+bool IsControl(std::string_view text, std::size_t i) {
+  const auto byte = static_cast<unsigned char>(text[i]);
+  if (byte < 0x20 || byte == 0x7F) return true;
+  return byte == 0xC2 && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0;
+}
+
+String Escape(unsigned char byte) {
+  std::array<char, 8> text{};
+  (void)std::snprintf(text.data(), text.size(), "\\x%02X", byte);
+  return text.data();
+}
+
+}  // namespace
+
+String ShownName(std::string_view name) {
+  std::size_t size = std::min(name.size(), kLongest);
+  while (size < name.size() && size > 0 && IsContinuation(name[size])) --size;
+  String shown;
+  for (std::size_t i = 0; i < size; ++i) {
+    if (!IsControl(name, i)) {
+      shown += name[i];
+      continue;
+    }
+    if (static_cast<unsigned char>(name[i]) == 0xC2) ++i;
+    shown += Escape(static_cast<unsigned char>(name[i]));
+  }
+  return size < name.size() ? shown + "..." : shown;
+}
+
+String Shown(std::string_view text) { return '"' + ShownName(text) + '"'; }
+
+String CountOf(std::size_t count, const String& what) {
+  return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+String Enumerated(const std::vector<String>& items, const char* between) {
+  String text;
+  const std::size_t count = std::min(items.size(), kMostItems);
+  for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : between) + items[i];
+  if (items.size() > count) text += " and " + std::to_string(items.size() - count) + " more";
+  return text;
+}
+
+}  // namespace Tarnwise

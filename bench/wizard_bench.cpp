@@ -8,7 +8,7 @@
 #include "Models.h"
 #include "curves/mdGraphs.h"
 #include "direct/frmDirectB.h"
-#include "model/ModelFile.h"
+#include "wizard/OpenModel.h"
 #include "modelfiles/ModelWriter.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Platform.h"

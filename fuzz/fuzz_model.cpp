@@ -3,6 +3,7 @@
 #include "Expect.h"
 #include "PlainReader.h"
 #include "model/ModelFile.h"
+#include "wizard/OpenModel.h"
 #include "modelfiles/ModelWriter.h"
 #include "view/Platform.h"
 

@@ -1,7 +1,7 @@
-// The two boxes in which an interval is typed: which keys pass, what is checked on leaving, and how the typed value
-// moves its handle.
-#include "direct/frmDirectB.h"
+#include "direct/EntryBoxes.h"
+
 #include "judging/NumberKeys.h"
+#include "model/mdTRNMain.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
 
@@ -9,45 +9,54 @@ namespace Tarnwise {
 
 namespace {
 
-enum Key { kBackspace = 8, kReturn = 13, kCtrlV = 22, kBlank = 32 };
+enum Key { kBackspace = 8, kReturn = 13 };
 
 }  // namespace
 
-void frmDirectB::ConnectEntryBox(TextBox& box, Box which) {
+EntryBoxes::EntryBoxes(TextBox& lower, TextBox& upper, Control& away) : lower_(lower), upper_(upper), away_(away) {
+  Connect(lower_, EntryBox::Lower);
+  Connect(upper_, EntryBox::Upper);
+}
+
+void EntryBoxes::Connect(TextBox& box, EntryBox which) {
   box.KeyDown = DropPasting;
-  box.KeyPress = [this, &box, which](KeyEvent& key) {
-    if (key.Code == kCtrlV) key.Code = 0;
-    FilterEntryKey(box, which, key);
-  };
+  box.KeyPress = [this, &box, which](KeyEvent& key) { FilterEntryKey(box, which, key); };
   box.KeyUp = [&box](KeyEvent&) { RemoveSecondPoint(box); };
   box.LostFocus = [this, &box, which] { EntryLeft(box, which); };
 }
 
-void frmDirectB::FilterEntryKey(TextBox& box, Box which, KeyEvent& key) {
-  if (key.Code == kReturn) {
-    returning_ = true;
-    Screen().SetFocus(cmdReStart);
-    returning_ = false;
-    key.Code = kBackspace;
-    const String text = Trim(box.Text());
-    box.SetText("");
-    box.SetText(text);
-    CheckEntry(box);
-    if (mEntryOK == 1) {
-      ApplyTypedValue(which);
-    } else {
-      key.Code = 0;  // the whole text is selected now, and Backspace would take it
-    }
-    return;
-  }
-  if (key.Code < kBlank) return;
-  RemoveSecondPoint(box);
-  if (!IsNumeric(key.Code)) key.Code = 0;
+Double EntryBoxes::Lower() const { return Val(lower_.Text()); }
+
+Double EntryBoxes::Upper() const { return Val(upper_.Text()); }
+
+void EntryBoxes::Show(const String& lower, const String& upper) {
+  lower_.SetText(lower);
+  upper_.SetText(upper);
 }
 
-void frmDirectB::CheckEntry(TextBox& box) {
+void EntryBoxes::FilterEntryKey(TextBox& box, EntryBox which, KeyEvent& key) {
+  if (key.Code != kReturn) {
+    FilterNumberKey(box, key);
+    return;
+  }
+  returning_ = true;
+  box.Owner.Screen().SetFocus(away_);
+  returning_ = false;
+  key.Code = kBackspace;
+  const String text = Trim(box.Text());
+  box.SetText("");
+  box.SetText(text);
+  CheckEntry(box);
+  if (mEntryOK == 1) {
+    Typed(which);
+  } else {
+    key.Code = 0;  // the whole text is selected now, and Backspace would take it
+  }
+}
+
+void EntryBoxes::CheckEntry(TextBox& box) {
   const Double v = Val(Trim(box.Text()));
-  const Double hi = Val(txtWRUpper.Text());
+  const Double hi = Upper();
   if (v > 0.0 && v <= hi) {
     mEntryOK = 1;
   } else {
@@ -55,10 +64,9 @@ void frmDirectB::CheckEntry(TextBox& box) {
   }
 }
 
-// Ready for use, but no event calls it: an upper value below the lower one is let through, and the chart sorts the two.
-void frmDirectB::CheckUpperEntry(TextBox& box) {
+void EntryBoxes::CheckUpperEntry(TextBox& box) {
   const Double v = Val(Trim(box.Text()));
-  const Double lo = Val(txtWRLower.Text());
+  const Double lo = Lower();
   if (v >= lo) {
     mEntryOK = 1;
   } else {
@@ -66,40 +74,20 @@ void frmDirectB::CheckUpperEntry(TextBox& box) {
   }
 }
 
-void frmDirectB::RefuseEntry(TextBox& box, const String& wanted) {
+void EntryBoxes::RefuseEntry(TextBox& box, const String& wanted) {
   mEntryOK = 0;
-  Screen().Beep();
-  Screen().SetFocus(box);
+  Platform& screen = box.Owner.Screen();
+  screen.Beep();
+  screen.SetFocus(box);
   box.SelStart = 0;
   box.SelLength = Length(box.Text());
-  Screen().MessageBox("The weight ratio you entered should be " + wanted + "!", kExclamation, kKesta);
+  screen.MessageBox("The weight ratio you entered should be " + wanted + "!", kExclamation, kKesta);
 }
 
-void frmDirectB::EntryLeft(TextBox& box, Box which) {
+void EntryBoxes::EntryLeft(TextBox& box, EntryBox which) {
   if (returning_) return;
   CheckEntry(box);
-  if (mEntryOK == 1) ApplyTypedValue(which);
-}
-
-void frmDirectB::ApplyTypedValue(Box which) {
-  HandlePoints at = HandleCentres();
-  const bool firstIsLower = PointToRatio(at.X0, at.Y0) < PointToRatio(at.X1, at.Y1);
-  const int moved = (which == kLowerBox) == firstIsLower ? 0 : 1;
-  const Double lo = Val(txtWRLower.Text());
-  const Double hi = Val(txtWRUpper.Text());
-  const ChartPoint other = moved == 0 ? ChartPoint{at.X1, at.Y1} : ChartPoint{at.X0, at.Y0};
-  const ChartPoint to = hi == lo ? other : RatioToPoint(which == kLowerBox ? lo : hi);
-  if (moved == 0) {
-    at.X0 = to.X;
-    at.Y0 = to.Y;
-  } else {
-    at.X1 = to.X;
-    at.Y1 = to.Y;
-  }
-  PlaceHandles(at);
-  DrawRegion(at);
-  mJudgmentState = kNoneDecided;
-  CheckJudgment(at);
+  if (mEntryOK == 1) Typed(which);
 }
 
 }  // namespace Tarnwise

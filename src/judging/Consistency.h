@@ -1,7 +1,6 @@
 // The verdict on a judgment: is it one at all, and does it respect the judged intervals of its neighbours in rank?
 #pragma once
 
-#include "direct/ReferenceChart.h"
 #include "model/Groups.h"
 
 namespace Tarnwise {
@@ -18,18 +17,5 @@ struct Limits {
 Limits LimitsOf(const WizardData& data, int target);
 
 bool IsWithin(const Limits& limits, Double a, Double b);  // whichever of the two is the smaller
-
-// What the two handles on the chart say. Texts are empty when the boxes are to keep theirs.
-struct Verdict {
-  JudgmentState State = kNoneDecided;
-  String Lower;
-  String Upper;
-};
-
-// An ordinary pair. With the consistency control off a region on the chart gets no state.
-Verdict JudgePair(const WizardData& data, int target, const HandlePoints& at);
-
-// The two references: their handles coincide, and no neighbour counts.
-Verdict JudgeReferencePair(const HandlePoints& at);
 
 }  // namespace Tarnwise

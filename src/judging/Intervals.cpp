@@ -36,8 +36,7 @@ void LowerHigh(WizardData& data, int k, Double low) {
 
 }  // namespace
 
-void SetDefaultIntervals(WizardData& data) {
-  for (int k = 0; k < data.NumAtts(); ++k) data.WeightDone[k] = false;
+void SeedIntervals(WizardData& data) {
   for (int k = 0; k < data.NumAtts(); ++k) {
     if (!data.IsBenefit(k) && !data.IsCost(k)) continue;
     const int own = data.AttO[k];
@@ -46,6 +45,11 @@ void SetDefaultIntervals(WizardData& data) {
     StoreInterval(data, k, {ratio, ratio, ratio});
     data.WeightDone[k] = own == reference;
   }
+}
+
+void SetDefaultIntervals(WizardData& data) {
+  for (int k = 0; k < data.NumAtts(); ++k) data.WeightDone[k] = false;
+  SeedIntervals(data);
 }
 
 Interval IntervalOf(const WizardData& data, int att) { return {LowOf(data, att), MidOf(data, att), HighOf(data, att)}; }

@@ -10,7 +10,10 @@
 namespace Tarnwise {
 
 // WeightsL, Weights and WeightsH at their defaults by rank: 1.0 and done on the reference's rank, 1.2 above it, 0.8
-// below it. RefAttWR stays.
+// below it, these not done. RefAttWR stays, and so does an attribute of neither group.
+void SeedIntervals(WizardData& data);
+
+// The same with no attribute done before.
 void SetDefaultIntervals(WizardData& data);
 
 struct Interval {

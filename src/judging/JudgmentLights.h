@@ -1,8 +1,8 @@
 // How a verdict shows: the light in force, the others out, Enter allowed or not, and the blinking.
 #pragma once
 
+#include "forms/LightControls.h"
 #include "judging/Consistency.h"
-#include "view/forms/LightControls.h"
 
 namespace Tarnwise {
 

@@ -4,6 +4,15 @@ namespace Tarnwise {
 
 bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
 
+void FilterNumberKey(TextBox& box, KeyEvent& key) {
+  constexpr int kCtrlV = 22;
+  constexpr int kBlank = 32;
+  if (key.Code == kCtrlV) key.Code = 0;
+  if (key.Code < kBlank) return;
+  RemoveSecondPoint(box);
+  if (!IsNumeric(key.Code)) key.Code = 0;
+}
+
 void DropPasting(KeyEvent& key) {
   constexpr int kInsert = 45;
   constexpr int kShift = 1;

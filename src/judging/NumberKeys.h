@@ -8,6 +8,10 @@ namespace Tarnwise {
 // Digits and the point; there are no signs and no exponents.
 bool IsNumeric(int character);
 
+// What becomes of a character that is typed, Return aside: Ctrl+V is dropped; before a printing one a second point
+// goes, and it is dropped itself unless it is numeric. Control characters pass.
+void FilterNumberKey(TextBox& box, KeyEvent& key);
+
 // At a key down: Insert with Shift would paste, whatever else is held.
 void DropPasting(KeyEvent& key);
 

@@ -1,5 +1,6 @@
 #include "judging/TargetList.h"
 
+#include "judging/Intervals.h"
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -20,6 +21,11 @@ void FillTargetItems(ImageCombo& list, WizardData& data) {
   for (int i = 0; i < data.NumAtts(); ++i) {
     if (data.WeightDone[i] && !IsReference(data, i)) MarkJudged(list, data, i);
   }
+}
+
+void RestartTargets(ImageCombo& list, WizardData& data) {
+  list.Clear();
+  SetDefaultIntervals(data);
 }
 
 void MarkJudged(ImageCombo& list, const WizardData& data, int att) {

@@ -10,6 +10,9 @@ namespace Tarnwise {
 // judged attributes.
 void FillTargetItems(ImageCombo& list, WizardData& data);
 
+// Everything is judged anew: the list is emptied, then the intervals take their defaults.
+void RestartTargets(ImageCombo& list, WizardData& data);
+
 // Puts the mark of a judged attribute in front of its name.
 void MarkJudged(ImageCombo& list, const WizardData& data, int att);
 

@@ -2,12 +2,10 @@
 
 #include "runtime/AnsiText.h"
 #include "runtime/Paths.h"
-#include "view/Platform.h"
 
 #include <algorithm>
 #include <cstring>
 #include <fstream>
-#include <optional>
 
 namespace Tarnwise {
 
@@ -228,27 +226,6 @@ void Leniently(Read read) {
   }
 }
 
-// All bytes of the file, which comes to be when it is missing; nothing when it can't be opened.
-std::optional<std::vector<char>> Contents(const String& text) {
-  std::error_code error;
-  const std::filesystem::path path = PathFromText(text);
-  std::vector<char> bytes;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) {
-    if (std::filesystem::exists(path, error)) return std::nullopt;
-    const std::ofstream made(path, std::ios::binary | std::ios::app);
-    if (!made) return std::nullopt;
-    return bytes;
-  }
-  // On some systems a folder can be opened, but it has no size.
-  const auto size = std::filesystem::file_size(path, error);
-  if (error) return std::nullopt;
-  bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(size, kLargestModel)));
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
-  return bytes;
-}
-
 }  // namespace
 
 void ClearModel(WizardData& data) {
@@ -276,23 +253,24 @@ void ReadModel(WizardData& data, const std::vector<char>& bytes, const CodePage&
   Leniently([&] { ReadSaved(in, data.SavedJudgments); });
 }
 
-void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFileName) {
-  const auto bytes = Contents(PathAndFileName);
-  if (!bytes) {
-    platform.Beep();
-    platform.MessageBox("There are problems in accessing the relevant data.", kInformation, kKesta);
-    platform.SetPointer(0);
-    return;
+std::optional<std::vector<char>> ModelFileContents(const String& PathAndFileName) {
+  std::error_code error;
+  const std::filesystem::path path = PathFromText(PathAndFileName);
+  std::vector<char> bytes;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) {
+    if (std::filesystem::exists(path, error)) return std::nullopt;
+    const std::ofstream made(path, std::ios::binary | std::ios::app);
+    if (!made) return std::nullopt;
+    return bytes;
   }
-  platform.SetPointer(11);
-  try {
-    ReadModel(data, *bytes);
-  } catch (...) {  // there may be no memory for it
-    platform.SetPointer(0);
-    throw;
-  }
-  data.OrderChanged = false;
-  platform.SetPointer(0);
+  // On some systems a folder can be opened, but it has no size.
+  const auto size = std::filesystem::file_size(path, error);
+  if (error) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(size, kLargestModel)));
+  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(file.gcount()));
+  return bytes;
 }
 
 }  // namespace Tarnwise

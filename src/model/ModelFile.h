@@ -4,16 +4,16 @@
 #include "model/mdTRNMain.h"
 #include "runtime/CodePage.h"
 
+#include <optional>
+#include <vector>
+
 namespace Tarnwise {
 
-class Platform;
+// All bytes of the file; a missing one comes to be, empty. Nothing when it can't be opened.
+std::optional<std::vector<char>> ModelFileContents(const String& PathAndFileName);
 
-// Reads the model at the path into the wizard data. Reading is lenient: what the file does not reach is zero or empty,
-// and nobody is told. A missing file comes to be, empty. Only when the file can't be opened does the user get a
-// message, and the earlier model stays wholly as it was.
-void ReadModelFile(WizardData& data, Platform& platform, const String& PathAndFileName);
-
-// The eight items from bytes, as far as they go, their texts in that code page.
+// The eight items from bytes, as far as they go, their texts in that code page. Reading is lenient: what the bytes do
+// not reach is zero or empty.
 void ReadModel(WizardData& data, const std::vector<char>& bytes, const CodePage& texts = SystemCodePage());
 
 // Sizes every record of the model; its numbers are zero and its texts empty then.

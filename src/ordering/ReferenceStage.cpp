@@ -1,7 +1,7 @@
 // Stage 2 of the ordering step: the finished rank orders, the choice of a reference in each group, and what the later
 // steps start from.
+#include "judging/Intervals.h"
 #include "ordering/frmIniImpOrder.h"
-
 #include "runtime/Text.h"
 
 namespace Tarnwise {
@@ -96,16 +96,7 @@ void frmIniImpOrder::BackOfStage2() {
 }
 
 void frmIniImpOrder::SeedRatios() {
-  for (int i = 0; i < data_.NumAtts(); ++i) {
-    if (!data_.IsBenefit(i) && !data_.IsCost(i)) continue;
-    const int own = data_.AttO[i];
-    const int reference = data_.AttO[data_.IsBenefit(i) ? data_.BRefAttID : data_.CRefAttID];
-    const Double ratio = own == reference ? 1.0 : own > reference ? 0.8 : 1.2;
-    data_.WeightsL[i] = ratio;
-    data_.Weights[i] = ratio;
-    data_.WeightsH[i] = ratio;
-    data_.WeightDone[i] = own == reference;
-  }
+  SeedIntervals(data_);
   data_.RefAttWR = Integer(1);
 }
 

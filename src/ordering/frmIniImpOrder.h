@@ -4,7 +4,7 @@
 
 #include "model/StepEvents.h"
 #include "ordering/RankOrder.h"
-#include "view/forms/IniImpOrderForm.h"
+#include "forms/IniImpOrderForm.h"
 
 namespace Tarnwise {
 

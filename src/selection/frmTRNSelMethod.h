@@ -3,7 +3,7 @@
 
 #include "model/StepEvents.h"
 #include "model/mdTRNMain.h"
-#include "view/forms/SelMethodForm.h"
+#include "forms/SelMethodForm.h"
 
 namespace Tarnwise {
 

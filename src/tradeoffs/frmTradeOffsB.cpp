@@ -1,9 +1,10 @@
 #include "tradeoffs/frmTradeOffsB.h"
 
+#include "curves/mdGraphs.h"
 #include "judging/Intervals.h"
 #include "judging/JudgmentLights.h"
-#include "judging/ResultsGrids.h"
 #include "judging/TargetList.h"
+#include "runtime/Numbers.h"
 #include "runtime/Text.h"
 #include "view/Platform.h"
 
@@ -11,9 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr const char* kJudgmentTitle = "Tarnwise: Give your preference between the two selected criteria";
-constexpr const char* kResultsTitle = "Tarnwise: Results of the value judgments";
-constexpr int kHourglass = 11;
 constexpr Colour kWhite = 0xFFFFFF;
 
 // The points that were worked on, with the orientations as they came from the host.
@@ -30,10 +28,34 @@ PointArrays ExportedPoints(const WizardData& data) {
 }  // namespace
 
 frmTradeOffsB::frmTradeOffsB(std::shared_ptr<Platform> platform, WizardData& wizardData)
-    : TradeOffsBForm(std::move(platform)), data_(wizardData) {
-  ConnectChart();
-  ConnectScores();
-  ConnectUncertainty();
+    : TradeOffsBForm(std::move(platform)),
+      Plot(Chart, wizardData),
+      Pages(
+          *this, picTabs, Results,
+          {"Tarnwise: Give your preference between the two selected criteria", "When are A and B equally good to you?",
+           "Drag A and B on the chart, or change their scores, until you would not mind which one you get; then "
+           "press Enter."}),
+      data_(wizardData) {
+  ConnectParts();
+  ConnectButtons();
+}
+
+void frmTradeOffsB::ConnectParts() {
+  Plot.Dropped = [this](const DroppedMark& dropped) { TakeDrop(dropped); };
+  Entry.Entered = [this] {
+    Entry.TakeScores(Points);
+    PlaceABMarks();
+  };
+  Tools.Pressed = [this](const String& key) {
+    Tools.Move(key, Points, Plot.Scale);
+    Plot.DrawUncertaintyLine(Points);
+    ShowState();
+  };
+  Tools.Certain = [this] { BackToRecord(); };
+  Lights.Timer1.Tick = [this] { BlinkJudgmentLight(Lights, mJudgmentState); };
+}
+
+void frmTradeOffsB::ConnectButtons() {
   imgcmbTargetAtt.Click = [this] { imgcmbTargetAtt_Click(); };
   tbsTradeOffs.Click = [this] { tbsTradeOffs_Click(); };
   Results.tsWeightRatios.Click = [this] { tsWeightRatios_Click(); };
@@ -43,7 +65,7 @@ frmTradeOffsB::frmTradeOffsB(std::shared_ptr<Platform> platform, WizardData& wiz
   cmdBack.Click = [this] { cmdBack_Click(); };
   cmdFinish.Click = [this] { cmdFinish_Click(); };
   cmdCancel.Click = [this] { cmdCancel_Click(); };
-  cmdHelp.Click = [this] { cmdTarnwiseHelp_Click(); };
+  cmdHelp.Click = [this] { Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext); };
   cmdTarnwisePrint.Click = [this] { cmdTarnwisePrint_Click(); };
 }
 
@@ -58,18 +80,20 @@ void frmTradeOffsB::Disconnect() {
 void frmTradeOffsB::Load() {
   Screen().SetPointer(kHourglass);
   mLoading = 1;
-  mScoresDirty = 0;
+  mPage = 1;
+  Entry.mScoresDirty = 0;
   cmdNext.Enabled = false;
   cmdFinish.Enabled = false;
   cmdReStart.Enabled = false;
-  NamePage(1);
+  Pages.NameJudgments();
   picTabs[0].ZOrder();
   Scores.framePCNumericalC.ZOrder();
   bool judged = true;
   if (data_.RJType() == kTradeOffsType && !data_.OrderChanged) {
-    ResumeTradeOffs();
+    FillTargetList();
   } else if (data_.RJType() == kDirectType) {
-    ResumeFromDirect();
+    SuggestFromIntervals(data_);
+    FillTargetList();
   } else {
     StartFresh();
     judged = false;
@@ -77,10 +101,10 @@ void frmTradeOffsB::Load() {
   cmdNext.Enabled = judged;
   if (judged) cmdFinish.Enabled = true;
   ShowLightsFor(Lights, data_.IncnsistCtrl != 0);
-  mScoresBad = 0;
+  Entry.mScoresBad = 0;
   mLoading = 0;
   Raise(SendMasseges, " Give your preference between the two selected criteria.");
-  Screen().SetPointer(0);
+  Screen().SetPointer(kDefaultPointer);
 }
 
 void frmTradeOffsB::StartFresh() {
@@ -88,83 +112,47 @@ void frmTradeOffsB::StartFresh() {
   FillTargetList();
 }
 
-void frmTradeOffsB::ResumeTradeOffs() { FillTargetList(); }
-
-void frmTradeOffsB::ResumeFromDirect() {
-  SuggestFromIntervals(data_);
-  FillTargetList();
+void frmTradeOffsB::PlaceABMarks() {
+  Plot.PlaceMarks(Points);
+  ShowState();
 }
 
-void frmTradeOffsB::FillTargetList() {
-  FillTargetItems(imgcmbTargetAtt, data_);
-  mTargetAtt = static_cast<Integer>(FirstTarget(data_));
-  mRefAtt = ReferenceOf(data_, mTargetAtt);
-  imgcmbTargetAtt.SelectedItem = mTargetAtt + 1;
-  ShowFirstTarget();
+void frmTradeOffsB::TakeDrop(const DroppedMark& dropped) {
+  Entry.Show(dropped.ForA, StripTrailingDot(Format(dropped.XScore, dropped.Pattern)),
+             StripTrailingDot(Format(dropped.YScore, dropped.Pattern)));
+  (dropped.ForA ? Points.AX : Points.BX) = ToSingleChecked(Val(NumberText(dropped.XScore)));
+  (dropped.ForA ? Points.AY : Points.BY) = ToSingleChecked(Val(NumberText(dropped.YScore)));
+  CollapseCorners(Points);
+  Points.AOrientation = 0;
+  Plot.Clear();
+  ShowState();
 }
 
-void frmTradeOffsB::ShowFirstTarget() {
-  mScoresDirty = 0;
-  EnableToolbars();
+// To what was entered or suggested last: a stored interval comes back as an interval.
+void frmTradeOffsB::BackToRecord() {
   LoadABRecord(mTargetAtt);
-  ShowCriteria();
-  BuildChart();
-  ShowScores(mTargetAtt);
-  ShowDifferences();
-  SetUncertaintyTools(Points.AOrientation);
-  FillChangeSteps();
-  ShowLampsAtRest(Lights);
+  Tools.Show(Points.AOrientation);
+  Plot.Clear();
   PlaceABMarks();
-  DrawUncertaintyLine();
-  cmdEnter.Enabled = true;
+  Plot.DrawUncertaintyLine(Points);
+  ShowState();
 }
 
-void frmTradeOffsB::LoadABRecord(int att) { Points = data_.ABPoints2[att]; }
-
-void frmTradeOffsB::ShowCriteria() {
-  Scores.labPCCriterion1.Caption = Trim(data_.AttName(mTargetAtt));
-  Scores.labPCCriterion2.Caption = Trim(data_.AttName(mRefAtt));
-}
-
-void frmTradeOffsB::imgcmbTargetAtt_Click() {
-  if (mLoading == 1) return;
-  mScoresDirty = 0;
-  const int i = imgcmbTargetAtt.SelectedItem - 1;
-  const bool bothGroups = data_.BRankCount > 0 && data_.CRankCount > 0;
-  const Integer r = ReferenceOf(data_, i);
-  const bool pairOfReferences = i == r && bothGroups;
-  if (!pairOfReferences && data_.AttO[i] == data_.AttO[r]) {
-    RefuseTarget(data_.IsBenefit(i));
+// The ratio of the present points, and what it is worth.
+void frmTradeOffsB::ShowState() {
+  if (IsRefPair()) {
+    const TradeOffVerdict verdict =
+        DecideRefPairState(RefPairRatio(data_, mTargetAtt, mRefAtt, Points.AX, Points.AY, Points.BX, Points.BY));
+    mJudgmentState = verdict.State;
+    lblWeightRatio.Caption = verdict.Caption;
+    ShowVerdict(Lights, cmdEnter, verdict.State == kInvalid ? kInvalid : kConsistent);
     return;
   }
-  Screen().SetPointer(kHourglass);
-  mTargetAtt = pairOfReferences ? data_.CRefAttID : static_cast<Integer>(i);
-  mRefAtt = pairOfReferences ? data_.BRefAttID : r;
-  EnableToolbars();
-  LoadABRecord(mTargetAtt);
-  ShowCriteria();
-  BuildChart();
-  PlaceABMarks();
-  ShowScores(mTargetAtt);
-  ShowDifferences();
-  if (IsRefPair()) {
-    Chart.picTradeOffsRange.Cls();
-  } else {
-    SetUncertaintyTools(Points.AOrientation);
-    FillChangeSteps();
-    DrawUncertaintyLine();
-  }
-  cmdEnter.Enabled = true;
-  Screen().SetPointer(0);
-}
-
-void frmTradeOffsB::RefuseTarget(bool benefit) {
-  Screen().Beep();
-  Screen().MessageBox(String("The selected attribute is in the same group with the reference attribute for the ") +
-                          (benefit ? "benefit-oriened" : "cost-oriented") +
-                          " ones. It is not necessary to make tradeoffs between them.",
-                      kExclamation, kKesta);
-  imgcmbTargetAtt.SelectedItem = mTargetAtt + 1;
+  const CornerRatios ratios = CornerRatiosOf(data_, mTargetAtt, mRefAtt, Points);
+  const TradeOffVerdict verdict = DecideJudgmentState(data_, mTargetAtt, ratios.First, ratios.Second);
+  mJudgmentState = verdict.State;
+  lblWeightRatio.Caption = verdict.Caption;
+  if (verdict.State != kNoneDecided) ShowVerdict(Lights, cmdEnter, verdict.State);
 }
 
 void frmTradeOffsB::cmdEnter_Click() {
@@ -175,51 +163,26 @@ void frmTradeOffsB::cmdEnter_Click() {
   } else {
     CommitJudgment(mTargetAtt);
   }
-  Screen().SetPointer(0);
+  Screen().SetPointer(kDefaultPointer);
 }
 
 void frmTradeOffsB::CommitJudgment(int att) {
   const TradeOffRatios ratios = RatiosOf(data_, mTargetAtt, mRefAtt, Points);
   CommitTradeOff(data_, att, ratios, [this](int k) { MarkJudged(imgcmbTargetAtt, data_, k); });
-  cmdEnter.Enabled = false;
-  cmdReStart.Enabled = true;
-  if (AllJudged(data_)) {
-    cmdFinish.Enabled = true;
-    cmdNext.Enabled = true;
-  }
+  AfterCommit(Buttons(), data_);
 }
 
 void frmTradeOffsB::cmdReStart_Click() {
   Screen().SetPointer(kHourglass);
-  imgcmbTargetAtt.Clear();
-  SetDefaultIntervals(data_);
+  RestartTargets(imgcmbTargetAtt, data_);
   StartFresh();
-  cmdEnter.Enabled = true;
-  cmdReStart.Enabled = false;
-  cmdNext.Enabled = false;
-  Screen().SetPointer(0);
-}
-
-void frmTradeOffsB::NamePage(int page) {
-  mPage = static_cast<Integer>(page);
-  if (page == 1) {
-    Caption = kJudgmentTitle;
-    SetHeading("When are A and B equally good to you?",
-               "Drag A and B on the chart, or change their scores, until you would not mind which one you get; then "
-               "press Enter.");
-  } else {
-    Caption = kResultsTitle;
-    SetHeading("These are your judgments", "Go back to change one, or finish to hand them over.");
-  }
+  AfterRestart(Buttons());
+  Screen().SetPointer(kDefaultPointer);
 }
 
 void frmTradeOffsB::cmdNext_Click() {
-  NamePage(2);
-  cmdBack.Enabled = true;
-  cmdFinish.Enabled = true;
-  cmdNext.Enabled = false;
-  ShowResults(Results.gridBRJ, Results.gridCRJ, data_);
-  picTabs[1].ZOrder();
+  mPage = 2;
+  Pages.Show(data_);
 }
 
 void frmTradeOffsB::cmdBack_Click() {
@@ -228,10 +191,8 @@ void frmTradeOffsB::cmdBack_Click() {
     Raise(UnloadTRNTradeOffsB);
     return;
   }
-  NamePage(1);
-  cmdFinish.Enabled = false;
-  cmdNext.Enabled = true;
-  picTabs[0].ZOrder();
+  mPage = 1;
+  Pages.Leave();
 }
 
 void frmTradeOffsB::cmdFinish_Click() {
@@ -240,13 +201,11 @@ void frmTradeOffsB::cmdFinish_Click() {
         data_.WeightsH, data_.WeightsL);
   PointArrays points = ExportedPoints(data_);  // as they stand after the host had the weights
   Raise(ExportABScores, points);
-  Screen().SetPointer(0);
+  Screen().SetPointer(kDefaultPointer);
   Raise(UnloadTarnwise, data_.FileIndex, true);
 }
 
 void frmTradeOffsB::cmdCancel_Click() { Raise(UnloadTarnwise, data_.FileIndex, false); }
-
-void frmTradeOffsB::cmdTarnwiseHelp_Click() { Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext); }
 
 // Nothing goes to a printer; a print command may be added between the two halves.
 void frmTradeOffsB::cmdTarnwisePrint_Click() {
@@ -258,7 +217,7 @@ void frmTradeOffsB::cmdTarnwisePrint_Click() {
   Chart.picTradeOffsRange.BackColor = 0;
   frame.Left = 3855.0F;
   frame.Top = 2700.0F;
-  Screen().SetPointer(0);
+  Screen().SetPointer(kDefaultPointer);
 }
 
 void frmTradeOffsB::tbsTradeOffs_Click() {

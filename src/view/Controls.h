@@ -15,6 +15,11 @@
 
 namespace Tarnwise {
 
+// Mouse pointers.
+constexpr int kDefaultPointer = 0;
+constexpr int kHourglass = 11;
+constexpr int kNoDrop = 12;
+
 struct Form;
 
 enum class Kind {

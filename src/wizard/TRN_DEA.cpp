@@ -1,7 +1,8 @@
 #include <tarnwise/TRN_DEA.h>
 
-#include "model/ModelFile.h"
+#include "model/mdTRNMain.h"
 #include "view/Platform.h"
+#include "wizard/OpenModel.h"
 #include "wizard/Wizard.h"
 
 namespace Tarnwise {

@@ -1,4 +1,4 @@
-#include "judging/Consistency.h"
+#include "direct/RegionVerdict.h"
 #include "direct/Ranked.h"
 
 #include <gtest/gtest.h>

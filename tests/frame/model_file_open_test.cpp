@@ -1,4 +1,4 @@
-#include "model/ModelFile.h"
+#include "wizard/OpenModel.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"
 

@@ -1,6 +1,6 @@
 // The consistency control and the chart that it judges.
 #include "Random.h"
-#include "judging/Consistency.h"
+#include "direct/RegionVerdict.h"
 #include "runtime/Text.h"
 
 #include <cmath>

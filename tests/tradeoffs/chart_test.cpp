@@ -21,10 +21,10 @@ Lines TicksOf(Double low, Double high) {
 
 TEST(ChartScale, IsComputedInSingles) {
   TradeOffStep step(Ward());
-  EXPECT_EQ(step.Form->XMin, 0.0F);
-  EXPECT_EQ(step.Form->XMax, 100.0F);
-  EXPECT_EQ(step.Form->XStep, 100.0F / 6.0F);
-  EXPECT_EQ(step.Form->YStep, 100.0F / 6.0F);
+  EXPECT_EQ(step.Form->Plot.Scale.XMin, 0.0F);
+  EXPECT_EQ(step.Form->Plot.Scale.XMax, 100.0F);
+  EXPECT_EQ(step.Form->Plot.Scale.XStep, 100.0F / 6.0F);
+  EXPECT_EQ(step.Form->Plot.Scale.YStep, 100.0F / 6.0F);
   EXPECT_EQ(Captions(step.Form->Chart.labPCX), (Lines{"0", "16", "33", "50", "66", "83", "100"}));
   EXPECT_EQ(Captions(step.Form->Chart.labPCY), (Lines{"0", "16", "33", "50", "66", "83", "100"}));
 }

@@ -615,9 +615,9 @@ TEST(RestartOfAll, CountsAsShowingATarget) {
   step.Click("cmdEnter");
   step.Focus(step.Form->Scores.txtTradeOffAFirstScore);
   step.Press(step.Form->Scores.tbScoreChanger[0], "Up");
-  EXPECT_EQ(step.Form->mScoresDirty, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, -1);
   step.Click("cmdReStart");
-  EXPECT_EQ(step.Form->mScoresDirty, 0);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, 0);
 }
 
 }  // namespace

@@ -138,21 +138,21 @@ TEST(ScoreKeys, TheCharacterRemovedIsTheOneBeforeTheCaret) {
 
 TEST(ScoresDirty, IsSetByAnyKeyAndByAChangerAndClearedByShowingATarget) {
   ScoreStep step;
-  EXPECT_EQ(step.Form->mScoresDirty, 0);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, 0);
   step.Focus(step.Box(1));
   step.Key(37);
-  EXPECT_EQ(step.Form->mScoresDirty, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, -1);
   step.Choose(2);
-  EXPECT_EQ(step.Form->mScoresDirty, 0);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, 0);
   step.Press(step.Form->Scores.tbScoreChanger[3], "Up");
-  EXPECT_EQ(step.Form->mScoresDirty, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, -1);
 }
 
 TEST(ScoresDirty, IsNotClearedByACommitSoThatEveryLaterLeavingCommitsAgain) {
   ScoreStep step;
   step.Fill(step.Box(1), "50");
   step.Return();
-  EXPECT_EQ(step.Form->mScoresDirty, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresDirty, -1);
   step.Form->Points.AX = 1.0F;
   step.Focus(step.Box(3));
   EXPECT_EQ(step.Points().AX, 50.0F);
@@ -220,7 +220,7 @@ TEST(ScoreCheck, RefusesWithABeepTheFocusTheWholeTextAndTheMessage) {
   step.TakeNotes();
   step.Return();
   EXPECT_EQ(step.TakeNotes()[0], "beep");
-  EXPECT_EQ(step.Form->mScoresBad, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresBad, -1);
   EXPECT_EQ(step.Form->ActiveControl, &step.Box(4));
   EXPECT_EQ(step.Box(4).SelStart, 0);
   EXPECT_EQ(step.Box(4).SelLength, 3);
@@ -293,17 +293,17 @@ TEST(ScoreCheck, ReturnInOneBoxTellsOnceThatAnotherOneIsWrong) {
   step.Return();
   EXPECT_EQ(step.Messages(), Lines{RangeMessage("[0, 100]")});
   EXPECT_EQ(step.Form->ActiveControl, &step.Box(3));
-  EXPECT_EQ(step.Form->mScoresBad, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresBad, -1);
 }
 
 TEST(ScoreCheck, AFailedSecondScoreIsForgottenWhenTheFirstOnesPassAgain) {
   ScoreStep step;
   step.Fill(step.Box(2), "500");
   step.Return();
-  EXPECT_EQ(step.Form->mScoresBad, -1);
+  EXPECT_EQ(step.Form->Entry.mScoresBad, -1);
   step.Fill(step.Box(2), "30");
   step.Return();
-  EXPECT_EQ(step.Form->mScoresBad, 0);
+  EXPECT_EQ(step.Form->Entry.mScoresBad, 0);
   EXPECT_EQ(step.Points().AY, 30.0F);
 }
 

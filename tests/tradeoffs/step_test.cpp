@@ -144,8 +144,8 @@ TEST(Opening, SendsItsPromptWithinTheHourglass) {
                                "pointer 0", "show frmTradeOffsB"}));
   EXPECT_EQ(form.Form->mPage, 1);
   EXPECT_EQ(form.Form->mLoading, 0);
-  EXPECT_EQ(form.Form->mScoresBad, 0);
-  EXPECT_EQ(form.Form->mScoresDirty, 0);
+  EXPECT_EQ(form.Form->Entry.mScoresBad, 0);
+  EXPECT_EQ(form.Form->Entry.mScoresDirty, 0);
 }
 
 TEST(Opening, WithoutTheControlShowsTheLightInvalidOnly) {

@@ -86,8 +86,8 @@ TEST(ChangeSteps, AreAThirtiethAFortiethAndAFiftiethOfTheScale) {
   EXPECT_EQ(u.cmbChangeV.List(), (Lines{"3.33", "2.50", "2.00"}));
   EXPECT_EQ(u.cmbChangeH.ListIndex, 0);
   EXPECT_EQ(u.cmbChangeV.ListIndex, 0);
-  EXPECT_EQ(step.Form->mStepH, 10.0F);
-  EXPECT_EQ(step.Form->mStepV, 3.33F) << "the number of the text";
+  EXPECT_EQ(step.Form->Tools.mStepH, 10.0F);
+  EXPECT_EQ(step.Form->Tools.mStepV, 3.33F) << "the number of the text";
 }
 
 TEST(ChangeSteps, ChoosingAnItemSetsTheStepAnew) {
@@ -95,11 +95,11 @@ TEST(ChangeSteps, ChoosingAnItemSetsTheStepAnew) {
   step.Press(step.U().tbMovRight, "MovRight");
   EXPECT_EQ(step.Points().AUX, 50.0F + 3.33F);
   Input::SelectRow(step.U().cmbChangeH, 2);
-  EXPECT_EQ(step.Form->mStepH, 2.0F);
+  EXPECT_EQ(step.Form->Tools.mStepH, 2.0F);
   step.Press(step.U().tbMovRight, "MovRight");
   EXPECT_EQ(step.Points().AUX, 50.0F + 3.33F + 2.0F);
   Input::SelectRow(step.U().cmbChangeV, 1);
-  EXPECT_EQ(step.Form->mStepV, 2.5F);
+  EXPECT_EQ(step.Form->Tools.mStepV, 2.5F);
 }
 
 TEST(ChangeSteps, AreFilledAnewForAnotherTarget) {
@@ -110,7 +110,7 @@ TEST(ChangeSteps, AreFilledAnewForAnotherTarget) {
   step.Choose(5);
   EXPECT_EQ(step.U().cmbChangeH.List(), (Lines{"1.00", "0.75", "0.60"}));
   EXPECT_EQ(step.U().cmbChangeH.ListIndex, 0);
-  EXPECT_EQ(step.Form->mStepH, 1.0F);
+  EXPECT_EQ(step.Form->Tools.mStepH, 1.0F);
 }
 
 TEST(Movers, EachMovesItsCornerByTheStep) {

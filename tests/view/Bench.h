@@ -5,7 +5,7 @@
 #include "support/TestHost.h"
 #include "view/Input.h"
 #include "view/Reach.h"
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

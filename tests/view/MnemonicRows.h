@@ -3,10 +3,10 @@
 
 #include "view/Captions.h"
 #include "view/Platform.h"
-#include "view/forms/DirectBForm.h"
-#include "view/forms/IniImpOrderForm.h"
-#include "view/forms/SelMethodForm.h"
-#include "view/forms/TradeOffsBForm.h"
+#include "forms/DirectBForm.h"
+#include "forms/IniImpOrderForm.h"
+#include "forms/SelMethodForm.h"
+#include "forms/TradeOffsBForm.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtToolkit.h"
 

@@ -6,7 +6,7 @@
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"

@@ -1,8 +1,8 @@
 // Controls of the trade-off step: the chart of the two alternatives, the tools on their tabs, and the results page.
 #pragma once
 
-#include "view/forms/LightControls.h"
-#include "view/forms/ResultsControls.h"
+#include "forms/LightControls.h"
+#include "forms/ResultsControls.h"
 
 namespace Tarnwise {
 

@@ -1,4 +1,4 @@
-#include "view/forms/SelMethodForm.h"
+#include "forms/SelMethodForm.h"
 
 namespace Tarnwise {
 

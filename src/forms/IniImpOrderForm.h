@@ -2,7 +2,7 @@
 // where the benefit group's bear a B.
 #pragma once
 
-#include "view/forms/OrderDisplay.h"
+#include "forms/OrderDisplay.h"
 
 namespace Tarnwise {
 

@@ -1,4 +1,4 @@
-#include "direct/ReferenceChart.h"
+#include "direct/RegionGeometry.h"
 
 #include "runtime/ErrorNumber.h"
 

@@ -1,4 +1,4 @@
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

@@ -1,7 +1,7 @@
 // Controls of the first step: the choice of an approach.
 #pragma once
 
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

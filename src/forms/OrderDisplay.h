@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/Groups.h"
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 
@@ -28,6 +28,7 @@ String Named(const char* name, bool benefit);  // the cost group's names end in 
 
 void PlaceViewport(PictureBox& box, Single left, Single top, Single width, Single height);
 void PlaceBar(VScrollBar& bar, const Control& viewport, int max);  // at the viewport's right edge
+void Scrolls(VScrollBar& bar, PictureBox& content);                // the content goes up as the bar goes down
 void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width);
 
 // One row for each rank, as high as its size, with the buttons of its attributes (found by their Tags) one below the

@@ -1,4 +1,4 @@
-#include "view/forms/LightControls.h"
+#include "forms/LightControls.h"
 
 namespace Tarnwise {
 

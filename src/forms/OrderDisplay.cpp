@@ -1,4 +1,4 @@
-#include "view/forms/OrderDisplay.h"
+#include "forms/OrderDisplay.h"
 
 namespace Tarnwise {
 
@@ -54,6 +54,12 @@ void PlaceBar(VScrollBar& bar, const Control& viewport, int max) {
   bar.Max = max;
   bar.SmallChange = 100;
   bar.LargeChange = 500;
+}
+
+void Scrolls(VScrollBar& bar, PictureBox& content) {
+  const auto follow = [&bar, &content] { content.Top = static_cast<Single>(-bar.Value()); };
+  bar.Change = follow;
+  bar.Scroll = follow;
 }
 
 void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width) {

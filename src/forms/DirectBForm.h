@@ -1,9 +1,9 @@
 // Controls of the direct step: the judgment stage with its chart, and the results stage.
 #pragma once
 
-#include "view/forms/LightControls.h"
-#include "view/forms/OrderDisplay.h"
-#include "view/forms/ResultsControls.h"
+#include "forms/LightControls.h"
+#include "forms/OrderDisplay.h"
+#include "forms/ResultsControls.h"
 
 namespace Tarnwise {
 

@@ -1,7 +1,7 @@
 // The three signal lights of a judgment step: 0 Consistent, 1 Invalid, 2 Inconsistent.
 #pragma once
 
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

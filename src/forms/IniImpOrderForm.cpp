@@ -1,4 +1,4 @@
-#include "view/forms/IniImpOrderForm.h"
+#include "forms/IniImpOrderForm.h"
 
 namespace Tarnwise {
 

@@ -1,4 +1,4 @@
-#include "view/forms/TradeOffsBForm.h"
+#include "forms/TradeOffsBForm.h"
 
 namespace Tarnwise {
 

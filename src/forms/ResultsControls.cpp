@@ -1,4 +1,4 @@
-#include "view/forms/ResultsControls.h"
+#include "forms/ResultsControls.h"
 
 namespace Tarnwise {
 

@@ -1,4 +1,4 @@
-#include "view/forms/DirectBForm.h"
+#include "forms/DirectBForm.h"
 
 namespace Tarnwise {
 

@@ -1,7 +1,7 @@
 // The results page of both judgment steps: a grid for each group on its tab.
 #pragma once
 
-#include "view/forms/WizardForm.h"
+#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

@@ -2,15 +2,13 @@
 // One set per thread; all steps work on it. What has not been read or set is zero, empty or unallocated.
 #pragma once
 
+#include "runtime/Sizes.h"
+
 #include <tarnwise/Arrays.h>
 #include <tarnwise/Scalars.h>
 #include <tarnwise/Variant.h>
 
 namespace Tarnwise {
-
-constexpr int kMaxAtts = 31;          // attribute ids 0 to 30
-constexpr int kMaxAlternatives = 51;  // alternative ids 0 to 50
-constexpr int kMaxCurvePoints = 11;
 
 constexpr const char* kDirectType = "DEA_DIRECT";
 constexpr const char* kTradeOffsType = "DEA_TRADEOFFS";

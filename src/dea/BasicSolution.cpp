@@ -1,0 +1,145 @@
+#include "dea/BasicSolution.h"
+
+#include "dea/DenseSolve.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Tarnwise::Dea {
+
+namespace {
+
+// What is this much smaller than its neighbours is the rounding of a zero.
+constexpr Double kRounding = 1e-13;
+constexpr Double kPriceRounding = 1e-14;
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+Double LargestOf(const std::vector<Double>& numbers) {
+  Double largest = 0.0;
+  for (const Double x : numbers) largest = std::fmax(largest, std::fabs(x));
+  return largest;
+}
+
+// Of each row: what its terms and its right-hand side come to without regard to sign.
+std::vector<Double> RowSizes(const ProgramData& program, const std::vector<Double>& values) {
+  std::vector<Double> sizes(program.Rows.size());
+  for (std::size_t i = 0; i < sizes.size(); ++i) sizes[i] = std::fabs(program.RightSide[i]);
+  for (int j = 0; j < program.ColumnCount(); ++j) {
+    if (values[At(j)] == 0.0) continue;
+    const Double* const column = program.ColumnAt(j);
+    for (std::size_t i = 0; i < sizes.size(); ++i) sizes[i] += std::fabs(column[i] * values[At(j)]);
+  }
+  return sizes;
+}
+
+Double Passes(RowKind kind, Double residual) {
+  switch (kind) {
+    case RowKind::AtLeast: return -residual;
+    case RowKind::AtMost: return residual;
+    case RowKind::Equal: return std::fabs(residual);
+  }
+  return 0.0;
+}
+
+std::vector<Double> Residuals(const ProgramData& program, const std::vector<Double>& values) {
+  std::vector<Double> residuals(program.Rows.size());
+  for (std::size_t i = 0; i < residuals.size(); ++i) residuals[i] = -program.RightSide[i];
+  for (int j = 0; j < program.ColumnCount(); ++j) {
+    if (values[At(j)] == 0.0) continue;
+    const Double* const column = program.ColumnAt(j);
+    for (std::size_t i = 0; i < residuals.size(); ++i) residuals[i] += column[i] * values[At(j)];
+  }
+  return residuals;
+}
+
+bool IsOutside(Domain domain, Double value, Double rounding) {
+  return (domain == Domain::NotNegative && value < -rounding) ||
+         (domain == Domain::Zero && std::fabs(value) > rounding);
+}
+
+}  // namespace
+
+BasicSolution SolutionAt(const ProgramData& program, const RowsAndColumns& basis) {
+  BasicSolution solution;
+  solution.Values.assign(program.Costs.size(), 0.0);
+  solution.Prices.assign(program.Rows.size(), 0.0);
+  if (basis.Rows.size() != basis.Columns.size()) return solution;
+  const std::size_t size = basis.Rows.size();
+  std::vector<Double> entries(size * size);
+  std::vector<Double> rightSide(size);
+  std::vector<Double> costs(size);
+  for (std::size_t j = 0; j < size; ++j) {
+    const Double* const column = program.ColumnAt(basis.Columns[j]);
+    for (std::size_t i = 0; i < size; ++i) entries[i * size + j] = column[basis.Rows[i]];
+    rightSide[j] = program.RightSide[At(basis.Rows[j])];
+    costs[j] = program.Costs[At(basis.Columns[j])];
+  }
+  const DenseMatrix matrix(static_cast<int>(size), std::move(entries));
+  if (!matrix.Solvable()) return solution;
+  const std::vector<Double> values = matrix.Solve(rightSide);
+  std::vector<Double> prices = matrix.SolveTransposed(costs);
+  const Double noPrice = kPriceRounding * LargestOf(prices);
+  for (std::size_t j = 0; j < size; ++j) {
+    if (!std::isfinite(values[j]) || !std::isfinite(prices[j])) return solution;
+    solution.Values[At(basis.Columns[j])] = values[j];
+    solution.Prices[At(basis.Rows[j])] = std::fabs(prices[j]) <= noPrice ? 0.0 : prices[j];
+  }
+  solution.Exists = true;
+  return solution;
+}
+
+Double ValueError(const ProgramData& program, const BasicSolution& solution) {
+  const std::vector<Double> sizes = RowSizes(program, solution.Values);
+  const Double roundingOfRows = kRounding * LargestOf(sizes);
+  const Double rounding = kRounding * LargestOf(solution.Values);
+  const auto share = [&](std::size_t row, Double amount) {
+    return amount <= roundingOfRows ? 0.0 : amount / sizes[row];
+  };
+  Double worst = 0.0;
+  for (int j = 0; j < program.ColumnCount(); ++j) {
+    const Double value = solution.Values[At(j)];
+    if (!IsOutside(program.Domains[At(j)], value, rounding)) continue;
+    const Double* const column = program.ColumnAt(j);
+    for (std::size_t i = 0; i < sizes.size(); ++i) worst = std::fmax(worst, share(i, std::fabs(column[i] * value)));
+  }
+  const std::vector<Double> residuals = Residuals(program, solution.Values);
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    worst = std::fmax(worst, share(i, Passes(program.Rows[i], residuals[i])));
+  }
+  return worst;
+}
+
+Double PriceErrorOf(const ProgramData& program, const BasicSolution& solution, int column) {
+  const Domain domain = program.Domains[At(column)];
+  if (domain == Domain::Zero) return 0.0;
+  const Double* const entries = program.ColumnAt(column);
+  Double passes = -program.Costs[At(column)];
+  Double size = std::fabs(passes);
+  for (std::size_t i = 0; i < program.Rows.size(); ++i) {
+    const Double term = solution.Prices[i] * entries[i];
+    passes += term;
+    size += std::fabs(term);
+  }
+  if (domain == Domain::Free) passes = std::fabs(passes);
+  return passes <= 0.0 ? 0.0 : 2.0 * passes / size;
+}
+
+Double PriceError(const ProgramData& program, const BasicSolution& solution) {
+  Double worst = 0.0;
+  for (int j = 0; j < program.ColumnCount(); ++j) worst = std::fmax(worst, PriceErrorOf(program, solution, j));
+  const std::vector<Double> sizes = RowSizes(program, solution.Values);
+  Double whole = 0.0;
+  for (std::size_t i = 0; i < sizes.size(); ++i) whole = std::fmax(whole, std::fabs(solution.Prices[i]) * sizes[i]);
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    const Double wrong = program.Rows[i] == RowKind::AtLeast  ? -solution.Prices[i]
+                         : program.Rows[i] == RowKind::AtMost ? solution.Prices[i]
+                                                              : 0.0;
+    if (wrong <= 0.0) continue;
+    worst =
+        std::fmax(worst, sizes[i] > 0.0 && whole > 0.0 ? wrong * sizes[i] / whole : wrong / LargestOf(solution.Prices));
+  }
+  return worst;
+}
+
+}  // namespace Tarnwise::Dea

@@ -1,0 +1,266 @@
+#include "dea/LinearProgram.h"
+
+#include <glpk.h>
+
+#include <array>
+#include <cmath>
+
+namespace Tarnwise::Dea {
+
+namespace {
+
+// What the solver counts as zero. Answers are checked relative to what they are made of, which is stricter.
+constexpr double kSolverTolerance = 1e-10;
+constexpr Double kStands = 1e-10;
+constexpr Double kStandsAfterExact = 1e-7;  // the basis is proven then; what is left is rounding
+constexpr int kIterations = 300;            // in one go, so that a cancel is seen in time
+constexpr int kMostGoes = 200;
+
+// The library's memory belongs to the thread. An error is fatal to it: it prints, calls the hook, and may not go on.
+struct Environment {
+  int Programs = 0;
+  unsigned Generation = 0;  // of the memory: programs of an earlier one are gone
+  bool Hooked = false;
+  String Error;
+};
+
+Environment& OfThread() {
+  static thread_local Environment environment;
+  return environment;
+}
+
+int KeepText(void*, const char* text) {
+  if (glp_at_error() != 0) OfThread().Error += text;
+  return 1;  // nothing goes to the terminal
+}
+
+struct InsideSolver {};
+
+void LeaveSolver(void*) { throw InsideSolver(); }
+
+void InstallHooks() {
+  if (OfThread().Hooked) return;
+  glp_term_hook(KeepText, nullptr);
+  glp_error_hook(LeaveSolver, nullptr);
+  OfThread().Hooked = true;
+}
+
+void ForgetEnvironment() {
+  glp_free_env();
+  OfThread().Hooked = false;
+  ++OfThread().Generation;
+}
+
+[[noreturn]] void ReportError() {
+  const String text = OfThread().Error;
+  OfThread().Error.clear();
+  ForgetEnvironment();
+  throw SolverFault("The solver of linear programs failed: " + text);
+}
+
+// Runs what calls the library; the one place where its errors arrive.
+template <typename Work>
+void InSolver(Work work) {
+  InstallHooks();
+  try {
+    work();
+  } catch (const InsideSolver&) {
+    ReportError();
+  }
+}
+
+void WantFinite(const std::vector<Double>& numbers) {
+  for (const Double x : numbers) {
+    if (!std::isfinite(x)) throw SolverFault("A number of a linear program is not finite.");
+  }
+}
+
+int TypeOf(RowKind kind) { return kind == RowKind::Equal ? GLP_FX : kind == RowKind::AtLeast ? GLP_LO : GLP_UP; }
+
+int TypeOf(Domain domain) { return domain == Domain::Zero ? GLP_FX : domain == Domain::Free ? GLP_FR : GLP_LO; }
+
+}  // namespace
+
+struct LinearProgram::Solver {
+  explicit Solver(const std::vector<RowKind>& rows) {
+    InSolver([&] {
+      Program = glp_create_prob();
+      glp_add_rows(Program, static_cast<int>(rows.size()));
+      for (std::size_t i = 0; i < rows.size(); ++i) {
+        glp_set_row_bnds(Program, static_cast<int>(i) + 1, TypeOf(rows[i]), 0.0, 0.0);
+      }
+    });
+    Generation = OfThread().Generation;
+    ++OfThread().Programs;
+  }
+  ~Solver() {
+    if (IsLost()) return;
+    glp_delete_prob(Program);
+    if (--OfThread().Programs == 0) ForgetEnvironment();
+  }
+  Solver(const Solver&) = delete;
+  Solver& operator=(const Solver&) = delete;
+
+  bool IsLost() const { return Generation != OfThread().Generation; }
+  void WantAlive() const {
+    if (IsLost()) throw SolverFault("A linear program was lost when the solver failed at another one.");
+  }
+
+  void SetColumn(const ProgramData& data, int column) {
+    std::array<int, 64> rows{};
+    std::array<double, 64> entries{};
+    int count = 0;
+    const Double scale = Scales[static_cast<std::size_t>(column)];
+    for (int i = 0; i < data.RowCount(); ++i) {
+      const Double entry = data.ColumnAt(column)[i] * scale;
+      if (entry == 0.0) continue;
+      ++count;
+      rows[static_cast<std::size_t>(count)] = i + 1;
+      entries[static_cast<std::size_t>(count)] = entry;
+    }
+    glp_set_mat_col(Program, column + 1, count, rows.data(), entries.data());
+  }
+
+  RowsAndColumns Basis(const ProgramData& data) const {
+    RowsAndColumns basis;
+    for (int i = 0; i < data.RowCount(); ++i) {
+      if (glp_get_row_stat(Program, i + 1) != GLP_BS) basis.Rows.push_back(i);
+    }
+    for (int j = 0; j < data.ColumnCount(); ++j) {
+      if (glp_get_col_stat(Program, j + 1) == GLP_BS) basis.Columns.push_back(j);
+    }
+    return basis;
+  }
+
+  glp_prob* Program = nullptr;
+  unsigned Generation = 0;
+  std::vector<Double> Scales;  // what the columns are multiplied by here
+};
+
+LinearProgram::LinearProgram(std::vector<RowKind> rows) : solver_(std::make_unique<Solver>(rows)) {
+  data_.RightSide.assign(rows.size(), 0.0);
+  data_.Rows = std::move(rows);
+}
+
+LinearProgram::~LinearProgram() = default;
+
+int LinearProgram::AddColumn(Double cost, const std::vector<Double>& entries, Domain domain) {
+  const int column = data_.ColumnCount();
+  WantFinite(entries);
+  solver_->WantAlive();
+  data_.Costs.push_back(0.0);
+  data_.Domains.push_back(domain);
+  data_.Entries.insert(data_.Entries.end(), entries.begin(), entries.end());
+  solver_->Scales.push_back(1.0);
+  InSolver([&] {
+    glp_add_cols(solver_->Program, 1);
+    solver_->SetColumn(data_, column);
+  });
+  SetDomain(column, domain);
+  SetCost(column, cost);
+  return column;
+}
+
+void LinearProgram::SetEntries(int column, const std::vector<Double>& entries) {
+  WantFinite(entries);
+  solver_->WantAlive();
+  std::copy(entries.begin(), entries.end(), data_.Entries.begin() + column * data_.RowCount());
+  InSolver([&] { solver_->SetColumn(data_, column); });
+}
+
+void LinearProgram::SetCost(int column, Double cost) {
+  WantFinite({cost});
+  solver_->WantAlive();
+  InSolver([&] {
+    glp_set_obj_coef(solver_->Program, column + 1, cost * solver_->Scales[static_cast<std::size_t>(column)]);
+  });
+  data_.Costs[static_cast<std::size_t>(column)] = cost;
+}
+
+void LinearProgram::SetDomain(int column, Domain domain) {
+  solver_->WantAlive();
+  InSolver([&] { glp_set_col_bnds(solver_->Program, column + 1, TypeOf(domain), 0.0, 0.0); });
+  data_.Domains[static_cast<std::size_t>(column)] = domain;
+}
+
+void LinearProgram::SetRightSide(const std::vector<Double>& rightSide) {
+  WantFinite(rightSide);
+  solver_->WantAlive();
+  data_.RightSide = rightSide;
+  InSolver([&] {
+    for (std::size_t i = 0; i < rightSide.size(); ++i) {
+      glp_set_row_bnds(solver_->Program, static_cast<int>(i) + 1, TypeOf(data_.Rows[i]), rightSide[i], rightSide[i]);
+    }
+  });
+}
+
+Double LinearProgram::Objective() const {
+  Double sum = 0.0;
+  for (std::size_t j = 0; j < data_.Costs.size(); ++j) sum += data_.Costs[j] * solution_.Values[j];
+  return sum;
+}
+
+Outcome LinearProgram::Solve(Method method, const Watch& watch) {
+  solver_->WantAlive();
+  for (const Effort effort : {Effort::Usual, Effort::Rescaled, Effort::Anew, Effort::Exact}) {
+    if (effort != Effort::Usual) ++repairs_;
+    if (effort == Effort::Rescaled) RescaleWorst();
+    const Ended ended = Run(effort == Effort::Usual ? method : Method::Primal, effort, watch);
+    if (ended == Ended::Infeasible) return Outcome::Infeasible;
+    if (ended == Ended::Optimal && Stands(effort)) return Outcome::Optimal;
+  }
+  throw SolverFault("A linear program has no solution that stands the check.");
+}
+
+LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watch& watch) {
+  glp_smcp how;
+  glp_init_smcp(&how);
+  how.msg_lev = GLP_MSG_OFF;
+  how.meth = method == Method::Dual ? GLP_DUAL : GLP_PRIMAL;
+  how.tol_bnd = kSolverTolerance;
+  how.tol_dj = kSolverTolerance;
+  how.it_lim = kIterations;
+  glp_prob* const program = solver_->Program;
+  int code = GLP_EITLIM;
+  int status = GLP_UNDEF;
+  if (effort == Effort::Anew) InSolver([&] { glp_std_basis(program); });
+  for (int go = 0; code == GLP_EITLIM && go < kMostGoes; ++go) {
+    watch.LookAtFlag();
+    InSolver([&] {
+      code = effort == Effort::Exact ? glp_exact(program, &how) : glp_simplex(program, &how);
+      if (code == GLP_EBADB || code == GLP_ESING || code == GLP_ECOND) {
+        glp_std_basis(program);
+        how.meth = GLP_PRIMAL;
+        code = glp_simplex(program, &how);
+      }
+      status = glp_get_status(program);
+    });
+  }
+  if (code != 0) return Ended::Failed;
+  return status == GLP_OPT ? Ended::Optimal : status == GLP_NOFEAS ? Ended::Infeasible : Ended::Failed;
+}
+
+bool LinearProgram::Stands(Effort effort) {
+  solution_ = SolutionAt(data_, solver_->Basis(data_));
+  if (!solution_.Exists) return false;
+  const Double most = effort == Effort::Exact ? kStandsAfterExact : kStands;
+  return PriceError(data_, solution_) <= most && ValueError(data_, solution_) <= most;
+}
+
+// Columns whose prices are small look optimal to the solver while they are not by their own measure: they are enlarged.
+void LinearProgram::RescaleWorst() {
+  if (!solution_.Exists) return;
+  for (int j = 0; j < data_.ColumnCount(); ++j) {
+    if (PriceErrorOf(data_, solution_, j) <= kStands) continue;
+    Double size = std::fabs(data_.Costs[static_cast<std::size_t>(j)]);
+    for (int i = 0; i < data_.RowCount(); ++i) {
+      size = std::fmax(size, std::fabs(data_.ColumnAt(j)[i] * solution_.Prices[static_cast<std::size_t>(i)]));
+    }
+    if (size == 0.0) continue;
+    solver_->Scales[static_cast<std::size_t>(j)] = std::exp2(std::round(-std::log2(size)));
+    InSolver([&] { solver_->SetColumn(data_, j); });
+    SetCost(j, data_.Costs[static_cast<std::size_t>(j)]);
+  }
+}
+
+}  // namespace Tarnwise::Dea

@@ -1,0 +1,56 @@
+#include "dea/Region.h"
+
+#include <cmath>
+
+namespace Tarnwise::Dea {
+
+Box FreeBox(int attributes, int reference) {
+  Box box;
+  box.Low.assign(static_cast<std::size_t>(attributes), 0.0);
+  box.High.assign(static_cast<std::size_t>(attributes), kNoBound);
+  if (attributes > 0) {
+    box.Low[static_cast<std::size_t>(reference)] = 1.0;
+    box.High[static_cast<std::size_t>(reference)] = 1.0;
+  }
+  return box;
+}
+
+PriceRow RowOf(const JudgedBound& bound) {
+  if (bound.Side == Side::Low) return {{{bound.Reference, bound.Bound}, {bound.Attribute, -1.0}}};
+  return {{{bound.Reference, -bound.Bound}, {bound.Attribute, 1.0}}};
+}
+
+Box WithoutBound(Box box, int attribute, Side side) {
+  const auto at = static_cast<std::size_t>(attribute);
+  if (side == Side::Low) {
+    box.Low[at] = 0.0;
+  } else {
+    box.High[at] = kNoBound;
+  }
+  return box;
+}
+
+Interval Widened(const Interval& interval, Double factor) {
+  if (factor == 1.0 || interval.Low == 0.0 || interval.High == kNoBound) return interval;
+  const Double more = std::pow(interval.High / interval.Low, (factor - 1.0) / 2.0);
+  return {interval.Low / more, interval.High * more};
+}
+
+std::vector<Double> MiddleOf(const Box& box) {
+  std::vector<Double> middle(box.Low.size());
+  for (std::size_t j = 0; j < middle.size(); ++j) {
+    const Double low = box.Low[j];
+    const Double high = box.High[j];
+    if (high == kNoBound) {
+      middle[j] = low > 1.0 ? low : 1.0;
+    } else if (low == 0.0) {
+      middle[j] = high < 1.0 ? high : 1.0;
+    } else {
+      middle[j] = std::sqrt(low) * std::sqrt(high);
+    }
+    if (middle[j] == 0.0) middle[j] = 1.0;
+  }
+  return middle;
+}
+
+}  // namespace Tarnwise::Dea

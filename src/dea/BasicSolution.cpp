@@ -11,7 +11,6 @@ namespace {
 
 // What is this much smaller than its neighbours is the rounding of a zero.
 constexpr Double kRounding = 1e-13;
-constexpr Double kPriceRounding = 1e-14;
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
@@ -78,13 +77,13 @@ BasicSolution SolutionAt(const ProgramData& program, const RowsAndColumns& basis
   const DenseMatrix matrix(static_cast<int>(size), std::move(entries));
   if (!matrix.Solvable()) return solution;
   const std::vector<Double> values = matrix.Solve(rightSide);
-  std::vector<Double> prices = matrix.SolveTransposed(costs);
-  const Double noPrice = kPriceRounding * LargestOf(prices);
+  const std::vector<Double> prices = matrix.SolveTransposed(costs);
   for (std::size_t j = 0; j < size; ++j) {
     if (!std::isfinite(values[j]) || !std::isfinite(prices[j])) return solution;
     solution.Values[At(basis.Columns[j])] = values[j];
-    solution.Prices[At(basis.Rows[j])] = std::fabs(prices[j]) <= noPrice ? 0.0 : prices[j];
+    solution.Prices[At(basis.Rows[j])] = prices[j];
   }
+  solution.RoundingOfPrices = kPriceRounding * LargestOf(prices);
   solution.Exists = true;
   return solution;
 }
@@ -122,7 +121,7 @@ Double PriceErrorOf(const ProgramData& program, const BasicSolution& solution, i
     size += std::fabs(term);
   }
   if (domain == Domain::Free) passes = std::fabs(passes);
-  return passes <= 0.0 ? 0.0 : 2.0 * passes / size;
+  return passes <= solution.RoundingOfPrices ? 0.0 : 2.0 * passes / size;
 }
 
 Double PriceError(const ProgramData& program, const BasicSolution& solution) {

@@ -8,6 +8,9 @@
 
 namespace Tarnwise::Dea {
 
+// Of the largest price: what the solution of its basis leaves uncertain.
+constexpr Double kPriceRounding = 1e-15;
+
 enum class RowKind { AtLeast, Equal, AtMost };  // activity against the right-hand side
 enum class Domain { NotNegative, Free, Zero };  // where a variable may lie
 
@@ -32,8 +35,9 @@ struct RowsAndColumns {
 
 struct BasicSolution {
   bool Exists = false;
-  std::vector<Double> Values;  // of the columns
-  std::vector<Double> Prices;  // of the rows
+  std::vector<Double> Values;     // of the columns
+  std::vector<Double> Prices;     // of the rows
+  Double RoundingOfPrices = 0.0;  // less than this in what prices come to is rounding
 };
 
 BasicSolution SolutionAt(const ProgramData& program, const RowsAndColumns& basis);

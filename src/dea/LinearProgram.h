@@ -38,6 +38,7 @@ class LinearProgram {
   // Of the last optimal solution. Prices of AtLeast rows are not negative.
   const std::vector<Double>& Values() const { return solution_.Values; }
   const std::vector<Double>& Prices() const { return solution_.Prices; }
+  Double RoundingOfPrices() const { return solution_.RoundingOfPrices; }
   Double Objective() const;
 
   // How often an answer did not stand the check and the program was solved in another way.

@@ -70,6 +70,7 @@ Double Pool::ViolationOf(const Double* column) const {
   Double sum = 0.0;
   for (std::size_t i = 0; i < At(shape_.SizedRows); ++i) size -= prices[i] * column[i];
   for (std::size_t i = At(shape_.SizedRows); i < prices.size(); ++i) sum += prices[i] * column[i];
+  if (sum - size <= program_.RoundingOfPrices()) return 0.0;
   return size > 0.0 ? sum / size - 1.0 : sum;
 }
 

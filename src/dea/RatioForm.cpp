@@ -11,6 +11,7 @@ namespace {
 
 constexpr Double kIsOne = 1e-9;
 constexpr Double kLeastGain = 1e-6;
+constexpr Double kWorthNothing = 1e-13;  // one side's numbers come to 1 at the prices
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
@@ -148,7 +149,7 @@ void TakeScore(const Evaluation& evaluation, const RatioScore& score, int unit, 
     if (column < 0) continue;
     result.Prices[At(column)] = score.Prices[At(a)] / made.Means[At(a)];
     const Double worth = a < made.Data.Inputs ? inputs : outputs;
-    if (worth > 0.0) result.Shares[At(column)] = score.Prices[At(a)] * numbers[a] / worth;
+    if (worth > kWorthNothing) result.Shares[At(column)] = score.Prices[At(a)] * numbers[a] / worth;
   }
   for (const auto& [other, lambda] : score.Peers) {
     result.Peers.push_back({evaluation.Checked_.Units[At(other)], lambda});

@@ -56,24 +56,16 @@ Double RatioScorer::LargestInput(int unit) const { return LargestOf(ScaledOf(uni
 
 Double RatioScorer::LargestOutput(int unit) const { return LargestOf(ScaledOf(unit) + data_.Inputs, data_.Outputs); }
 
-// Prices of a typical size of 1, and the best unit at those prices with outputs worth as much as its inputs: what the
-// programs' columns then have in common keeps them well scaled.
+// The best unit gets outputs worth as much as its inputs, so that prices of both sides are of a like size.
 void RatioScorer::Scale() {
-  factors_ = MiddleOf(region_.Inputs);
-  const std::vector<Double> outputs = MiddleOf(region_.Outputs);
-  factors_.insert(factors_.end(), outputs.begin(), outputs.end());
-  scaled_ = data_.Values;
-  for (std::size_t c = 0; c < scaled_.size(); ++c) scaled_[c] *= factors_[c % factors_.size()];
   Double best = 0.0;
   for (int k = 0; k < data_.Units; ++k) {
-    const Double inputs = SumOf(ScaledOf(k), data_.Inputs);
-    best = std::fmax(best, SumOf(ScaledOf(k) + data_.Inputs, data_.Outputs) / inputs);
+    best = std::fmax(best, SumOf(data_.OutputsOf(k), data_.Outputs) / SumOf(data_.InputsOf(k), data_.Inputs));
   }
-  if (best == 0.0) return;
-  for (int r = data_.Inputs; r < Attributes(); ++r) factors_[At(r)] /= best;
-  for (int k = 0; k < data_.Units; ++k) {
-    for (int r = data_.Inputs; r < Attributes(); ++r) scaled_[At(k * Attributes() + r)] /= best;
-  }
+  factors_.assign(At(Attributes()), 1.0);
+  if (best > 0.0) std::fill(factors_.begin() + data_.Inputs, factors_.end(), 1.0 / best);
+  scaled_ = data_.Values;
+  for (std::size_t c = 0; c < scaled_.size(); ++c) scaled_[c] *= factors_[c % factors_.size()];
 }
 
 PoolShape RatioScorer::Shape() const {

@@ -17,12 +17,10 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 }  // namespace
 
 ValueScorer::ValueScorer(const ValueData& data, ValueRegion region)
-    : data_(data), region_(std::move(region)), middle_(MiddleOf(region_.Drawn)), ones_(At(data.Attributes), 1.0) {
-  const Double sum = std::accumulate(middle_.begin(), middle_.end(), 0.0);
-  factors_ = middle_;
-  for (Double& factor : factors_) factor /= sum;
-  pool_ = std::make_unique<Pool>(Shape());
-}
+    : data_(data),
+      region_(std::move(region)),
+      ones_(At(data.Attributes), 1.0),
+      pool_(std::make_unique<Pool>(Shape())) {}
 
 // Minimise the distance: its dual has a row for each attribute and one that makes the lambdas add up to 1. The free
 // column is the distance, and its prices make the weights add up to 1.
@@ -33,14 +31,14 @@ PoolShape ValueScorer::Shape() const {
   shape.Units = data_.Units;
   shape.Columns.reserve(At(data_.Units) * shape.Rows.size());
   for (int k = 0; k < data_.Units; ++k) {
-    for (int j = 0; j < data_.Attributes; ++j) shape.Columns.push_back(data_.Of(k)[j] * factors_[At(j)]);
+    for (int j = 0; j < data_.Attributes; ++j) shape.Columns.push_back(data_.Of(k)[j]);
     shape.Columns.push_back(1.0);
   }
   for (const PriceRow& row : region_.Rows) {
     std::vector<Double> column(shape.Rows.size());
     Double largest = 0.0;
     for (const auto& [attribute, coefficient] : row.Terms) {
-      column[At(attribute)] = coefficient * factors_[At(attribute)];
+      column[At(attribute)] = coefficient;
       largest = std::fmax(largest, std::fabs(column[At(attribute)]));
     }
     for (Double& entry : column) entry /= largest;
@@ -69,8 +67,8 @@ std::optional<Double> ValueScorer::Distance(int unit, const Watch& watch) {
   program.Cost = -1.0;
   program.WithoutItself = true;
   for (int j = 0; j < data_.Attributes; ++j) {
-    program.Own.push_back(-factors_[At(j)]);
-    program.RightSide.push_back(data_.Of(unit)[j] * factors_[At(j)]);
+    program.Own.push_back(-1.0);
+    program.RightSide.push_back(data_.Of(unit)[j]);
   }
   program.Own.push_back(0.0);
   program.RightSide.push_back(1.0);
@@ -115,7 +113,7 @@ void ValueScorer::TakeValues(const std::vector<Double>& weights, std::vector<Dou
 
 std::vector<RankRange> ValueScorer::SureRanks(const Watch& watch) const {
   std::vector<Double> typical(At(data_.Units));
-  TakeValues(middle_, typical);
+  TakeValues(MiddleOf(region_.Drawn), typical);
   return Dea::SureRanks(
       typical, [this](int winner, int loser) { return DominatesSurely(winner, loser); }, watch);
 }

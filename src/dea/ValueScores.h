@@ -54,8 +54,6 @@ class ValueScorer {
 
   const ValueData& data_;
   ValueRegion region_;
-  std::vector<Double> middle_;   // typical weights
-  std::vector<Double> factors_;  // these with a sum of 1
   std::vector<Double> ones_;
   std::unique_ptr<Pool> pool_;
 };

@@ -134,11 +134,37 @@ Double PriceError(const ProgramData& program, const BasicSolution& solution) {
     const Double wrong = program.Rows[i] == RowKind::AtLeast  ? -solution.Prices[i]
                          : program.Rows[i] == RowKind::AtMost ? solution.Prices[i]
                                                               : 0.0;
-    if (wrong <= 0.0) continue;
+    if (wrong <= solution.RoundingOfPrices) continue;
     worst =
         std::fmax(worst, sizes[i] > 0.0 && whole > 0.0 ? wrong * sizes[i] / whole : wrong / LargestOf(solution.Prices));
   }
   return worst;
+}
+
+RowsAndColumnsSizes SizesOf(const ProgramData& program, const BasicSolution& solution) {
+  RowsAndColumnsSizes sizes;
+  sizes.Rows.resize(program.Rows.size());
+  for (std::size_t i = 0; i < sizes.Rows.size(); ++i) sizes.Rows[i] = std::fabs(program.RightSide[i]);
+  for (const bool all : {false, true}) {
+    for (int j = 0; j < program.ColumnCount(); ++j) {
+      if (!all && program.Domains[At(j)] != Domain::Free) continue;
+      for (std::size_t i = 0; i < sizes.Rows.size(); ++i) {
+        const bool isMeasured = all && sizes.Rows[i] >= kRounding;
+        if (!isMeasured) sizes.Rows[i] = std::fmax(sizes.Rows[i], std::fabs(program.ColumnAt(j)[i]));
+      }
+    }
+  }
+  for (Double& size : sizes.Rows) size = size >= kRounding ? size : 1.0;
+  for (int j = 0; j < program.ColumnCount(); ++j) {
+    const bool isWrong = solution.Exists && PriceErrorOf(program, solution, j) > kRounding;
+    Double size = 0.0;
+    for (std::size_t i = 0; i < sizes.Rows.size(); ++i) {
+      const Double price = isWrong ? std::fabs(solution.Prices[i]) : 1.0 / sizes.Rows[i];
+      size = std::fmax(size, std::fabs(program.ColumnAt(j)[i]) * price);
+    }
+    sizes.Columns.push_back(size > 0.0 ? size : 1.0);
+  }
+  return sizes;
 }
 
 }  // namespace Tarnwise::Dea

@@ -49,4 +49,12 @@ Double ValueError(const ProgramData& program, const BasicSolution& solution);
 Double PriceErrorOf(const ProgramData& program, const BasicSolution& solution, int column);
 Double PriceError(const ProgramData& program, const BasicSolution& solution);
 
+// How large the numbers of rows and columns are. A row: its right-hand side or what free columns add to it, else its
+// largest number. A column: its largest number over the row's size; where its prices are wrong, what these come to.
+struct RowsAndColumnsSizes {
+  std::vector<Double> Rows;
+  std::vector<Double> Columns;
+};
+RowsAndColumnsSizes SizesOf(const ProgramData& program, const BasicSolution& solution);
+
 }  // namespace Tarnwise::Dea

@@ -12,8 +12,8 @@ namespace {
 // What the solver counts as zero. Answers are checked relative to what they are made of, which is stricter.
 constexpr double kSolverTolerance = 1e-10;
 constexpr Double kStands = 1e-10;
-constexpr Double kStandsAfterExact = 1e-7;  // the basis is proven then; what is left is rounding
-constexpr int kIterations = 300;            // in one go, so that a cancel is seen in time
+constexpr Double kStandsAtLast = 1e-8;
+constexpr int kIterations = 300;  // in one go, so that a cancel is seen in time
 constexpr int kMostGoes = 200;
 
 // The library's memory belongs to the thread. An error is fatal to it: it prints, calls the hook, and may not go on.
@@ -79,6 +79,8 @@ int TypeOf(RowKind kind) { return kind == RowKind::Equal ? GLP_FX : kind == RowK
 
 int TypeOf(Domain domain) { return domain == Domain::Zero ? GLP_FX : domain == Domain::Free ? GLP_FR : GLP_LO; }
 
+Double PowerOfTwo(Double x) { return std::exp2(std::round(std::log2(x))); }
+
 }  // namespace
 
 struct LinearProgram::Solver {
@@ -110,9 +112,8 @@ struct LinearProgram::Solver {
     std::array<int, 64> rows{};
     std::array<double, 64> entries{};
     int count = 0;
-    const Double scale = Scales[static_cast<std::size_t>(column)];
     for (int i = 0; i < data.RowCount(); ++i) {
-      const Double entry = data.ColumnAt(column)[i] * scale;
+      const Double entry = data.ColumnAt(column)[i];
       if (entry == 0.0) continue;
       ++count;
       rows[static_cast<std::size_t>(count)] = i + 1;
@@ -132,9 +133,18 @@ struct LinearProgram::Solver {
     return basis;
   }
 
+  // What rational arithmetic has found, rounded. It takes the program's numbers to nine digits only.
+  BasicSolution RationalSolution(const ProgramData& data) const {
+    BasicSolution solution;
+    solution.Exists = true;
+    for (int j = 0; j < data.ColumnCount(); ++j) solution.Values.push_back(glp_get_col_prim(Program, j + 1));
+    for (int i = 0; i < data.RowCount(); ++i) solution.Prices.push_back(glp_get_row_dual(Program, i + 1));
+    return solution;
+  }
+
   glp_prob* Program = nullptr;
   unsigned Generation = 0;
-  std::vector<Double> Scales;  // what the columns are multiplied by here
+  bool IsScaled = false;
 };
 
 LinearProgram::LinearProgram(std::vector<RowKind> rows) : solver_(std::make_unique<Solver>(rows)) {
@@ -151,7 +161,6 @@ int LinearProgram::AddColumn(Double cost, const std::vector<Double>& entries, Do
   data_.Costs.push_back(0.0);
   data_.Domains.push_back(domain);
   data_.Entries.insert(data_.Entries.end(), entries.begin(), entries.end());
-  solver_->Scales.push_back(1.0);
   InSolver([&] {
     glp_add_cols(solver_->Program, 1);
     solver_->SetColumn(data_, column);
@@ -171,9 +180,7 @@ void LinearProgram::SetEntries(int column, const std::vector<Double>& entries) {
 void LinearProgram::SetCost(int column, Double cost) {
   WantFinite({cost});
   solver_->WantAlive();
-  InSolver([&] {
-    glp_set_obj_coef(solver_->Program, column + 1, cost * solver_->Scales[static_cast<std::size_t>(column)]);
-  });
+  InSolver([&] { glp_set_obj_coef(solver_->Program, column + 1, cost); });
   data_.Costs[static_cast<std::size_t>(column)] = cost;
 }
 
@@ -202,11 +209,13 @@ Double LinearProgram::Objective() const {
 
 Outcome LinearProgram::Solve(Method method, const Watch& watch) {
   solver_->WantAlive();
-  for (const Effort effort : {Effort::Usual, Effort::Rescaled, Effort::Anew, Effort::Exact}) {
+  Unscale();
+  for (const Effort effort : {Effort::Usual, Effort::Rescaled, Effort::Anew, Effort::Rational}) {
     if (effort != Effort::Usual) ++repairs_;
-    if (effort == Effort::Rescaled) RescaleWorst();
+    if (effort == Effort::Rescaled) Rescale();
     const Ended ended = Run(effort == Effort::Usual ? method : Method::Primal, effort, watch);
-    if (ended == Ended::Infeasible) return Outcome::Infeasible;
+    if (ended == Ended::Infeasible && (method == Method::Dual || effort == Effort::Rational))
+      return Outcome::Infeasible;
     if (ended == Ended::Optimal && Stands(effort)) return Outcome::Optimal;
   }
   throw SolverFault("A linear program has no solution that stands the check.");
@@ -227,7 +236,7 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
   for (int go = 0; code == GLP_EITLIM && go < kMostGoes; ++go) {
     watch.LookAtFlag();
     InSolver([&] {
-      code = effort == Effort::Exact ? glp_exact(program, &how) : glp_simplex(program, &how);
+      code = effort == Effort::Rational ? glp_exact(program, &how) : glp_simplex(program, &how);
       if (code == GLP_EBADB || code == GLP_ESING || code == GLP_ECOND) {
         glp_std_basis(program);
         how.meth = GLP_PRIMAL;
@@ -242,25 +251,30 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
 
 bool LinearProgram::Stands(Effort effort) {
   solution_ = SolutionAt(data_, solver_->Basis(data_));
-  if (!solution_.Exists) return false;
-  const Double most = effort == Effort::Exact ? kStandsAfterExact : kStands;
-  return PriceError(data_, solution_) <= most && ValueError(data_, solution_) <= most;
+  if (effort == Effort::Rational && !solution_.Exists) solution_ = solver_->RationalSolution(data_);
+  const Double most = effort == Effort::Rational ? kStandsAtLast : kStands;
+  return solution_.Exists && PriceError(data_, solution_) <= most && ValueError(data_, solution_) <= most;
 }
 
-// Columns whose prices are small look optimal to the solver while they are not by their own measure: they are enlarged.
-void LinearProgram::RescaleWorst() {
-  if (!solution_.Exists) return;
-  for (int j = 0; j < data_.ColumnCount(); ++j) {
-    if (PriceErrorOf(data_, solution_, j) <= kStands) continue;
-    Double size = std::fabs(data_.Costs[static_cast<std::size_t>(j)]);
+void LinearProgram::Unscale() {
+  if (!solver_->IsScaled) return;
+  InSolver([&] { glp_unscale_prob(solver_->Program); });
+  solver_->IsScaled = false;
+}
+
+// The solver's zero is absolute, and where a row's or a column's numbers are small it sees nothing wrong. So rows are
+// brought to the size of what they ask for, and columns to that of the rows, or of what their prices come to.
+void LinearProgram::Rescale() {
+  const RowsAndColumnsSizes sizes = SizesOf(data_, solution_);
+  solver_->IsScaled = true;
+  InSolver([&] {
     for (int i = 0; i < data_.RowCount(); ++i) {
-      size = std::fmax(size, std::fabs(data_.ColumnAt(j)[i] * solution_.Prices[static_cast<std::size_t>(i)]));
+      glp_set_rii(solver_->Program, i + 1, PowerOfTwo(1.0 / sizes.Rows[static_cast<std::size_t>(i)]));
     }
-    if (size == 0.0) continue;
-    solver_->Scales[static_cast<std::size_t>(j)] = std::exp2(std::round(-std::log2(size)));
-    InSolver([&] { solver_->SetColumn(data_, j); });
-    SetCost(j, data_.Costs[static_cast<std::size_t>(j)]);
-  }
+    for (int j = 0; j < data_.ColumnCount(); ++j) {
+      glp_set_sjj(solver_->Program, j + 1, PowerOfTwo(1.0 / sizes.Columns[static_cast<std::size_t>(j)]));
+    }
+  });
 }
 
 }  // namespace Tarnwise::Dea

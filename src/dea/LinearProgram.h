@@ -32,7 +32,8 @@ class LinearProgram {
   void SetDomain(int column, Domain domain);
   void SetRightSide(const std::vector<Double>& rightSide);
 
-  // SolverFault when no way of solving gives an answer that stands the check, or the program has no lower end.
+  // Infeasible is taken on trust after Dual, else proven. SolverFault when no way of solving gives an answer that
+  // stands the check, or the program has no lower end.
   Outcome Solve(Method method, const Watch& watch);
 
   // Of the last optimal solution. Prices of AtLeast rows are not negative.
@@ -46,12 +47,13 @@ class LinearProgram {
 
  private:
   struct Solver;  // what of it belongs to the library
-  enum class Effort { Usual, Rescaled, Anew, Exact };
+  enum class Effort { Usual, Rescaled, Anew, Rational };
   enum class Ended { Optimal, Infeasible, Failed };
 
   Ended Run(Method method, Effort effort, const Watch& watch);
   bool Stands(Effort effort);
-  void RescaleWorst();
+  void Unscale();
+  void Rescale();
 
   ProgramData data_;
   BasicSolution solution_;

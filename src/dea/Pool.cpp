@@ -107,9 +107,7 @@ PoolAnswer Pool::Answer(Double violation) {
   answer.Objective = program_.Objective();
   answer.Prices = program_.Prices();
   const std::vector<Double>& values = program_.Values();
-  const auto firstUnit = static_cast<std::ptrdiff_t>(shape_.Bounds.size()) + 1;
-  answer.Bounds.assign(values.begin() + kOwnColumn + 1, values.begin() + firstUnit);
-  for (std::size_t j = At(static_cast<int>(firstUnit)); j < values.size(); ++j) {
+  for (std::size_t j = shape_.Bounds.size() + 1; j < values.size(); ++j) {
     if (values[j] > 0.0) answer.Lambdas.emplace_back(unitOf_[j], values[j]);
   }
   return answer;
@@ -128,8 +126,7 @@ PoolAnswer Pool::Solve(const UnitProgram& unit, const Watch& watch) {
 PoolAnswer Pool::SolveSet(const UnitProgram& unit, const Watch& watch) {
   const bool costsMore = unit.WithoutItself && unit.CostOfItself > 0.0;
   if (program_.Solve(costsMore ? Method::Primal : Method::Dual, watch) == Outcome::Infeasible) {
-    if (unit.WithoutItself || Holds(unit.Unit)) return {};
-    Join(unit.Unit);
+    if (!unit.WithoutItself && !Holds(unit.Unit)) Join(unit.Unit);
     if (program_.Solve(Method::Primal, watch) == Outcome::Infeasible) return {};
   }
   for (;;) {

@@ -37,7 +37,6 @@ struct PoolAnswer {
   bool Reached = false;  // false: the units of the pool cannot do what the right-hand side asks for
   Double Objective = 0.0;
   std::vector<Double> Prices;                   // of the rows
-  std::vector<Double> Bounds;                   // values of the bounds' columns
   std::vector<std::pair<int, Double>> Lambdas;  // of units, those that are positive
 };
 

@@ -10,8 +10,10 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-// Lambdas and bounds this much smaller than the largest are rounding.
+// Lambdas this much smaller than the largest are rounding.
 constexpr Double kRounding = 1e-11;
+
+constexpr Double kTight = 1e-7;
 
 // How far a score without the unit itself is followed before it counts as having no end.
 constexpr std::array<Double, 4> kCaps{1e3, 1e6, 1e9, 1e12};
@@ -56,16 +58,23 @@ Double RatioScorer::LargestInput(int unit) const { return LargestOf(ScaledOf(uni
 
 Double RatioScorer::LargestOutput(int unit) const { return LargestOf(ScaledOf(unit) + data_.Inputs, data_.Outputs); }
 
-// The best unit gets outputs worth as much as its inputs, so that prices of both sides are of a like size.
+// Prices of a typical size of 1, and at these the best unit with outputs worth as much as its inputs: bounds and
+// columns of the programs are well scaled then, however far apart judgments put the prices.
 void RatioScorer::Scale() {
-  Double best = 0.0;
-  for (int k = 0; k < data_.Units; ++k) {
-    best = std::fmax(best, SumOf(data_.OutputsOf(k), data_.Outputs) / SumOf(data_.InputsOf(k), data_.Inputs));
-  }
-  factors_.assign(At(Attributes()), 1.0);
-  if (best > 0.0) std::fill(factors_.begin() + data_.Inputs, factors_.end(), 1.0 / best);
+  factors_ = MiddleOf(region_.Inputs);
+  const std::vector<Double> outputs = MiddleOf(region_.Outputs);
+  factors_.insert(factors_.end(), outputs.begin(), outputs.end());
   scaled_ = data_.Values;
   for (std::size_t c = 0; c < scaled_.size(); ++c) scaled_[c] *= factors_[c % factors_.size()];
+  Double best = 0.0;
+  for (int k = 0; k < data_.Units; ++k) {
+    best = std::fmax(best, SumOf(ScaledOf(k) + data_.Inputs, data_.Outputs) / SumOf(ScaledOf(k), data_.Inputs));
+  }
+  if (best == 0.0) return;
+  for (int r = data_.Inputs; r < Attributes(); ++r) factors_[At(r)] /= best;
+  for (int k = 0; k < data_.Units; ++k) {
+    for (int r = data_.Inputs; r < Attributes(); ++r) scaled_[At(k * Attributes() + r)] /= best;
+  }
 }
 
 PoolShape RatioScorer::Shape() const {
@@ -163,11 +172,26 @@ RatioScore RatioScorer::ScoreFrom(int unit, const PoolAnswer& answer) const {
     score.Peers.emplace_back(other, lambda * lambdaSize / std::fmax(LargestInput(other), LargestOutput(other)));
   }
   std::sort(score.Peers.begin(), score.Peers.end());
-  for (std::size_t b = 0; b < answer.Bounds.size(); ++b) {
-    if (answer.Bounds[b] > 0.0) score.Binding.push_back(static_cast<int>(b));
-  }
   SetPrices(unit, answer, score);
+  score.Binding = TightRows(score.Prices);
   return score;
+}
+
+// A condition that the prices do not meet with equality changes nothing when it is dropped; of prices too small to
+// matter nothing is known.
+std::vector<int> RatioScorer::TightRows(const std::vector<Double>& prices) const {
+  const Double negligible = kTight * LargestOf(prices.data(), Attributes());
+  std::vector<int> tight;
+  for (std::size_t row = 0; row < region_.Rows.size(); ++row) {
+    Double sum = 0.0;
+    Double size = 0.0;
+    for (const auto& [attribute, coefficient] : region_.Rows[row].Terms) {
+      sum += coefficient * prices[At(attribute)];
+      size = std::fmax(size, std::fabs(coefficient * prices[At(attribute)]));
+    }
+    if (size <= negligible || sum >= -kTight * size) tight.push_back(static_cast<int>(row));
+  }
+  return tight;
 }
 
 void RatioScorer::SetPrices(int unit, const PoolAnswer& answer, RatioScore& score) const {

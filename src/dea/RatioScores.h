@@ -35,7 +35,7 @@ struct RatioScore {
   std::optional<Double> Score;  // absent: no number (out, without an output)
   std::vector<Double> Prices;   // inputs first; v.x = 1 (out: u.y = 1)
   std::vector<std::pair<int, Double>> Peers;
-  std::vector<int> Binding;  // indices of Rows: without any other one the score is the same
+  std::vector<int> Binding;  // indices of Rows: dropping any other one changes nothing
 };
 
 bool HasOutputs(const RatioData& data, int unit);
@@ -63,6 +63,7 @@ class RatioScorer {
   UnitProgram ProgramOf(int unit) const;
   Double RightSideSize(int unit) const;
   RatioScore ScoreFrom(int unit, const PoolAnswer& answer) const;
+  std::vector<int> TightRows(const std::vector<Double>& prices) const;
   void SetPrices(int unit, const PoolAnswer& answer, RatioScore& score) const;
 
   bool IsConstant() const { return technology_.Returns == Returns::Constant; }

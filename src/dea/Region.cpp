@@ -37,18 +37,17 @@ Interval Widened(const Interval& interval, Double factor) {
 }
 
 std::vector<Double> MiddleOf(const Box& box) {
+  Double largest = 0.0;
+  for (std::size_t j = 0; j < box.Low.size(); ++j) {
+    largest = std::fmax(largest, box.High[j] == kNoBound ? box.Low[j] : std::sqrt(box.Low[j]) * std::sqrt(box.High[j]));
+  }
+  if (largest == 0.0) largest = 1.0;
   std::vector<Double> middle(box.Low.size());
   for (std::size_t j = 0; j < middle.size(); ++j) {
     const Double low = box.Low[j];
     const Double high = box.High[j];
-    if (high == kNoBound) {
-      middle[j] = low > 1.0 ? low : 1.0;
-    } else if (low == 0.0) {
-      middle[j] = high < 1.0 ? high : 1.0;
-    } else {
-      middle[j] = std::sqrt(low) * std::sqrt(high);
-    }
-    if (middle[j] == 0.0) middle[j] = 1.0;
+    middle[j] = high == kNoBound ? largest : low == 0.0 ? std::fmin(high, largest) : std::sqrt(low) * std::sqrt(high);
+    if (middle[j] == 0.0) middle[j] = largest;
   }
   return middle;
 }

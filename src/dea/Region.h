@@ -45,7 +45,8 @@ Box WithoutBound(Box box, int attribute, Side side);
 // An interval widened by a factor in log ratio; a missing bound stays missing.
 Interval Widened(const Interval& interval, Double factor);
 
-// A typical price of each attribute: the middle of its interval in log ratio, 1 where nothing was judged.
+// A typical price of each attribute: the middle of its interval in log ratio. Where a bound is missing, a price as
+// large as the largest of the others, as far as the other bound lets it be.
 std::vector<Double> MiddleOf(const Box& box);
 
 }  // namespace Tarnwise::Dea

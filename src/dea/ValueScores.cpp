@@ -19,8 +19,24 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 ValueScorer::ValueScorer(const ValueData& data, ValueRegion region)
     : data_(data),
       region_(std::move(region)),
-      ones_(At(data.Attributes), 1.0),
-      pool_(std::make_unique<Pool>(Shape())) {}
+      middle_(At(data.Attributes), 1.0),
+      factors_(At(data.Attributes), 1.0),
+      ones_(At(data.Attributes), 1.0) {
+  for (const Box& box : region_.Boxes) TakeMiddleOf(box);
+  pool_ = std::make_unique<Pool>(Shape());
+}
+
+// Typical weights of attributes that are linked to each other; as factors they add up to 1.
+void ValueScorer::TakeMiddleOf(const Box& box) {
+  const std::vector<Double> middle = MiddleOf(box);
+  Double sum = 0.0;
+  for (std::size_t j = 0; j < middle.size(); ++j) sum += box.High[j] > 0.0 ? middle[j] : 0.0;
+  for (std::size_t j = 0; j < middle.size(); ++j) {
+    if (box.High[j] == 0.0) continue;
+    middle_[j] = middle[j];
+    factors_[j] = middle[j] / sum;
+  }
+}
 
 // Minimise the distance: its dual has a row for each attribute and one that makes the lambdas add up to 1. The free
 // column is the distance, and its prices make the weights add up to 1.
@@ -31,14 +47,14 @@ PoolShape ValueScorer::Shape() const {
   shape.Units = data_.Units;
   shape.Columns.reserve(At(data_.Units) * shape.Rows.size());
   for (int k = 0; k < data_.Units; ++k) {
-    for (int j = 0; j < data_.Attributes; ++j) shape.Columns.push_back(data_.Of(k)[j]);
+    for (int j = 0; j < data_.Attributes; ++j) shape.Columns.push_back(data_.Of(k)[j] * factors_[At(j)]);
     shape.Columns.push_back(1.0);
   }
   for (const PriceRow& row : region_.Rows) {
     std::vector<Double> column(shape.Rows.size());
     Double largest = 0.0;
     for (const auto& [attribute, coefficient] : row.Terms) {
-      column[At(attribute)] = coefficient;
+      column[At(attribute)] = coefficient * factors_[At(attribute)];
       largest = std::fmax(largest, std::fabs(column[At(attribute)]));
     }
     for (Double& entry : column) entry /= largest;
@@ -67,8 +83,8 @@ std::optional<Double> ValueScorer::Distance(int unit, const Watch& watch) {
   program.Cost = -1.0;
   program.WithoutItself = true;
   for (int j = 0; j < data_.Attributes; ++j) {
-    program.Own.push_back(-1.0);
-    program.RightSide.push_back(data_.Of(unit)[j]);
+    program.Own.push_back(-factors_[At(j)]);
+    program.RightSide.push_back(data_.Of(unit)[j] * factors_[At(j)]);
   }
   program.Own.push_back(0.0);
   program.RightSide.push_back(1.0);
@@ -113,7 +129,7 @@ void ValueScorer::TakeValues(const std::vector<Double>& weights, std::vector<Dou
 
 std::vector<RankRange> ValueScorer::SureRanks(const Watch& watch) const {
   std::vector<Double> typical(At(data_.Units));
-  TakeValues(MiddleOf(region_.Drawn), typical);
+  TakeValues(middle_, typical);
   return Dea::SureRanks(
       typical, [this](int winner, int loser) { return DominatesSurely(winner, loser); }, watch);
 }

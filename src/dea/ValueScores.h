@@ -48,12 +48,15 @@ class ValueScorer {
   Double WorstViolation() const { return pool_->WorstViolation(); }
 
  private:
+  void TakeMiddleOf(const Box& box);
   PoolShape Shape() const;
   std::vector<Double> Differences(int unit, int other) const;
   void TakeValues(const std::vector<Double>& weights, std::vector<Double>& scores) const;
 
   const ValueData& data_;
   ValueRegion region_;
+  std::vector<Double> middle_;   // typical weights
+  std::vector<Double> factors_;  // what the attributes are multiplied by in the programs
   std::vector<Double> ones_;
   std::unique_ptr<Pool> pool_;
 };

@@ -9,7 +9,7 @@
 namespace Tarnwise::Dea {
 
 // Of the largest price: what the solution of its basis leaves uncertain.
-constexpr Double kPriceRounding = 1e-15;
+constexpr Double kPriceRounding = 1e-14;
 
 enum class RowKind { AtLeast, Equal, AtMost };  // activity against the right-hand side
 enum class Domain { NotNegative, Free, Zero };  // where a variable may lie

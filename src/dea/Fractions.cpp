@@ -6,6 +6,8 @@ namespace Tarnwise::Dea {
 
 namespace {
 
+constexpr Double kRounding = 1e-13;
+
 struct Sums {
   Double A = 0.0;
   Double B = 0.0;
@@ -23,11 +25,14 @@ Sums AtHighs(const Double* a, const Double* b, const Box& box) {
   return sums;
 }
 
-// The corner that brings a - fraction * b down the most.
+// The corner that brings a - fraction * b down the most. What is zero but for rounding takes its low price: a high one
+// that outweighs all others made the fraction what it is, and would hide what they can do.
 Sums AtBestCorner(const Double* a, const Double* b, const Box& box, Double fraction) {
   Sums sums;
   for (std::size_t j = 0; j < box.Low.size(); ++j) {
-    const Double price = a[j] < fraction * b[j] ? FiniteHigh(box, j) : box.Low[j];
+    const Double even = fraction * b[j];
+    const bool isLess = a[j] < even - kRounding * std::fmax(std::fabs(a[j]), std::fabs(even));
+    const Double price = isLess ? FiniteHigh(box, j) : box.Low[j];
     sums.A += a[j] * price;
     sums.B += b[j] * price;
   }

@@ -177,19 +177,22 @@ RatioScore RatioScorer::ScoreFrom(int unit, const PoolAnswer& answer) const {
   return score;
 }
 
-// A condition that the prices do not meet with equality changes nothing when it is dropped; of prices too small to
-// matter nothing is known.
+// A condition that the prices do not meet with equality changes nothing when it is dropped. Of prices too small to
+// matter nothing is known: they may be anywhere between their bounds.
 std::vector<int> RatioScorer::TightRows(const std::vector<Double>& prices) const {
   const Double negligible = kTight * LargestOf(prices.data(), Attributes());
   std::vector<int> tight;
   for (std::size_t row = 0; row < region_.Rows.size(); ++row) {
     Double sum = 0.0;
     Double size = 0.0;
+    bool isKnown = true;
     for (const auto& [attribute, coefficient] : region_.Rows[row].Terms) {
-      sum += coefficient * prices[At(attribute)];
-      size = std::fmax(size, std::fabs(coefficient * prices[At(attribute)]));
+      const Double term = coefficient * prices[At(attribute)];
+      sum += term;
+      size = std::fmax(size, std::fabs(term));
+      isKnown = isKnown && prices[At(attribute)] > negligible;
     }
-    if (size <= negligible || sum >= -kTight * size) tight.push_back(static_cast<int>(row));
+    if (!isKnown || sum >= -kTight * size) tight.push_back(static_cast<int>(row));
   }
   return tight;
 }

@@ -38,6 +38,12 @@ Double Product(const Double* prices, const Double* numbers, int count) {
   return sum;
 }
 
+std::vector<Double> WithLargestOne(std::vector<Double> numbers) {
+  const Double largest = LargestOf(numbers.data(), static_cast<int>(numbers.size()));
+  for (Double& x : numbers) x /= largest;
+  return numbers;
+}
+
 Double LargestLambda(const PoolAnswer& answer) {
   Double largest = 0.0;
   for (const auto& [unit, lambda] : answer.Lambdas) largest = std::fmax(largest, lambda);
@@ -61,8 +67,8 @@ Double RatioScorer::LargestOutput(int unit) const { return LargestOf(ScaledOf(un
 // Prices of a typical size of 1, and at these the best unit with outputs worth as much as its inputs: bounds and
 // columns of the programs are well scaled then, however far apart judgments put the prices.
 void RatioScorer::Scale() {
-  factors_ = MiddleOf(region_.Inputs);
-  const std::vector<Double> outputs = MiddleOf(region_.Outputs);
+  factors_ = WithLargestOne(MiddleOf(region_.Inputs));
+  const std::vector<Double> outputs = WithLargestOne(MiddleOf(region_.Outputs));
   factors_.insert(factors_.end(), outputs.begin(), outputs.end());
   scaled_ = data_.Values;
   for (std::size_t c = 0; c < scaled_.size(); ++c) scaled_[c] *= factors_[c % factors_.size()];

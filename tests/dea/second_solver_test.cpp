@@ -24,13 +24,20 @@ void ExpectSame(const std::optional<Double>& expected, const std::optional<Doubl
   EXPECT_NEAR(*expected, *actual, kSame * std::fmax(1.0, std::fabs(*expected))) << what << " of unit " << unit;
 }
 
-// A program's answer by the second solver; where that is not the one found, by exact arithmetic, which decides.
+bool IsSame(const std::optional<Double>& a, const std::optional<Double>& b) {
+  return a.has_value() == b.has_value() && (!a || std::fabs(*a - *b) <= kSame * std::fmax(1.0, std::fabs(*a)));
+}
+
+// A program's answer by the second solver; where that gives up or has another one than was found, rational arithmetic
+// decides.
 template <typename Reference>
 std::optional<Double> Answer(const std::optional<Double>& found, Reference reference) {
-  const std::optional<Double> answer = reference(LeastCostByClp);
-  const bool same = answer.has_value() == found.has_value() &&
-                    (!answer || std::fabs(*answer - *found) <= kSame * std::fmax(1.0, std::fabs(*answer)));
-  return same ? answer : reference(LeastCostExactly);
+  try {
+    const std::optional<Double> answer = reference(LeastCostByClp);
+    if (IsSame(answer, found)) return answer;
+  } catch (const std::runtime_error&) {
+  }
+  return reference(LeastCostExactly);
 }
 
 bool HasOutputs(const Problem& problem, int unit) {

@@ -2,6 +2,7 @@
 
 #include <glpk.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -172,9 +173,8 @@ int LinearProgram::AddColumn(Double cost, const std::vector<Double>& entries, Do
 
 void LinearProgram::SetEntries(int column, const std::vector<Double>& entries) {
   WantFinite(entries);
-  solver_->WantAlive();
   std::copy(entries.begin(), entries.end(), data_.Entries.begin() + column * data_.RowCount());
-  InSolver([&] { solver_->SetColumn(data_, column); });
+  changedColumns_.push_back(column);
 }
 
 void LinearProgram::SetCost(int column, Double cost) {
@@ -192,12 +192,40 @@ void LinearProgram::SetDomain(int column, Domain domain) {
 
 void LinearProgram::SetRightSide(const std::vector<Double>& rightSide) {
   WantFinite(rightSide);
-  solver_->WantAlive();
   data_.RightSide = rightSide;
+  rightSideChanged_ = true;
+}
+
+// Most programs are solved without the solver, so it is told of changes when it is needed.
+void LinearProgram::Synchronise() {
+  solver_->WantAlive();
+  std::sort(changedColumns_.begin(), changedColumns_.end());
+  changedColumns_.erase(std::unique(changedColumns_.begin(), changedColumns_.end()), changedColumns_.end());
   InSolver([&] {
-    for (std::size_t i = 0; i < rightSide.size(); ++i) {
-      glp_set_row_bnds(solver_->Program, static_cast<int>(i) + 1, TypeOf(data_.Rows[i]), rightSide[i], rightSide[i]);
+    for (const int column : changedColumns_) solver_->SetColumn(data_, column);
+    for (int i = 0; rightSideChanged_ && i < data_.RowCount(); ++i) {
+      const Double side = data_.RightSide[static_cast<std::size_t>(i)];
+      glp_set_row_bnds(solver_->Program, i + 1, TypeOf(data_.Rows[static_cast<std::size_t>(i)]), side, side);
     }
+  });
+  changedColumns_.clear();
+  rightSideChanged_ = false;
+}
+
+bool LinearProgram::Take(const RowsAndColumns& basis) {
+  solution_ = SolutionAt(data_, basis);
+  return solution_.Exists && ValueError(data_, solution_) <= kStands;
+}
+
+void LinearProgram::StartFrom(const RowsAndColumns& basis) {
+  solver_->WantAlive();
+  InSolver([&] {
+    glp_std_basis(solver_->Program);
+    for (const int row : basis.Rows) {
+      const int status = data_.Rows[static_cast<std::size_t>(row)] == RowKind::AtMost ? GLP_NU : GLP_NL;
+      glp_set_row_stat(solver_->Program, row + 1, status);
+    }
+    for (const int column : basis.Columns) glp_set_col_stat(solver_->Program, column + 1, GLP_BS);
   });
 }
 
@@ -208,7 +236,7 @@ Double LinearProgram::Objective() const {
 }
 
 Outcome LinearProgram::Solve(Method method, const Watch& watch) {
-  solver_->WantAlive();
+  Synchronise();
   Unscale();
   for (const Effort effort : {Effort::Usual, Effort::Rescaled, Effort::Anew, Effort::Rational}) {
     if (effort != Effort::Usual) ++repairs_;
@@ -250,7 +278,8 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
 }
 
 bool LinearProgram::Stands(Effort effort) {
-  solution_ = SolutionAt(data_, solver_->Basis(data_));
+  basis_ = solver_->Basis(data_);
+  solution_ = SolutionAt(data_, basis_);
   if (effort == Effort::Rational && !solution_.Exists) solution_ = solver_->RationalSolution(data_);
   const Double most = effort == Effort::Rational ? kStandsAtLast : kStands;
   return solution_.Exists && PriceError(data_, solution_) <= most && ValueError(data_, solution_) <= most;

@@ -32,6 +32,14 @@ class LinearProgram {
   void SetDomain(int column, Domain domain);
   void SetRightSide(const std::vector<Double>& rightSide);
 
+  // The basis of the last optimal solution; and whether a basis of this program (rows and columns as numbered here)
+  // has values that stand the check. If so they are the solution: prices are taken on trust.
+  const RowsAndColumns& Basis() const { return basis_; }
+  bool Take(const RowsAndColumns& basis);
+
+  // The next Solve begins here.
+  void StartFrom(const RowsAndColumns& basis);
+
   // Infeasible is taken on trust after Dual, else proven. SolverFault when no way of solving gives an answer that
   // stands the check, or the program has no lower end.
   Outcome Solve(Method method, const Watch& watch);
@@ -55,8 +63,13 @@ class LinearProgram {
   void Unscale();
   void Rescale();
 
+  void Synchronise();
+
   ProgramData data_;
+  std::vector<int> changedColumns_;  // what the solver has not been told yet
+  bool rightSideChanged_ = false;
   BasicSolution solution_;
+  RowsAndColumns basis_;
   int repairs_ = 0;
   std::unique_ptr<Solver> solver_;
 };

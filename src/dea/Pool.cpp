@@ -1,6 +1,7 @@
 #include "dea/Pool.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace Tarnwise::Dea {
@@ -10,6 +11,7 @@ namespace {
 // A smaller violation cannot be told from rounding in what it does to a score.
 constexpr Double kJoins = 1e-10;
 constexpr int kOwnColumn = 0;
+constexpr std::size_t kMostFacets = 2000;
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
@@ -123,15 +125,50 @@ PoolAnswer Pool::Solve(const UnitProgram& unit, const Watch& watch) {
   return answer;
 }
 
+// The facet with the largest objective. One of a program whose own column its prices give nothing has no factor.
+const Pool::Facet* Pool::BestFacet(const UnitProgram& unit) const {
+  const Facet* best = nullptr;
+  Double most = 0.0;
+  for (const Facet& facet : facets_) {
+    Double own = 0.0;
+    Double objective = 0.0;
+    for (std::size_t i = 0; i < facet.Prices.size(); ++i) {
+      own += facet.Prices[i] * unit.Own[i];
+      objective += facet.Prices[i] * unit.RightSide[i];
+    }
+    const Double factor = unit.Cost / own;
+    if (!(factor > 0.0) || !std::isfinite(factor)) continue;
+    if (best != nullptr && objective * factor <= most) continue;
+    best = &facet;
+    most = objective * factor;
+  }
+  return best;
+}
+
+void Pool::Keep(const UnitProgram& unit, Double violation) {
+  if (facets_.size() >= kMostFacets || violation > kJoins || ViolationOf(ColumnOf(unit.Unit)) > kJoins) return;
+  facets_.push_back({program_.Basis(), program_.Prices(), violation});
+}
+
 PoolAnswer Pool::SolveSet(const UnitProgram& unit, const Watch& watch) {
-  const bool costsMore = unit.WithoutItself && unit.CostOfItself > 0.0;
+  const bool isOutsider = unit.WithoutItself && Holds(unit.Unit);  // the program lacks what facets may rest on
+  const bool costsMore = isOutsider && unit.CostOfItself > 0.0;
+  if (!isOutsider) {
+    if (const Facet* const facet = BestFacet(unit)) {
+      if (program_.Take(facet->Basis)) return Answer(facet->Violation);
+      program_.StartFrom(facet->Basis);
+    }
+  }
   if (program_.Solve(costsMore ? Method::Primal : Method::Dual, watch) == Outcome::Infeasible) {
     if (!unit.WithoutItself && !Holds(unit.Unit)) Join(unit.Unit);
     if (program_.Solve(Method::Primal, watch) == Outcome::Infeasible) return {};
   }
   for (;;) {
     const Worst worst = WorstViolation(unit);
-    if (worst.Violation <= kJoins || Holds(worst.Unit)) return Answer(worst.Violation);
+    if (worst.Violation <= kJoins || Holds(worst.Unit)) {
+      if (!isOutsider) Keep(unit, worst.Violation);
+      return Answer(worst.Violation);
+    }
     Join(worst.Unit);
     if (program_.Solve(Method::Primal, watch) == Outcome::Infeasible) return {};
   }

@@ -1,8 +1,9 @@
 // Linear programs of many units over one small pool of columns. Each unit's program has a column for every unit; only a
 // few of them matter, and they matter for many units. So a program is solved over the pool, all candidates are priced
 // with its prices, the one that passes them most joins, and so on until none does: then the solution holds over all
-// units, and what the worst of them still passes is its certificate. A unit that a pool unit dominates whatever the
-// prices are is no candidate any more.
+// units, and what the worst of them still passes is its certificate. Units that lie beside each other share their
+// prices, so those of all solutions are kept, and most programs are solved by finding the right ones. A unit that a
+// pool unit dominates whatever the prices are is no candidate any more.
 #pragma once
 
 #include "dea/LinearProgram.h"
@@ -60,6 +61,14 @@ class Pool {
     Double Violation = 0.0;
   };
 
+  // Prices that no unit passes, and the basis they belong to. Times a factor they are prices of any unit's program, so
+  // they bound its objective, and the largest bound is where its solution lies if it lies on a facet that is known.
+  struct Facet {
+    RowsAndColumns Basis;
+    std::vector<Double> Prices;
+    Double Violation = 0.0;
+  };
+
   const Double* ColumnOf(int unit) const;
   Double ViolationOf(const Double* column) const;
   Worst WorstViolation(const UnitProgram& unit) const;
@@ -67,6 +76,8 @@ class Pool {
   void SetItself(const UnitProgram& unit, bool restore);
   PoolAnswer Answer(Double violation);
   PoolAnswer SolveSet(const UnitProgram& unit, const Watch& watch);
+  void Keep(const UnitProgram& unit, Double violation);
+  const Facet* BestFacet(const UnitProgram& unit) const;
 
   PoolShape shape_;
   LinearProgram program_;
@@ -75,6 +86,7 @@ class Pool {
   std::vector<int> candidates_;             // all that no pool unit dominates, ascending
   std::vector<Double> candidateColumns_;    // the same, side by side
   std::vector<std::vector<int>> prunedBy_;  // by a unit: those that count again where it is left out
+  std::vector<Facet> facets_;
   Double worst_ = 0.0;
 };
 

@@ -7,6 +7,8 @@ namespace Tarnwise::Dea {
 
 namespace {
 
+constexpr Double kRounding = 1e-12;  // of values
+
 Double Clamped(Double value) { return std::clamp(value, 0.0, 1.0); }
 
 Curve LineOver(const Scale& scale) {
@@ -94,7 +96,8 @@ Span SpanOf(const Scale& scale) {
   span.Score = std::fabs(scale.Best - scale.Worst);
   if (span.Score == 0.0) return span;
   const ValueFunction value(scale);
-  span.Value = std::fabs(value.At(scale.Best) - value.At(scale.Worst));
+  const Double between = std::fabs(value.At(scale.Best) - value.At(scale.Worst));
+  span.Value = between < kRounding ? 0.0 : between;
   return span;
 }
 

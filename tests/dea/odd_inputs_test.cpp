@@ -182,7 +182,7 @@ TEST(OddInputs, AreAnsweredWithNumbersOnly) {
     try {
       for (const UnitResult& unit : Evaluate(problem).Units) {
         for (const auto& score : {unit.Free, unit.Max, unit.Min, unit.Super, unit.Distance, unit.Regret}) {
-          if (score) EXPECT_TRUE(std::isfinite(*score)) << seed;
+          EXPECT_TRUE(std::isfinite(score.value_or(0.0))) << seed;
         }
         for (const Double price : unit.Prices) EXPECT_TRUE(std::isfinite(price)) << seed;
         for (const Peer& peer : unit.Peers) EXPECT_TRUE(std::isfinite(peer.Lambda)) << seed;

@@ -12,14 +12,6 @@ namespace {
 // What is this much smaller than its neighbours is the rounding of a zero.
 constexpr Double kRounding = 1e-13;
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
-Double LargestOf(const std::vector<Double>& numbers) {
-  Double largest = 0.0;
-  for (const Double x : numbers) largest = std::fmax(largest, std::fabs(x));
-  return largest;
-}
-
 // Of each row: what its terms and its right-hand side come to without regard to sign.
 std::vector<Double> RowSizes(const ProgramData& program, const std::vector<Double>& values) {
   std::vector<Double> sizes(program.Rows.size());

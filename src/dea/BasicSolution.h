@@ -2,9 +2,7 @@
 // is from being optimal.
 #pragma once
 
-#include <tarnwise/Scalars.h>
-
-#include <vector>
+#include "dea/Vectors.h"
 
 namespace Tarnwise::Dea {
 
@@ -24,7 +22,7 @@ struct ProgramData {
 
   int RowCount() const { return static_cast<int>(Rows.size()); }
   int ColumnCount() const { return static_cast<int>(Costs.size()); }
-  const Double* ColumnAt(int column) const { return &Entries[static_cast<std::size_t>(column) * Rows.size()]; }
+  const Double* ColumnAt(int column) const { return &Entries[At(column) * Rows.size()]; }
 };
 
 // The rows that hold with equality and as many columns that are not zero.

@@ -1,6 +1,7 @@
 #include "dea/DataChecks.h"
 
 #include "dea/SessionChecks.h"
+#include "dea/Vectors.h"
 #include "dea/Watch.h"
 #include "runtime/Sizes.h"
 #include "runtime/Text.h"
@@ -22,7 +23,7 @@ String CellName(const Problem& problem, const Column& column, std::size_t unit) 
 void CheckSizes(const Problem& problem) {
   if (problem.Units.empty()) throw Refused("There is no unit.");
   if (problem.Columns.empty()) throw Refused("No column is used: there is neither an input nor an output.");
-  if (problem.Columns.size() > static_cast<std::size_t>(kMaxAtts)) {
+  if (problem.Columns.size() > At(kMaxAtts)) {
     throw Refused(std::to_string(problem.Columns.size()) + " columns are used; the judgment of ratios takes at most " +
                   std::to_string(kMaxAtts) + ".");
   }
@@ -68,7 +69,7 @@ String WhyLeftOut(const Problem& problem, const Checked& checked, std::size_t un
   }
   if (problem.Options.Form != Form::Ratio || checked.Inputs.empty()) return {};
   for (const int i : checked.Inputs) {
-    if (problem.Columns[static_cast<std::size_t>(i)].Values[unit] != 0.0) return {};
+    if (problem.Columns[At(i)].Values[unit] != 0.0) return {};
   }
   return "all inputs are zero";
 }
@@ -100,10 +101,10 @@ String SomeOf(const Problem& problem, const std::vector<int>& units) {
 
 void NoteZeroInputs(const Problem& problem, Checked& checked) {
   for (const int i : checked.Inputs) {
-    const Column& column = problem.Columns[static_cast<std::size_t>(i)];
+    const Column& column = problem.Columns[At(i)];
     std::vector<int> zeros;
     for (const int k : checked.Units) {
-      if (column.Values[static_cast<std::size_t>(k)] == 0.0) zeros.push_back(k);
+      if (column.Values[At(k)] == 0.0) zeros.push_back(k);
     }
     if (zeros.empty()) continue;
     checked.Notes.push_back("Column " + column.Name + " is zero for " + SomeOf(problem, zeros) +
@@ -116,7 +117,7 @@ void NoteClampedScores(const Problem& problem, Checked& checked) {
     const ValueFunction value(checked.Scales[j]);
     std::vector<int> beyond;
     for (const int k : checked.Units) {
-      const Double at = value.Unclamped(problem.Columns[j].Values[static_cast<std::size_t>(k)]);
+      const Double at = value.Unclamped(problem.Columns[j].Values[At(k)]);
       if (at < -1e-9 || at > 1.0 + 1e-9) beyond.push_back(k);
     }
     if (beyond.empty()) continue;

@@ -1,9 +1,7 @@
 // Small dense systems, solved by elimination with row exchanges and refined once with wider residuals.
 #pragma once
 
-#include <tarnwise/Scalars.h>
-
-#include <vector>
+#include "dea/Vectors.h"
 
 namespace Tarnwise::Dea {
 
@@ -17,9 +15,9 @@ class DenseMatrix {
 
  private:
   void Factorise();
-  Double At(int row, int column) const { return entries_[Index(row, column)]; }
+  Double Entry(int row, int column) const { return entries_[Index(row, column)]; }
   Double Factor(int row, int column) const { return factors_[Index(row, column)]; }
-  std::size_t Index(int row, int column) const { return static_cast<std::size_t>(row * size_ + column); }
+  std::size_t Index(int row, int column) const { return At(row) * At(size_) + At(column); }
   void Substitute(std::vector<Double>& x) const;
   void SubstituteTransposed(std::vector<Double>& x) const;
 

@@ -117,8 +117,8 @@ struct LinearProgram::Solver {
       const Double entry = data.ColumnAt(column)[i];
       if (entry == 0.0) continue;
       ++count;
-      rows[static_cast<std::size_t>(count)] = i + 1;
-      entries[static_cast<std::size_t>(count)] = entry;
+      rows[At(count)] = i + 1;
+      entries[At(count)] = entry;
     }
     glp_set_mat_col(Program, column + 1, count, rows.data(), entries.data());
   }
@@ -173,7 +173,8 @@ int LinearProgram::AddColumn(Double cost, const std::vector<Double>& entries, Do
 
 void LinearProgram::SetEntries(int column, const std::vector<Double>& entries) {
   WantFinite(entries);
-  std::copy(entries.begin(), entries.end(), data_.Entries.begin() + column * data_.RowCount());
+  std::copy(entries.begin(), entries.end(),
+            data_.Entries.begin() + static_cast<std::ptrdiff_t>(At(column) * data_.Rows.size()));
   changedColumns_.push_back(column);
 }
 
@@ -181,13 +182,13 @@ void LinearProgram::SetCost(int column, Double cost) {
   WantFinite({cost});
   solver_->WantAlive();
   InSolver([&] { glp_set_obj_coef(solver_->Program, column + 1, cost); });
-  data_.Costs[static_cast<std::size_t>(column)] = cost;
+  data_.Costs[At(column)] = cost;
 }
 
 void LinearProgram::SetDomain(int column, Domain domain) {
   solver_->WantAlive();
   InSolver([&] { glp_set_col_bnds(solver_->Program, column + 1, TypeOf(domain), 0.0, 0.0); });
-  data_.Domains[static_cast<std::size_t>(column)] = domain;
+  data_.Domains[At(column)] = domain;
 }
 
 void LinearProgram::SetRightSide(const std::vector<Double>& rightSide) {
@@ -204,8 +205,8 @@ void LinearProgram::Synchronise() {
   InSolver([&] {
     for (const int column : changedColumns_) solver_->SetColumn(data_, column);
     for (int i = 0; rightSideChanged_ && i < data_.RowCount(); ++i) {
-      const Double side = data_.RightSide[static_cast<std::size_t>(i)];
-      glp_set_row_bnds(solver_->Program, i + 1, TypeOf(data_.Rows[static_cast<std::size_t>(i)]), side, side);
+      const Double side = data_.RightSide[At(i)];
+      glp_set_row_bnds(solver_->Program, i + 1, TypeOf(data_.Rows[At(i)]), side, side);
     }
   });
   changedColumns_.clear();
@@ -222,7 +223,7 @@ void LinearProgram::StartFrom(const RowsAndColumns& basis) {
   InSolver([&] {
     glp_std_basis(solver_->Program);
     for (const int row : basis.Rows) {
-      const int status = data_.Rows[static_cast<std::size_t>(row)] == RowKind::AtMost ? GLP_NU : GLP_NL;
+      const int status = data_.Rows[At(row)] == RowKind::AtMost ? GLP_NU : GLP_NL;
       glp_set_row_stat(solver_->Program, row + 1, status);
     }
     for (const int column : basis.Columns) glp_set_col_stat(solver_->Program, column + 1, GLP_BS);
@@ -298,10 +299,10 @@ void LinearProgram::Rescale() {
   solver_->IsScaled = true;
   InSolver([&] {
     for (int i = 0; i < data_.RowCount(); ++i) {
-      glp_set_rii(solver_->Program, i + 1, PowerOfTwo(1.0 / sizes.Rows[static_cast<std::size_t>(i)]));
+      glp_set_rii(solver_->Program, i + 1, PowerOfTwo(1.0 / sizes.Rows[At(i)]));
     }
     for (int j = 0; j < data_.ColumnCount(); ++j) {
-      glp_set_sjj(solver_->Program, j + 1, PowerOfTwo(1.0 / sizes.Columns[static_cast<std::size_t>(j)]));
+      glp_set_sjj(solver_->Program, j + 1, PowerOfTwo(1.0 / sizes.Columns[At(j)]));
     }
   });
 }

@@ -13,8 +13,6 @@ constexpr Double kJoins = 1e-10;
 constexpr int kOwnColumn = 0;
 constexpr std::size_t kMostFacets = 2000;
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
 }  // namespace
 
 Pool::Pool(PoolShape shape)

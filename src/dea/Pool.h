@@ -49,7 +49,7 @@ class Pool {
   PoolAnswer Solve(const UnitProgram& unit, const Watch& watch);
 
   void Join(int unit);
-  bool Holds(int unit) const { return columnOf_[static_cast<std::size_t>(unit)] >= 0; }
+  bool Holds(int unit) const { return columnOf_[At(unit)] >= 0; }
   const std::vector<int>& Candidates() const { return candidates_; }
   int CandidateBesides(int unit) const;             // -1: there is none
   Double WorstViolation() const { return worst_; }  // of all answers so far

@@ -1,4 +1,5 @@
 #include "dea/Ranks.h"
+#include "dea/Vectors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,6 @@ namespace {
 constexpr int kScoresDrawn = 10000000;
 constexpr int kMostDraws = 10000;
 constexpr Double kRounding = 1e-12;
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 std::vector<int> BestFirst(const std::vector<Double>& scores) {
   std::vector<int> order(scores.size());

@@ -1,6 +1,7 @@
 #include "dea/Basis.h"
 #include "dea/Forms.h"
 #include "dea/RatioRanges.h"
+#include "dea/Vectors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,8 +13,6 @@ namespace {
 constexpr Double kIsOne = 1e-9;
 constexpr Double kLeastGain = 1e-6;
 constexpr Double kWorthNothing = 1e-13;  // one side's numbers come to 1 at the prices
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 // The numbers of the ratio form: inputs first, each column divided by its mean. A side without columns has one of 1 for
 // everybody, which belongs to no column (-1).

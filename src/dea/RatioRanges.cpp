@@ -10,18 +10,12 @@ namespace {
 
 constexpr Double kSurely = 1e-9;
 
-Double Product(const Double* prices, const Double* numbers, int count) {
-  Double sum = 0.0;
-  for (int j = 0; j < count; ++j) sum += prices[j] * numbers[j];
-  return sum;
-}
-
 // Efficiency of all units at some prices, not yet divided by the best one's.
 void Efficiencies(const RatioData& data, const Double* inputPrices, const Double* outputPrices,
                   std::vector<Double>& scores) {
   for (int k = 0; k < data.Units; ++k) {
-    scores[static_cast<std::size_t>(k)] =
-        Product(outputPrices, data.OutputsOf(k), data.Outputs) / Product(inputPrices, data.InputsOf(k), data.Inputs);
+    scores[At(k)] = Product(outputPrices, data.OutputsOf(k), At(data.Outputs)) /
+                    Product(inputPrices, data.InputsOf(k), At(data.Inputs));
   }
 }
 
@@ -48,7 +42,7 @@ bool DominatesSurely(const RatioData& data, const RatioRegion& region, int winne
 }
 
 std::vector<RankRange> SureRatioRanks(const RatioData& data, const RatioRegion& region, const Watch& watch) {
-  std::vector<Double> typical(static_cast<std::size_t>(data.Units));
+  std::vector<Double> typical(At(data.Units));
   Efficiencies(data, MiddleOf(region.Inputs).data(), MiddleOf(region.Outputs).data(), typical);
   return SureRanks(
       typical, [&](int winner, int loser) { return DominatesSurely(data, region, winner, loser); }, watch);

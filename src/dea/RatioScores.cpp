@@ -18,28 +18,14 @@ constexpr Double kTight = 1e-7;
 // How far a score without the unit itself is followed before it counts as having no end.
 constexpr std::array<Double, 4> kCaps{1e3, 1e6, 1e9, 1e12};
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
-Double LargestOf(const Double* numbers, int count) {
-  Double largest = 0.0;
-  for (int j = 0; j < count; ++j) largest = std::fmax(largest, numbers[j]);
-  return largest;
-}
-
 Double SumOf(const Double* numbers, int count) {
   Double sum = 0.0;
   for (int j = 0; j < count; ++j) sum += numbers[j];
   return sum;
 }
 
-Double Product(const Double* prices, const Double* numbers, int count) {
-  Double sum = 0.0;
-  for (int j = 0; j < count; ++j) sum += prices[j] * numbers[j];
-  return sum;
-}
-
 std::vector<Double> WithLargestOne(std::vector<Double> numbers) {
-  const Double largest = LargestOf(numbers.data(), static_cast<int>(numbers.size()));
+  const Double largest = LargestOf(numbers);
   for (Double& x : numbers) x /= largest;
   return numbers;
 }
@@ -52,7 +38,7 @@ Double LargestLambda(const PoolAnswer& answer) {
 
 }  // namespace
 
-bool HasOutputs(const RatioData& data, int unit) { return LargestOf(data.OutputsOf(unit), data.Outputs) > 0.0; }
+bool HasOutputs(const RatioData& data, int unit) { return LargestOf(data.OutputsOf(unit), At(data.Outputs)) > 0.0; }
 
 RatioScorer::RatioScorer(const RatioData& data, RatioRegion region, RatioTechnology technology)
     : data_(data), region_(std::move(region)), technology_(technology) {
@@ -60,9 +46,11 @@ RatioScorer::RatioScorer(const RatioData& data, RatioRegion region, RatioTechnol
   pool_ = std::make_unique<Pool>(Shape());
 }
 
-Double RatioScorer::LargestInput(int unit) const { return LargestOf(ScaledOf(unit), data_.Inputs); }
+Double RatioScorer::LargestInput(int unit) const { return LargestOf(ScaledOf(unit), At(data_.Inputs)); }
 
-Double RatioScorer::LargestOutput(int unit) const { return LargestOf(ScaledOf(unit) + data_.Inputs, data_.Outputs); }
+Double RatioScorer::LargestOutput(int unit) const {
+  return LargestOf(ScaledOf(unit) + data_.Inputs, At(data_.Outputs));
+}
 
 // Prices of a typical size of 1, and at these the best unit with outputs worth as much as its inputs: bounds and
 // columns of the programs are well scaled then, however far apart judgments put the prices.
@@ -99,16 +87,7 @@ PoolShape RatioScorer::Shape() const {
     }
     if (!IsConstant()) shape.Columns.push_back(1.0 / size);
   }
-  for (const PriceRow& row : region_.Rows) {
-    std::vector<Double> column(shape.Rows.size());
-    Double largest = 0.0;
-    for (const auto& [attribute, coefficient] : row.Terms) {
-      column[At(attribute)] = coefficient * factors_[At(attribute)];
-      largest = std::fmax(largest, std::fabs(column[At(attribute)]));
-    }
-    for (Double& entry : column) entry /= largest;
-    shape.Bounds.push_back(std::move(column));
-  }
+  for (const PriceRow& row : region_.Rows) shape.Bounds.push_back(ColumnOf(row, factors_, shape.Rows.size()));
   shape.Dominates = [this](int winner, int loser) { return Dominates(winner, loser); };
   return shape;
 }
@@ -186,7 +165,7 @@ RatioScore RatioScorer::ScoreFrom(int unit, const PoolAnswer& answer) const {
 // A condition that the prices do not meet with equality changes nothing when it is dropped. Of prices too small to
 // matter nothing is known: they may be anywhere between their bounds.
 std::vector<int> RatioScorer::TightRows(const std::vector<Double>& prices) const {
-  const Double negligible = kTight * LargestOf(prices.data(), Attributes());
+  const Double negligible = kTight * LargestOf(prices);
   std::vector<int> tight;
   for (std::size_t row = 0; row < region_.Rows.size(); ++row) {
     Double sum = 0.0;
@@ -208,8 +187,8 @@ void RatioScorer::SetPrices(int unit, const PoolAnswer& answer, RatioScore& scor
   for (std::size_t j = 0; j < score.Prices.size(); ++j) {
     score.Prices[j] = std::fmax(answer.Prices[j], 0.0) * factors_[j];
   }
-  const Double worth = IsOut() ? Product(&score.Prices[At(data_.Inputs)], data_.OutputsOf(unit), data_.Outputs)
-                               : Product(score.Prices.data(), data_.InputsOf(unit), data_.Inputs);
+  const Double worth = IsOut() ? Product(&score.Prices[At(data_.Inputs)], data_.OutputsOf(unit), At(data_.Outputs))
+                               : Product(score.Prices.data(), data_.InputsOf(unit), At(data_.Inputs));
   for (Double& price : score.Prices) price /= worth;
 }
 

@@ -14,7 +14,7 @@ struct RatioData {
   int Outputs = 0;
   std::vector<Double> Values;  // unit after unit
 
-  const Double* InputsOf(int unit) const { return &Values[static_cast<std::size_t>(unit * (Inputs + Outputs))]; }
+  const Double* InputsOf(int unit) const { return &Values[At(unit) * At(Inputs + Outputs)]; }
   const Double* OutputsOf(int unit) const { return InputsOf(unit) + Inputs; }
 };
 
@@ -70,7 +70,7 @@ class RatioScorer {
   bool IsOut() const { return technology_.Orientation == Orientation::Out; }
   bool IsSolvedOut() const { return IsOut() && !IsConstant(); }  // constant returns: out is one over in
   int Attributes() const { return data_.Inputs + data_.Outputs; }
-  const Double* ScaledOf(int unit) const { return &scaled_[static_cast<std::size_t>(unit * Attributes())]; }
+  const Double* ScaledOf(int unit) const { return &scaled_[At(unit) * At(Attributes())]; }
   Double LargestInput(int unit) const;
   Double LargestOutput(int unit) const;
 

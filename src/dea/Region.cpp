@@ -1,18 +1,26 @@
 #include "dea/Region.h"
 
-#include <cmath>
+#include "dea/Vectors.h"
 
 namespace Tarnwise::Dea {
 
 Box FreeBox(int attributes, int reference) {
   Box box;
-  box.Low.assign(static_cast<std::size_t>(attributes), 0.0);
-  box.High.assign(static_cast<std::size_t>(attributes), kNoBound);
+  box.Low.assign(At(attributes), 0.0);
+  box.High.assign(At(attributes), kNoBound);
   if (attributes > 0) {
-    box.Low[static_cast<std::size_t>(reference)] = 1.0;
-    box.High[static_cast<std::size_t>(reference)] = 1.0;
+    box.Low[At(reference)] = 1.0;
+    box.High[At(reference)] = 1.0;
   }
   return box;
+}
+
+std::vector<Double> ColumnOf(const PriceRow& row, const std::vector<Double>& factors, std::size_t rows) {
+  std::vector<Double> column(rows);
+  for (const auto& [attribute, coefficient] : row.Terms) column[At(attribute)] = coefficient * factors[At(attribute)];
+  const Double largest = LargestOf(column);
+  for (Double& entry : column) entry /= largest;
+  return column;
 }
 
 PriceRow RowOf(const JudgedBound& bound) {
@@ -21,7 +29,7 @@ PriceRow RowOf(const JudgedBound& bound) {
 }
 
 Box WithoutBound(Box box, int attribute, Side side) {
-  const auto at = static_cast<std::size_t>(attribute);
+  const auto at = At(attribute);
   if (side == Side::Low) {
     box.Low[at] = 0.0;
   } else {

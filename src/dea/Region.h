@@ -27,6 +27,10 @@ struct PriceRow {
   std::vector<std::pair<int, Double>> Terms;  // attribute, coefficient
 };
 
+// The condition as a column of a program whose rows are the attributes, multiplied by their factors; its largest number
+// is 1.
+std::vector<Double> ColumnOf(const PriceRow& row, const std::vector<Double>& factors, std::size_t rows);
+
 // One end of a judged interval, as a condition on prices.
 struct JudgedBound {
   int Attribute = 0;

@@ -1,6 +1,7 @@
 #include "dea/SessionChecks.h"
 
 #include "dea/Basis.h"
+#include "dea/Vectors.h"
 #include "dea/Watch.h"
 #include "runtime/Text.h"
 
@@ -11,8 +12,6 @@ namespace Tarnwise::Dea {
 namespace {
 
 constexpr Double kLargest = 1e100;
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 bool IsUsable(Double number) { return std::fabs(number) <= kLargest; }
 

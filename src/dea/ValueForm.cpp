@@ -1,6 +1,7 @@
 #include "dea/Basis.h"
 #include "dea/Forms.h"
 #include "dea/ValueScores.h"
+#include "dea/Vectors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,6 @@ namespace {
 
 // Where the groups are not linked, the relation of their references is drawn from these.
 constexpr Interval kUnlinked{1.0 / 20.0, 20.0};
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 bool IsCost(const Problem& problem, std::size_t column) { return problem.Columns[column].Use == Role::Input; }
 

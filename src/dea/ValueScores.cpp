@@ -12,8 +12,6 @@ namespace {
 
 constexpr Double kSurely = 1e-9;
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
-
 }  // namespace
 
 ValueScorer::ValueScorer(const ValueData& data, ValueRegion region)
@@ -50,16 +48,7 @@ PoolShape ValueScorer::Shape() const {
     for (int j = 0; j < data_.Attributes; ++j) shape.Columns.push_back(data_.Of(k)[j] * factors_[At(j)]);
     shape.Columns.push_back(1.0);
   }
-  for (const PriceRow& row : region_.Rows) {
-    std::vector<Double> column(shape.Rows.size());
-    Double largest = 0.0;
-    for (const auto& [attribute, coefficient] : row.Terms) {
-      column[At(attribute)] = coefficient * factors_[At(attribute)];
-      largest = std::fmax(largest, std::fabs(column[At(attribute)]));
-    }
-    for (Double& entry : column) entry /= largest;
-    shape.Bounds.push_back(std::move(column));
-  }
+  for (const PriceRow& row : region_.Rows) shape.Bounds.push_back(ColumnOf(row, factors_, shape.Rows.size()));
   shape.Dominates = [this](int winner, int loser) {
     return std::all_of(region_.Boxes.begin(), region_.Boxes.end(),
                        [&](const Box& box) { return NeverLess(data_.Of(winner), data_.Of(loser), box); });

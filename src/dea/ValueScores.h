@@ -12,7 +12,7 @@ struct ValueData {
   int Attributes = 0;
   std::vector<Double> Goodness;  // unit after unit
 
-  const Double* Of(int unit) const { return &Goodness[static_cast<std::size_t>(unit * Attributes)]; }
+  const Double* Of(int unit) const { return &Goodness[At(unit) * At(Attributes)]; }
 };
 
 // Weights that are allowed: any combination of directions of the boxes, and the same as conditions. Groups that are not

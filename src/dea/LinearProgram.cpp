@@ -15,6 +15,7 @@ constexpr double kSolverTolerance = 1e-10;
 constexpr Double kStands = 1e-10;
 constexpr Double kStandsAtLast = 1e-8;
 constexpr int kIterations = 300;  // in one go, so that a cancel is seen in time
+constexpr int kRationalIterations = 5;
 constexpr int kMostGoes = 200;
 
 // The library's memory belongs to the thread. An error is fatal to it: it prints, calls the hook, and may not go on.
@@ -257,7 +258,7 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
   how.meth = method == Method::Dual ? GLP_DUAL : GLP_PRIMAL;
   how.tol_bnd = kSolverTolerance;
   how.tol_dj = kSolverTolerance;
-  how.it_lim = kIterations;
+  how.it_lim = effort == Effort::Rational ? kRationalIterations : kIterations;
   glp_prob* const program = solver_->Program;
   int code = GLP_EITLIM;
   int status = GLP_UNDEF;

@@ -148,6 +148,20 @@ void Pool::Keep(const UnitProgram& unit, Double violation) {
   facets_.push_back({program_.Basis(), program_.Prices(), violation});
 }
 
+// The unit alone is a solution of its own program, and a place to begin where the solver finds none.
+Outcome Pool::SolveFromItself(const UnitProgram& unit, const Watch& watch) {
+  const auto largest = [](const std::vector<Double>& numbers, int besides) {
+    int found = besides == 0 ? 1 : 0;
+    for (int i = 0; At(i) < numbers.size(); ++i) {
+      if (i != besides && std::fabs(numbers[At(i)]) > std::fabs(numbers[At(found)])) found = i;
+    }
+    return found;
+  };
+  const int own = largest(unit.Own, -1);
+  program_.StartFrom({{own, largest(unit.RightSide, own)}, {kOwnColumn, columnOf_[At(unit.Unit)]}});
+  return program_.Solve(Method::Primal, watch);
+}
+
 PoolAnswer Pool::SolveSet(const UnitProgram& unit, const Watch& watch) {
   const bool isOutsider = unit.WithoutItself && Holds(unit.Unit);  // the program lacks what facets may rest on
   const bool costsMore = isOutsider && unit.CostOfItself > 0.0;
@@ -159,7 +173,9 @@ PoolAnswer Pool::SolveSet(const UnitProgram& unit, const Watch& watch) {
   }
   if (program_.Solve(costsMore ? Method::Primal : Method::Dual, watch) == Outcome::Infeasible) {
     if (!unit.WithoutItself && !Holds(unit.Unit)) Join(unit.Unit);
-    if (program_.Solve(Method::Primal, watch) == Outcome::Infeasible) return {};
+    Outcome outcome = program_.Solve(Method::Primal, watch);
+    if (outcome == Outcome::Infeasible && !unit.WithoutItself) outcome = SolveFromItself(unit, watch);
+    if (outcome == Outcome::Infeasible) return {};
   }
   for (;;) {
     const Worst worst = WorstViolation(unit);

@@ -75,6 +75,7 @@ class Pool {
   void Prune(int winner);
   void SetItself(const UnitProgram& unit, bool restore);
   PoolAnswer Answer(Double violation);
+  Outcome SolveFromItself(const UnitProgram& unit, const Watch& watch);
   PoolAnswer SolveSet(const UnitProgram& unit, const Watch& watch);
   void Keep(const UnitProgram& unit, Double violation);
   const Facet* BestFacet(const UnitProgram& unit) const;

@@ -128,6 +128,10 @@ struct Evaluation {
   int Units() const { return Made.Data.Units; }
 };
 
+RatioScore ScoreOf(const Evaluation& evaluation, RatioScorer& scorer, int unit, const Watch& watch) {
+  return NamingUnit(evaluation.Problem_, evaluation.Checked_, unit, [&] { return scorer.Score(unit, watch); });
+}
+
 Double ShareDone(int done, int all) { return static_cast<Double>(done) / static_cast<Double>(all); }
 
 void TakeScore(const Evaluation& evaluation, const RatioScore& score, int unit, UnitResult& result) {
@@ -160,7 +164,7 @@ void TakeFree(Evaluation& evaluation, const Watch& watch) {
                      evaluation.Technology);
   for (int k = 0; k < evaluation.Units(); ++k) {
     watch.Report(ShareDone(k, evaluation.Units()));
-    evaluation.Found.Units[At(k)].Free = scorer.Score(k, watch).Score;
+    evaluation.Found.Units[At(k)].Free = ScoreOf(evaluation, scorer, k, watch).Score;
   }
   evaluation.Found.WorstViolation = std::fmax(evaluation.Found.WorstViolation, scorer.WorstViolation());
 }
@@ -169,7 +173,8 @@ void TakeSuper(Evaluation& evaluation, RatioScorer& scorer, const Watch& watch) 
   for (int k = 0; k < evaluation.Units(); ++k) {
     watch.Report(ShareDone(k, evaluation.Units()));
     UnitResult& result = evaluation.Found.Units[At(k)];
-    if (result.Max && std::fabs(*result.Max - 1.0) <= kIsOne) result.Super = scorer.Super(k, watch);
+    if (!result.Max || std::fabs(*result.Max - 1.0) > kIsOne) continue;
+    result.Super = NamingUnit(evaluation.Problem_, evaluation.Checked_, k, [&] { return scorer.Super(k, watch); });
   }
 }
 
@@ -204,8 +209,9 @@ void TakeHeldBack(Evaluation& evaluation, const std::vector<std::vector<int>>& u
     RatioScorer scorer(evaluation.Made.Data, RegionOf(evaluation.Checked_, evaluation.Made, evaluation.Bounds, b),
                        evaluation.Technology);
     for (const int k : unitsOfBound[At(b)]) {
+      watch.LookAtFlag();
       UnitResult& result = evaluation.Found.Units[At(k)];
-      const Double gain = GainOf(evaluation, *result.Max, *scorer.Score(k, watch).Score);
+      const Double gain = GainOf(evaluation, *result.Max, *ScoreOf(evaluation, scorer, k, watch).Score);
       if (gain > kLeastGain) result.HeldBackBy.push_back({bound.Column, bound.Side, bound.Ratio, gain});
     }
     evaluation.Found.WorstViolation = std::fmax(evaluation.Found.WorstViolation, scorer.WorstViolation());
@@ -240,7 +246,7 @@ void TakeJudged(Evaluation& evaluation, const Watch& watch) {
   for (int k = 0; k < evaluation.Units(); ++k) {
     scoring.Report(ShareDone(k, evaluation.Units()));
     UnitResult& result = evaluation.Found.Units[At(k)];
-    const RatioScore score = scorer.Score(k, watch);
+    const RatioScore score = ScoreOf(evaluation, scorer, k, watch);
     TakeScore(evaluation, score, k, result);
     if (!isJudged) result.Free = result.Max;
     if (!options.HeldBack || !MayBeHeldBack(evaluation, result)) continue;

@@ -138,7 +138,8 @@ void EvaluateValues(const Problem& problem, const Checked& checked, const Watch&
     distances.Report(ShareDone(k, units));
     results.Units[k].Unit = checked.Units[k];
     results.Units[k].Value = scorer.Range(static_cast<int>(k));
-    results.Units[k].Distance = scorer.Distance(static_cast<int>(k), watch);
+    const int unit = static_cast<int>(k);
+    results.Units[k].Distance = NamingUnit(problem, checked, unit, [&] { return scorer.Distance(unit, watch); });
   }
   const Watch regrets = watch.Part(0.4, 0.6);
   for (std::size_t k = 0; k < units; ++k) {

@@ -95,34 +95,34 @@ TEST(LinearProgram, RowsOfVerySmallNumbersAreMet) {
   EXPECT_NEAR(4.0, program.Objective(), 1e-12);
 }
 
-void AskForARowThatIsNotThere() {
+void AskForAColumnThatIsNotThere() {
   LinearProgram program({RowKind::AtLeast});
-  program.StartFrom({{7}, {}});
+  program.StartFrom({{}, {7}});
 }
 
 TEST(SolverFaults, AreExceptionsThatSayWhatHappened) {
   try {
-    AskForARowThatIsNotThere();
+    AskForAColumnThatIsNotThere();
     FAIL() << "no exception";
   } catch (const SolverFault& fault) {
-    EXPECT_NE(String::npos, String(fault.what()).find("row number out of range")) << fault.what();
+    EXPECT_NE(String::npos, String(fault.what()).find("column number out of range")) << fault.what();
   }
 }
 
 TEST(SolverFaults, PrintNothing) {
   testing::internal::CaptureStdout();
   testing::internal::CaptureStderr();
-  EXPECT_THROW(AskForARowThatIsNotThere(), SolverFault);
+  EXPECT_THROW(AskForAColumnThatIsNotThere(), SolverFault);
   EXPECT_EQ("", testing::internal::GetCapturedStdout());
   EXPECT_EQ("", testing::internal::GetCapturedStderr());
 }
 
 TEST(SolverFaults, AreToldAgainAndAgain) {
-  for (int k = 0; k < 3; ++k) EXPECT_THROW(AskForARowThatIsNotThere(), SolverFault);
+  for (int k = 0; k < 3; ++k) EXPECT_THROW(AskForAColumnThatIsNotThere(), SolverFault);
 }
 
 TEST_F(SmallProgram, IsLostByAFaultAtAnotherOneAndSaysSo) {
-  EXPECT_THROW(AskForARowThatIsNotThere(), SolverFault);
+  EXPECT_THROW(AskForAColumnThatIsNotThere(), SolverFault);
   try {
     Solve();
     FAIL() << "no exception";
@@ -137,7 +137,7 @@ TEST_F(SmallProgram, IsLostByAFaultAtAnotherOneAndSaysSo) {
 }
 
 TEST_F(SmallProgram, OutlivesAFaultOnAnotherThread) {
-  std::thread([] { EXPECT_THROW(AskForARowThatIsNotThere(), SolverFault); }).join();
+  std::thread([] { EXPECT_THROW(AskForAColumnThatIsNotThere(), SolverFault); }).join();
   ASSERT_EQ(Outcome::Optimal, Solve());
   EXPECT_DOUBLE_EQ(10.0, Program.Objective());
 }

@@ -12,6 +12,9 @@ namespace {
 // What is this much smaller than its neighbours is the rounding of a zero.
 constexpr Double kRounding = 1e-13;
 
+// A column whose prices pass its cost by more has been overlooked by the solver.
+constexpr Double kWrong = 1e-11;
+
 // Of each row: what its terms and its right-hand side come to without regard to sign.
 std::vector<Double> RowSizes(const ProgramData& program, const std::vector<Double>& values) {
   std::vector<Double> sizes(program.Rows.size());
@@ -42,6 +45,12 @@ std::vector<Double> Residuals(const ProgramData& program, const std::vector<Doub
     for (std::size_t i = 0; i < residuals.size(); ++i) residuals[i] += column[i] * values[At(j)];
   }
   return residuals;
+}
+
+Double LargestInRow(const ProgramData& program, std::size_t row) {
+  Double largest = 0.0;
+  for (int j = 0; j < program.ColumnCount(); ++j) largest = std::fmax(largest, std::fabs(program.ColumnAt(j)[row]));
+  return largest;
 }
 
 bool IsOutside(Domain domain, Double value, Double rounding) {
@@ -75,7 +84,14 @@ BasicSolution SolutionAt(const ProgramData& program, const RowsAndColumns& basis
     solution.Values[At(basis.Columns[j])] = values[j];
     solution.Prices[At(basis.Rows[j])] = prices[j];
   }
-  solution.RoundingOfPrices = kPriceRounding * LargestOf(prices);
+  Double largestTerm = 0.0;
+  for (std::size_t i = 0; i < size; ++i) {
+    largestTerm = std::fmax(largestTerm, std::fabs(prices[i] * rightSide[i]));
+    for (std::size_t j = 0; j < size; ++j) {
+      largestTerm = std::fmax(largestTerm, std::fabs(prices[i] * program.ColumnAt(basis.Columns[j])[basis.Rows[i]]));
+    }
+  }
+  solution.RoundingOfPrices = kPriceRounding * largestTerm;
   solution.Exists = true;
   return solution;
 }
@@ -126,9 +142,9 @@ Double PriceError(const ProgramData& program, const BasicSolution& solution) {
     const Double wrong = program.Rows[i] == RowKind::AtLeast  ? -solution.Prices[i]
                          : program.Rows[i] == RowKind::AtMost ? solution.Prices[i]
                                                               : 0.0;
-    if (wrong <= solution.RoundingOfPrices) continue;
-    worst =
-        std::fmax(worst, sizes[i] > 0.0 && whole > 0.0 ? wrong * sizes[i] / whole : wrong / LargestOf(solution.Prices));
+    if (wrong <= 0.0) continue;
+    const Double size = sizes[i] > 0.0 ? sizes[i] : LargestInRow(program, i);
+    if (wrong * size > solution.RoundingOfPrices) worst = std::fmax(worst, wrong * size / whole);
   }
   return worst;
 }
@@ -148,7 +164,7 @@ RowsAndColumnsSizes SizesOf(const ProgramData& program, const BasicSolution& sol
   }
   for (Double& size : sizes.Rows) size = size >= kRounding ? size : 1.0;
   for (int j = 0; j < program.ColumnCount(); ++j) {
-    const bool isWrong = solution.Exists && PriceErrorOf(program, solution, j) > kRounding;
+    const bool isWrong = solution.Exists && PriceErrorOf(program, solution, j) > kWrong;
     Double size = 0.0;
     for (std::size_t i = 0; i < sizes.Rows.size(); ++i) {
       const Double price = isWrong ? std::fabs(solution.Prices[i]) : 1.0 / sizes.Rows[i];

@@ -6,7 +6,7 @@
 
 namespace Tarnwise::Dea {
 
-// Of the largest price: what the solution of its basis leaves uncertain.
+// Of the largest product of a price and a number: what the solution of its basis leaves uncertain.
 constexpr Double kPriceRounding = 1e-14;
 
 enum class RowKind { AtLeast, Equal, AtMost };  // activity against the right-hand side

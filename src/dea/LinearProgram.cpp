@@ -15,8 +15,13 @@ constexpr double kSolverTolerance = 1e-10;
 constexpr Double kStands = 1e-10;
 constexpr Double kStandsAtLast = 1e-8;
 constexpr int kIterations = 300;  // in one go, so that a cancel is seen in time
-constexpr int kRationalIterations = 5;
-constexpr int kMostGoes = 200;
+constexpr int kMilliseconds = 50;
+constexpr int kMostGoes = 20;
+
+// What an answer shows of the sizes of rows and columns is the better the nearer it is, so rescaling is tried again.
+constexpr std::array kEfforts{Effort::Usual,    Effort::Rescaled, Effort::Rescaled, Effort::Rescaled,
+                              Effort::Rescaled, Effort::Anew,     Effort::Rescaled, Effort::Rescaled,
+                              Effort::Rescaled, Effort::Rescaled, Effort::Rational};
 
 // The library's memory belongs to the thread. An error is fatal to it: it prints, calls the hook, and may not go on.
 struct Environment {
@@ -240,7 +245,7 @@ Double LinearProgram::Objective() const {
 Outcome LinearProgram::Solve(Method method, const Watch& watch) {
   Synchronise();
   Unscale();
-  for (const Effort effort : {Effort::Usual, Effort::Rescaled, Effort::Anew, Effort::Rational}) {
+  for (const Effort effort : kEfforts) {
     if (effort != Effort::Usual) ++repairs_;
     if (effort == Effort::Rescaled) Rescale();
     const Ended ended = Run(effort == Effort::Usual ? method : Method::Primal, effort, watch);
@@ -258,12 +263,13 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
   how.meth = method == Method::Dual ? GLP_DUAL : GLP_PRIMAL;
   how.tol_bnd = kSolverTolerance;
   how.tol_dj = kSolverTolerance;
-  how.it_lim = effort == Effort::Rational ? kRationalIterations : kIterations;
+  how.it_lim = kIterations;
+  how.tm_lim = kMilliseconds;
   glp_prob* const program = solver_->Program;
   int code = GLP_EITLIM;
   int status = GLP_UNDEF;
   if (effort == Effort::Anew) InSolver([&] { glp_std_basis(program); });
-  for (int go = 0; code == GLP_EITLIM && go < kMostGoes; ++go) {
+  for (int go = 0; (code == GLP_EITLIM || code == GLP_ETMLIM) && go < kMostGoes; ++go) {
     watch.LookAtFlag();
     InSolver([&] {
       code = effort == Effort::Rational ? glp_exact(program, &how) : glp_simplex(program, &how);

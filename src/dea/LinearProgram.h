@@ -14,6 +14,7 @@ namespace Tarnwise::Dea {
 
 enum class Method { Primal, Dual };  // Dual where only right-hand sides, domains or a basic column changed
 enum class Outcome { Optimal, Infeasible };
+enum class Effort { Usual, Rescaled, Anew, Rational };  // ways of solving, one after the other
 
 class LinearProgram {
  public:
@@ -55,7 +56,6 @@ class LinearProgram {
 
  private:
   struct Solver;  // what of it belongs to the library
-  enum class Effort { Usual, Rescaled, Anew, Rational };
   enum class Ended { Optimal, Infeasible, Failed };
 
   Ended Run(Method method, Effort effort, const Watch& watch);

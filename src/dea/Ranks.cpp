@@ -61,7 +61,7 @@ std::vector<RankRange> SeenRanks(int units, int draws, const std::function<void(
     watch.Report(static_cast<Double>(d) / draws);
     draw(scores);
     for (int k = 0; k < units; ++k) bestFirst[At(k)] = {scores[At(k)], k};
-    std::sort(bestFirst.begin(), bestFirst.end(), std::greater<>());
+    std::sort(bestFirst.begin(), bestFirst.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
     TakeRanks(bestFirst, ranks);
   }
   return ranks;

@@ -2,25 +2,15 @@
 // for what is closed form in the product. Slow, and shares nothing with it but the values of scores.
 #pragma once
 
-#include "Problems.h"
+#include "RawBounds.h"
 #include "Solvers.h"
 
 namespace Tarnwise::Dea {
 
 using Solver = std::optional<double> (*)(const DenseProgram&);
 
-// Prices of raw units over the reference's, or weights on the scale basis; -1 where there is no reference.
-struct RawBounds {
-  std::vector<int> References;  // of the columns
-  std::vector<double> Low, High;
-};
-
 // The units that count: no value missing; in the ratio form an input above zero.
 std::vector<int> UnitsThatCount(const Problem& problem);
-
-RawBounds PricesOf(const Problem& problem, bool judged);  // per raw unit
-RawBounds WeightsOf(const Problem& problem);              // on the scale basis
-std::optional<double> CrossOf(const Problem& problem);    // on the scale basis
 
 // Greatest efficiency of the unit (an index into UnitsThatCount), phi for orientation out; nothing without an end.
 // Without: a unit that counts for nothing, -1 none.

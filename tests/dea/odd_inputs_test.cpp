@@ -159,6 +159,26 @@ TEST(OddInputs, ThirtyOneColumns) {
   for (const UnitResult& unit : Evaluate(problem).Units) EXPECT_TRUE(unit.Distance && unit.Ranks);
 }
 
+// Hundreds of efficient units side by side, some a million times as large as others: an absolute zero would let one
+// stand for its neighbour.
+TEST(OddInputs, AFineFrontierOfSmallAndLargeUnits) {
+  std::vector<Double> first, second, output;
+  for (int k = 0; k < 500; ++k) {
+    const Double place = std::exp(-0.5 + 0.002 * k);
+    const Double size = std::pow(10.0, -3.0 + (k * 37 % 500) * 0.012);
+    first.push_back(size * place);
+    second.push_back(size / place);
+    output.push_back(size);
+  }
+  Problem problem = ProblemOf({InputColumn("1", first), InputColumn("2", second), OutputColumn("1", output)});
+  const Results results = Evaluate(problem);
+  EXPECT_LE(results.WorstViolation, 1e-9);
+  for (const UnitResult& unit : results.Units) {
+    EXPECT_NEAR(1.0, *unit.Max, 1e-10);
+    EXPECT_GT(*unit.Super, 1.0 + 1e-6);
+  }
+}
+
 TEST(OddInputs, NumbersOfVeryDifferentSize) {
   const Problem problem = ProblemOf({InputColumn("1", {1e-12, 1, 1e12}), OutputColumn("1", {1e12, 1, 1e-12})});
   const Results results = Evaluate(problem);

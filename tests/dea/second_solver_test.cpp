@@ -188,6 +188,18 @@ TEST_P(SecondSolver, AgreesOnRatios) {
   });
 }
 
+// As many units and columns as pruning and shared prices need to be busy with.
+TEST_P(SecondSolver, AgreesOnLargerProblems) {
+  Rounds(Form::Ratio, {60, 6}, [](Problem& problem, Chance& chance) {
+    if (!chance.OneIn(8)) return;
+    problem.Options.Returns = static_cast<Returns>(chance.Whole(0, 3));
+    problem.Options.Orientation = static_cast<Orientation>(chance.Whole(0, 1));
+    CheckRatios(problem, false);
+    problem.Options.Form = Form::Value;
+    CheckValues(problem);
+  });
+}
+
 TEST_P(SecondSolver, AgreesOnValues) {
   Rounds(Form::Value, {}, [](Problem& problem, Chance& chance) {
     problem.Options.CrossBand = chance.OneIn(4) ? chance.Real(1.0, 3.0) : 1.0;

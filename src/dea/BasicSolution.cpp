@@ -12,6 +12,9 @@ namespace {
 // What is this much smaller than its neighbours is the rounding of a zero.
 constexpr Double kRounding = 1e-13;
 
+// Terms of prices may cancel each other, up to so much more than what anything costs.
+constexpr Double kMostCancelled = 1e4;
+
 // A column whose prices pass its cost by more has been overlooked by the solver.
 constexpr Double kWrong = 1e-11;
 
@@ -129,7 +132,8 @@ Double PriceErrorOf(const ProgramData& program, const BasicSolution& solution, i
     size += std::fabs(term);
   }
   if (domain == Domain::Free) passes = std::fabs(passes);
-  return passes <= solution.RoundingOfPrices ? 0.0 : 2.0 * passes / size;
+  if (passes <= solution.RoundingOfPrices) return 0.0;
+  return 2.0 * passes / std::fmin(size, kMostCancelled * LargestOf(program.Costs));
 }
 
 Double PriceError(const ProgramData& program, const BasicSolution& solution) {

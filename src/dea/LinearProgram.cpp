@@ -140,15 +140,6 @@ struct LinearProgram::Solver {
     return basis;
   }
 
-  // What rational arithmetic has found, rounded. It takes the program's numbers to nine digits only.
-  BasicSolution RationalSolution(const ProgramData& data) const {
-    BasicSolution solution;
-    solution.Exists = true;
-    for (int j = 0; j < data.ColumnCount(); ++j) solution.Values.push_back(glp_get_col_prim(Program, j + 1));
-    for (int i = 0; i < data.RowCount(); ++i) solution.Prices.push_back(glp_get_row_dual(Program, i + 1));
-    return solution;
-  }
-
   glp_prob* Program = nullptr;
   unsigned Generation = 0;
   bool IsScaled = false;
@@ -248,15 +239,15 @@ Outcome LinearProgram::Solve(Method method, const Watch& watch) {
   for (const Effort effort : kEfforts) {
     if (effort != Effort::Usual) ++repairs_;
     if (effort == Effort::Rescaled) Rescale();
-    const Ended ended = Run(effort == Effort::Usual ? method : Method::Primal, effort, watch);
-    if (ended == Ended::Infeasible && (method == Method::Dual || effort == Effort::Rational))
-      return Outcome::Infeasible;
-    if (ended == Ended::Optimal && Stands(effort)) return Outcome::Optimal;
+    const bool hasNone = FindsNone(effort == Effort::Usual ? method : Method::Primal, effort, watch);
+    if (hasNone && (method == Method::Dual || effort == Effort::Rational)) return Outcome::Infeasible;
+    if (Stands(effort)) return Outcome::Optimal;  // whatever the solver thinks of it
   }
   throw SolverFault("A linear program has no solution that stands the check.");
 }
 
-LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watch& watch) {
+// Lets the solver go on from its basis. Whether it says that there is no solution.
+bool LinearProgram::FindsNone(Method method, Effort effort, const Watch& watch) {
   glp_smcp how;
   glp_init_smcp(&how);
   how.msg_lev = GLP_MSG_OFF;
@@ -281,14 +272,12 @@ LinearProgram::Ended LinearProgram::Run(Method method, Effort effort, const Watc
       status = glp_get_status(program);
     });
   }
-  if (code != 0) return Ended::Failed;
-  return status == GLP_OPT ? Ended::Optimal : status == GLP_NOFEAS ? Ended::Infeasible : Ended::Failed;
+  return code == 0 && status == GLP_NOFEAS;
 }
 
 bool LinearProgram::Stands(Effort effort) {
   basis_ = solver_->Basis(data_);
   solution_ = SolutionAt(data_, basis_);
-  if (effort == Effort::Rational && !solution_.Exists) solution_ = solver_->RationalSolution(data_);
   const Double most = effort == Effort::Rational ? kStandsAtLast : kStands;
   return solution_.Exists && PriceError(data_, solution_) <= most && ValueError(data_, solution_) <= most;
 }

@@ -56,9 +56,8 @@ class LinearProgram {
 
  private:
   struct Solver;  // what of it belongs to the library
-  enum class Ended { Optimal, Infeasible, Failed };
 
-  Ended Run(Method method, Effort effort, const Watch& watch);
+  bool FindsNone(Method method, Effort effort, const Watch& watch);
   bool Stands(Effort effort);
   void Unscale();
   void Rescale();

@@ -33,13 +33,13 @@ QPixmap Translucent(const QPixmap& picture) {
 }
 
 // By its file, or where that is missing by the picture of the same name.
-QPixmap IconOf(const String& path, double ratio) {
-  if (FindPicture(path) != nullptr) return PicturePixmap(path, kIconSide, ratio);
+QPixmap IconOf(const String& path, double ratio, Colour ground) {
+  if (FindPicture(path) != nullptr) return PicturePixmap(path, kIconSide, ratio, ground);
   QString file = Text(path);
   file.replace('\\', '/');
   const QPixmap loaded(file);
   if (!loaded.isNull()) return loaded;
-  return PicturePixmap(Text(QFileInfo(file).baseName().toLower()), kIconSide, ratio);
+  return PicturePixmap(Text(QFileInfo(file).baseName().toLower()), kIconSide, ratio, ground);
 }
 
 }  // namespace
@@ -108,7 +108,7 @@ void QtDrag::Show(QtForm& form) {
 QPixmap QtDrag::PictureOf(QtForm& form, const Control& source) {
   const double ratio = form.Window().devicePixelRatioF();
   if (!source.DragIcon().empty()) {
-    const QPixmap icon = IconOf(source.DragIcon, ratio);
+    const QPixmap icon = IconOf(source.DragIcon, ratio, form.Colours().Base);
     if (!icon.isNull()) return icon;
   }
   // What the handlers move themselves needs no second picture.

@@ -1,7 +1,7 @@
 // One form on the screen: its window, and a widget for each of its controls, made when the screen first needs them.
 #pragma once
 
-#include "view/Form.h"
+#include "view/Look.h"
 
 #include <QObject>
 #include <QPointer>
@@ -36,6 +36,7 @@ class QtForm : public QObject {
   Form* Tree() const { return form_; }  // null once it is released
   QtToolkit& Tools() const { return toolkit_; }
   QWidget& Window() const { return *window_; }
+  const Palette& Colours() const { return colours_; }  // the platform's, every text readable on its ground
 
   QWidget* WidgetOf(const Control& control) const;
   Control* ControlOf(const QObject* object) const;  // null when the control has gone
@@ -44,7 +45,6 @@ class QtForm : public QObject {
 
   void Sync();  // what the tree has marked
   void SyncControl(Control& control);
-  void SyncAll();
   void FocusTree();  // the keyboard goes to the widget of the tree's active control, or to the bare window
   void Forget(const Control& control);
   void Release();
@@ -64,6 +64,7 @@ class QtForm : public QObject {
   void SyncPlace(Control& control, QWidget& widget);
   void SyncLook(Control& control, QWidget& widget);
   void SyncWindow();
+  void TakeColours();
   void SyncPainted(const Control& control);
   void SyncTimer(Control& control);
   void StopTimer(const Control& control);
@@ -80,10 +81,12 @@ class QtForm : public QObject {
   bool BoxKey(TextBox& box, QKeyEvent& event);
   bool KeyUp(const QKeyEvent& event);
   void FocusCame(QObject& object, Control& control, int reason);
+  void PaletteCame(const Control& control);
 
   Form* form_;
   QtToolkit& toolkit_;
   std::unique_ptr<QWidget> window_;
+  Palette colours_;
   std::map<const Control*, QPointer<QWidget>> widgets_;
   std::map<const QObject*, Control*> controls_;
   std::map<const Control*, QTimer*> timers_;

@@ -63,6 +63,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
     case QEvent::Shortcut:
       return Mnemonic(*control, *static_cast<QWidget*>(object), static_cast<QShortcutEvent*>(event)->isAmbiguous());
     case QEvent::FocusIn: FocusCame(*object, *control, static_cast<QFocusEvent*>(event)->reason()); return false;
+    case QEvent::ApplicationPaletteChange: PaletteCame(*control); return false;
     default: return false;
   }
 }

@@ -73,8 +73,15 @@ void SetRowHeight(WinForm& form, HWND window) {
   form.KeepImages(window, std::move(fresh));
 }
 
+void SetColours(HWND window, const Palette& colours) {
+  ListView_SetBkColor(window, colours.Base);
+  ListView_SetTextBkColor(window, colours.Base);
+  ListView_SetTextColor(window, colours.Text);
+}
+
 void SyncGrid(WinForm& form, Control& control, HWND window) {
   const auto& grid = static_cast<const Grid&>(control);
+  SetColours(window, form.Colours());
   SetText(window, Wide(grid.AccessibleName));
   UseBaseFont(form, window);
   MakeColumns(window, grid);

@@ -55,6 +55,13 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       Scrolled(*bar, reinterpret_cast<HWND>(lParam), LOWORD(wParam));
       return 0;
     }
+    case WM_NOTIFY: {
+      const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
+      const Control* const from = ControlOf(notice.hwndFrom);
+      if (from == nullptr || notice.hwndFrom != WindowOf(*from)) return std::nullopt;
+      if (from->Type != Kind::Toolbar || notice.code != NM_CUSTOMDRAW) return std::nullopt;
+      return PaintTool(*this, *from, reinterpret_cast<const NMTBCUSTOMDRAW&>(notice));
+    }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
       Control* const control = ControlOf(item.hwndItem);
@@ -66,13 +73,13 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN: {
       const auto from = reinterpret_cast<HWND>(lParam);
-      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BorderColour()));
+      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BoxEdge(colours_)));
       const Control* const control = ControlOf(from);
       if (control == nullptr || control->Type == Kind::TextBox) return std::nullopt;
       const auto dc = reinterpret_cast<HDC>(wParam);
-      const COLORREF ground = GroundOf(*control);
+      const Colour ground = GroundOf(*control, colours_);
       SetBkColor(dc, ground);
-      SetTextColor(dc, InkOn(ground));
+      SetTextColor(dc, TextOn(ground, colours_));
       return reinterpret_cast<LRESULT>(BrushOf(ground));
     }
     default: return std::nullopt;

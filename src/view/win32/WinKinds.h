@@ -8,6 +8,8 @@
 
 #include <commctrl.h>
 
+#include <optional>
+
 namespace Tarnwise {
 
 class Canvas;
@@ -63,6 +65,8 @@ int ScrolledValue(const VScrollBar& bar, HWND window, int code);
 // Tool bars: the button that is pressed, or would be, in the person's colours (NM_CUSTOMDRAW).
 LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn);
 
+// Grids: what the list view notifies of.
+std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice);
 void SpreadColumns(const Grid& grid, HWND list, double scale);
 
 // --- what boxes and containers paint ---

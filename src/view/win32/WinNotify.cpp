@@ -59,6 +59,7 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
       const Control* const from = ControlOf(notice.hwndFrom);
       if (from == nullptr || notice.hwndFrom != WindowOf(*from)) return std::nullopt;
+      if (from->Type == Kind::Grid) return AnswerGrid(*this, notice);
       if (from->Type != Kind::Toolbar || notice.code != NM_CUSTOMDRAW) return std::nullopt;
       return PaintTool(*this, *from, reinterpret_cast<const NMTBCUSTOMDRAW&>(notice));
     }

@@ -13,11 +13,12 @@ constexpr Colour Rgb(Colour red, Colour green, Colour blue) { return red | (gree
 constexpr Colour kInk = Rgb(55, 65, 81);
 constexpr Colour kFaint = Rgb(226, 232, 240);
 constexpr Colour kWhite = Rgb(255, 255, 255);
-constexpr Colour kBenefit = Rgb(217, 83, 79);
+constexpr Colour kBenefit = Rgb(201, 66, 62);
 constexpr Colour kBenefitLight = Rgb(255, 205, 200);
 constexpr Colour kCost = Rgb(66, 108, 196);
 constexpr Colour kCostLight = Rgb(204, 214, 255);
 constexpr Colour kGold = Rgb(233, 162, 43);
+constexpr Colour kAmber = Rgb(158, 91, 4);  // a gold that is seen on a button
 constexpr Colour kGoldLight = Rgb(255, 224, 192);
 
 constexpr Single kPi = 3.14159265F;
@@ -206,7 +207,7 @@ Picture Face(bool benefit, FaceState state) {
 
 // An arrow pointing right, turned by quarters clockwise. A way back comes from a bar.
 Picture Arrow(int quarters, bool back) {
-  const Colour ink = back ? kGold : kInk;
+  const Colour ink = back ? kAmber : kInk;
   std::vector<Single> head{88.0F, 50.0F, 54.0F, 20.0F, 54.0F, 80.0F};
   std::vector<Single> shaft{back ? 30.0F : 14.0F, 50.0F, 58.0F, 50.0F};
   std::vector<Single> bar{16.0F, 22.0F, 16.0F, 78.0F};
@@ -239,7 +240,7 @@ Picture Certain() {
     const Single baseX = 50.0F + x * 44.0F;
     const Single baseY = 50.0F + y * 44.0F;
     picture.Shapes.push_back(Polygon(
-        {tipX, tipY, baseX + y * 15.0F, baseY + x * 15.0F, baseX - y * 15.0F, baseY - x * 15.0F}, Filled(kGold)));
+        {tipX, tipY, baseX + y * 15.0F, baseY + x * 15.0F, baseX - y * 15.0F, baseY - x * 15.0F}, Filled(kAmber)));
   }
   return picture;
 }

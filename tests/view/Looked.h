@@ -62,4 +62,28 @@ inline String ToReferences(int method) {
          "drag cmdAttA1(0) picOrder1(0)\nclick cmdAdd1\ndrag cmdAttA1(1) picOrder1(1)\nclick cmdNext\n";
 }
 
+// Every step of that way on the screen, each with a `shot` of its own.
+inline String EveryStep(int method) {
+  const String opening = "host load hospitals.kst\nhost points zero\nhost show\nselect lstMethods " +
+                         std::to_string(method) +
+                         "\nshot approach\nclick cmdNext\nshot unranked\ndrag cmdAttA(1) picOrder(0)\nclick cmdAdd\n"
+                         "click lblOrderID(0)\nshot ranking\n";
+  const String references = ToReferences(method).substr(ToReferences(method).find("drag cmdAttA(0)"));
+  const String direct =
+      "shot judging\ndrag picHandle(0) picTradeOffsRange 2 100\nshot invalid\ntick Timer1\nshot invalid-blinks\n"
+      "tick Timer1\ndrag picHandle(0) picTradeOffsRange 160 200\nshot inconsistent\n"
+      "drag picHandle(0) picTradeOffsRange 60 72\ndrag picHandle(1) picTradeOffsRange 44 72\nshot consistent\n"
+      "click cmdEnter\nselect imgcmbTargetAtt 4\ndrag picHandle(0) picTradeOffsRange 80 60\nclick cmdEnter\n"
+      "select tsTab 2\nshot range\nselect imgcmbTargetAtt 2\nshot reference-pair\n";
+  const String tradeOffs =
+      "shot judging\ndrag shpPCA picTradeOffsRange 2900 1500\nshot invalid\ntick Timer1\nshot invalid-blinks\n"
+      "drag shpPCB picTradeOffsRange 2200 300\nselect tbsTradeOffs 2\npress tbMovRight MovRight\n"
+      "press tbMovLeft MovLeft\nshot uncertain\nclick cmdEnter\nselect imgcmbTargetAtt 4\nselect tbsTradeOffs 1\n"
+      "drag shpPCA picTradeOffsRange 2600 2800\ndrag shpPCB picTradeOffsRange 1400 1240\nshot scores\nclick cmdEnter\n"
+      "select imgcmbTargetAtt 2\nselect tbsTradeOffs 2\nshot reference-pair\n";
+  return opening + references + "shot asked\nclick cmdAttButtons(0)\nclick cmdAttButtons1(1)\nshot references\n" +
+         "click cmdNext\n" + (method == 0 ? direct : tradeOffs) + "click cmdEnter\nclick cmdNext\nshot results\n" +
+         "select tsWeightRatios 2\nshot cost-results\n";
+}
+
 }  // namespace Tarnwise

@@ -1,4 +1,5 @@
 // Command buttons, option buttons, check boxes and tool bars.
+#include "view/Pictures.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
@@ -22,8 +23,8 @@ constexpr double kRounding = 4.0;
 // A push button in the platform's look, or a flat one where the form gives it a colour of its own.
 class ButtonWidget : public QPushButton {
  public:
-  using QPushButton::QPushButton;
-  QColor Ground;  // invalid: the platform's look
+  ButtonWidget(QtForm& form, QWidget* parent) : QPushButton(parent), form_(form) {}
+  bool Flat = false;
 
  protected:
   void initStyleOption(QStyleOptionButton* option) const override {
@@ -32,38 +33,35 @@ class ButtonWidget : public QPushButton {
   }
 
   void paintEvent(QPaintEvent* event) override {
-    if (Ground.isValid())
-      PaintFlat();
+    const auto* const button = static_cast<const CommandButton*>(form_.ControlOf(this));
+    if (Flat && button != nullptr)
+      PaintFlat(LookOf(*button, form_.Colours(), isEnabled(),
+                       isDown()       ? Pressed::Down
+                       : underMouse() ? Pressed::Hover
+                                      : Pressed::No));
     else
       QPushButton::paintEvent(event);
   }
 
  private:
-  QColor Face() const {
-    if (!isEnabled()) return QColor::fromHsv(Ground.hsvHue(), Ground.hsvSaturation() / 3, 238);
-    if (isDown()) return Ground.darker(112);
-    return underMouse() ? Ground.lighter(104) : Ground;
-  }
-
-  void PaintFlat() {
+  void PaintFlat(const ButtonLook& look) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF body = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-    const QColor face = Face();
-    painter.setBrush(face);
-    painter.setPen(QPen(isEnabled() ? face.darker(underMouse() ? 160 : 135) : face.darker(110), 1.0));
+    painter.setBrush(ToQColor(look.Face));
+    painter.setPen(QPen(ToQColor(look.Edge), 1.0));
     painter.drawRoundedRect(body, kRounding, kRounding);
     if (hasFocus()) {
       painter.setBrush(Qt::NoBrush);
       painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
       painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRounding + 0.5, kRounding + 0.5);
     }
-    QColor ink = InkOn(face);
-    if (!isEnabled()) ink.setAlphaF(0.5F);
-    painter.setPen(ink);
+    painter.setPen(ToQColor(look.Ink));
     painter.drawText(rect().adjusted(kSidePadding, 0, -kSidePadding, isDown() ? 1 : 0),
                      Qt::AlignCenter | Qt::TextShowMnemonic, text());
   }
+
+  QtForm& form_;
 };
 
 void SetCaption(QAbstractButton& button, const Control& control, const String& caption, int room) {
@@ -83,7 +81,7 @@ void TellClicks(QtForm& form, QAbstractButton& button) {
 }
 
 QWidget* MakeButton(QtForm& form, Control& control, QWidget& parent) {
-  auto* const button = new ButtonWidget(&parent);
+  auto* const button = new ButtonWidget(form, &parent);
   button->setAutoDefault(false);
   button->setDefault(static_cast<CommandButton&>(control).Default);
   button->setAttribute(Qt::WA_Hover);
@@ -95,10 +93,8 @@ void SyncButton(QtForm& /*form*/, Control& control, QWidget& widget) {
   auto& button = static_cast<CommandButton&>(control);
   auto& shown = static_cast<ButtonWidget&>(widget);
   SetCaption(shown, control, button.Caption, std::max(widget.width() - 2 * kSidePadding, 1));
-  const QColor ground = button.BackColor == kButtonFace ? QColor() : ToQColor(button.BackColor, widget.palette());
-  if (shown.Ground == ground) return;
-  shown.Ground = ground;
-  widget.update();
+  shown.Flat = button.BackColor != kButtonFace;
+  if (shown.Flat) widget.update();
 }
 
 void Check(QAbstractButton& button, bool on) {
@@ -108,41 +104,40 @@ void Check(QAbstractButton& button, bool on) {
 
 constexpr int kIndicatorRoom = 24;
 
-// On a coloured row the platform's text colour may not be readable.
-void SetInk(QWidget& widget, const Control& control) {
-  const QColor ground = GroundOf(control, widget.window()->palette());
-  if (ground == widget.window()->palette().color(QPalette::Window)) return;
+void SetInk(const QtForm& form, QWidget& widget, const Control& control) {
+  const QColor ink = ToQColor(TextOn(GroundOf(control, form.Colours()), form.Colours()));
   QPalette palette = widget.palette();
-  palette.setColor(QPalette::Active, QPalette::WindowText, InkOn(ground));
-  palette.setColor(QPalette::Inactive, QPalette::WindowText, InkOn(ground));
-  if (palette != widget.palette()) widget.setPalette(palette);
+  if (palette.color(QPalette::Active, QPalette::WindowText) == ink) return;
+  palette.setColor(QPalette::Active, QPalette::WindowText, ink);
+  palette.setColor(QPalette::Inactive, QPalette::WindowText, ink);
+  widget.setPalette(palette);
 }
 
-QWidget* MakeOption(QtForm& form, Control& control, QWidget& parent) {
+QWidget* MakeOption(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const option = new QRadioButton(&parent);
   option->setAutoExclusive(false);
-  SetInk(*option, control);
   TellClicks(form, *option);
   return option;
 }
 
-void SyncOption(QtForm& /*form*/, Control& control, QWidget& widget) {
+void SyncOption(QtForm& form, Control& control, QWidget& widget) {
   auto& option = static_cast<OptionButton&>(control);
   auto& shown = static_cast<QRadioButton&>(widget);
+  SetInk(form, widget, control);
   SetCaption(shown, control, option.Caption, std::max(widget.width() - kIndicatorRoom, 1));
   Check(shown, option.Value);
 }
 
-QWidget* MakeCheck(QtForm& form, Control& control, QWidget& parent) {
+QWidget* MakeCheck(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const box = new QCheckBox(&parent);
-  SetInk(*box, control);
   TellClicks(form, *box);
   return box;
 }
 
-void SyncCheck(QtForm& /*form*/, Control& control, QWidget& widget) {
+void SyncCheck(QtForm& form, Control& control, QWidget& widget) {
   auto& box = static_cast<CheckBox&>(control);
   auto& shown = static_cast<QCheckBox&>(widget);
+  SetInk(form, widget, control);
   SetCaption(shown, control, box.Caption, std::max(widget.width() - kIndicatorRoom, 1));
   Check(shown, box.Value != 0);
 }
@@ -156,8 +151,7 @@ void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button&
   tool->setFocusPolicy(Qt::NoFocus);
   tool->setToolTip(Text(button.ToolTip));
   tool->setAccessibleName(Text(button.ToolTip.empty() ? button.Key : button.ToolTip));
-  tool->setIcon(PictureIcon(button.Picture));
-  if (tool->icon().isNull()) tool->setText(Text(button.Key));
+  if (FindPicture(button.Picture) == nullptr) tool->setText(Text(button.Key));
   tool->show();
   form.Watch(*tool, bar);
   QObject::connect(tool, &QToolButton::clicked, &form,
@@ -166,6 +160,14 @@ void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button&
 
 QList<QToolButton*> ToolsOf(const QWidget& widget) {
   return widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+// Drawn for the ground of the platform's buttons, and anew for another one.
+void SetPicture(QToolButton& tool, const String& name, Colour ground) {
+  const QVariant drawn = tool.property("ground");
+  if (drawn.isValid() && drawn.toUInt() == ground) return;
+  tool.setProperty("ground", ground);
+  tool.setIcon(PictureIcon(name, ground));
 }
 
 void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
@@ -182,6 +184,7 @@ void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
     tools[i]->setGeometry(upright ? 0 : i * side, upright ? i * side : 0, side, side);
     tools[i]->setIconSize(QSize(side, side) * 5 / 8);
     tools[i]->setEnabled(bar.Buttons[static_cast<std::size_t>(i)].Enabled);
+    SetPicture(*tools[i], bar.Buttons[static_cast<std::size_t>(i)].Picture, form.Colours().Button);
     // With the keyboard on the bar a ring shows which button it presses.
     const bool ring = bar.Owner.ActiveControl == &bar && i + 1 == bar.Current;
     const QString style = ring ? QStringLiteral("border: 2px solid palette(highlight); border-radius: 3px") : QString();

@@ -32,13 +32,13 @@ QPixmap Translucent(const QPixmap& picture) {
 }
 
 // By its file, or where that is missing by the picture of the same name.
-QPixmap IconOf(const String& path, double ratio) {
-  if (FindPicture(path) != nullptr) return PicturePixmap(path, kIconSide, ratio);
+QPixmap IconOf(const String& path, double ratio, Colour ground) {
+  if (FindPicture(path) != nullptr) return PicturePixmap(path, kIconSide, ratio, ground);
   QString file = Text(path);
   file.replace('\\', '/');
   const QPixmap loaded(file);
   if (!loaded.isNull()) return loaded;
-  return PicturePixmap(Text(QFileInfo(file).baseName().toLower()), kIconSide, ratio);
+  return PicturePixmap(Text(QFileInfo(file).baseName().toLower()), kIconSide, ratio, ground);
 }
 
 }  // namespace
@@ -106,8 +106,9 @@ void QtDrag::Show(QtForm& form) {
 
 QPixmap QtDrag::PictureOf(QtForm& form, const DragSession& drag) {
   const Control& source = *drag.Source();
+  const double ratio = form.Window().devicePixelRatioF();
   if (!drag.Icon().empty()) {
-    const QPixmap icon = IconOf(drag.Icon(), form.Window().devicePixelRatioF());
+    const QPixmap icon = IconOf(drag.Icon(), ratio, form.Colours().Base);
     if (!icon.isNull()) return icon;
   }
   // What the handlers move themselves needs no second picture.

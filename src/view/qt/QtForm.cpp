@@ -35,7 +35,7 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override {
     if (form_.Tree() == nullptr) return;
     QPainter painter(this);
-    PaintChildren(painter, *form_.Tree(), *form_.Tree(), event->rect());
+    PaintChildren(painter, form_, *form_.Tree(), event->rect());
   }
 
  private:
@@ -47,6 +47,19 @@ void SetName(QWidget& widget, const Control& control) {
   if (widget.accessibleName() != name) widget.setAccessibleName(name);
   if (control.DragAutomatic && widget.accessibleDescription().isEmpty()) {
     widget.setAccessibleDescription("Space picks it up, the arrow keys move it, Space drops it, Escape gives up.");
+  }
+}
+
+// By the platform's style.
+bool HasOutline(const Control& control) {
+  switch (control.Type) {
+    case Kind::Label:
+    case Kind::Image:
+    case Kind::Frame:
+    case Kind::Shape:
+    case Kind::PictureBox:
+    case Kind::TabStrip: return false;
+    default: return true;
   }
 }
 
@@ -71,7 +84,8 @@ QtForm::QtForm(Form& form, QtToolkit& toolkit)
     : form_(&form), toolkit_(toolkit), window_(std::make_unique<FormWindow>(*this)) {
   window_->setObjectName(Text(form.Name));
   window_->setFont(BaseFont());
-  window_->setWindowIcon(PictureIcon("window"));
+  window_->setWindowIcon(WindowIcon());
+  TakeColours();
   window_->setFocus();
   Watch(*window_, form);
   SyncWindow();
@@ -156,6 +170,7 @@ void QtForm::SyncPlace(Control& control, QWidget& widget) {
 void QtForm::SyncLook(Control& control, QWidget& widget) {
   if (!HasCaption(control)) SetFullText(widget, control, {}, false);
   SetName(widget, control);
+  if (HasOutline(control)) ShowOutline(widget, colours_);
   SetCursorOf(widget, control);
   if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) widget.setEnabled(control.Enabled);
   if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
@@ -170,6 +185,19 @@ void QtForm::SyncWindow() {
     placed_ = place.topLeft();
     window_->move(QApplication::primaryScreen()->geometry().topLeft() + placed_);
   }
+}
+
+// The application's palette, which a person may change at any time.
+void QtForm::TakeColours() {
+  const QPalette palette = QApplication::palette();
+  colours_ = Readable(ColoursOf(palette));
+  window_->setPalette(WithGrounds(palette, colours_));
+}
+
+void QtForm::PaletteCame(const Control& control) {
+  if (&control != form_) return;
+  TakeColours();
+  for (Control* each : form_->Controls()) SyncControl(*each);
 }
 
 void QtForm::SyncPainted(const Control& control) {

@@ -1,7 +1,7 @@
 // One form on the screen: its window, and a widget for each of its controls, made when the screen first needs them.
 #pragma once
 
-#include "view/Form.h"
+#include "view/Look.h"
 
 #include <QObject>
 #include <QPointer>
@@ -37,6 +37,7 @@ class QtForm : public QObject {
   Form* Tree() const { return form_; }  // null once it is released
   QtToolkit& Tools() const { return toolkit_; }
   QWidget& Window() const { return *window_; }
+  const Palette& Colours() const { return colours_; }  // the platform's, every text readable on its ground
 
   QWidget* WidgetOf(const Control& control) const;
   Control* ControlOf(const QObject* object) const;  // null when the control has gone
@@ -45,7 +46,6 @@ class QtForm : public QObject {
 
   void Sync();  // what the tree has marked
   void SyncControl(Control& control);
-  void SyncAll();
   void FocusTree();  // the keyboard goes to the widget of the tree's active control, or to the bare window
   void Forget(const Control& control);
   void Release();
@@ -66,6 +66,7 @@ class QtForm : public QObject {
   void SyncPlace(Control& control, QWidget& widget);
   void SyncLook(Control& control, QWidget& widget);
   void SyncWindow();
+  void TakeColours();
   void SyncPainted(const Control& control);
   void SyncTimer(Control& control);
   void StopTimer(const Control& control);
@@ -83,10 +84,12 @@ class QtForm : public QObject {
   bool Commit(Control& control, const QString& text);
   bool KeyUp(const QKeyEvent& event);
   void FocusCame(QObject& object, Control& control, int reason);
+  void PaletteCame(const Control& control);
 
   Form* form_;
   QtToolkit& toolkit_;
   std::unique_ptr<QWidget> window_;
+  Palette colours_;
   std::map<const Control*, QPointer<QWidget>> widgets_;
   std::map<const QObject*, Control*> controls_;
   std::map<const Control*, QTimer*> timers_;

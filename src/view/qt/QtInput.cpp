@@ -68,6 +68,7 @@ bool QtForm::eventFilter(QObject* object, QEvent* event) {
     case QEvent::KeyRelease: return KeyUp(*static_cast<QKeyEvent*>(event));
     case QEvent::Shortcut: return Mnemonic(*control, *static_cast<QShortcutEvent*>(event));
     case QEvent::FocusIn: FocusCame(*object, *control, static_cast<QFocusEvent*>(event)->reason()); return false;
+    case QEvent::ApplicationPaletteChange: PaletteCame(*control); return false;
     default: return false;
   }
 }

@@ -30,7 +30,7 @@ class LabelWidget : public QLabel {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     if (Lit) {
-      painter.setBrush(palette().color(QPalette::Highlight));
+      painter.setBrush(Ground);
       painter.drawRoundedRect(rect(), std::min(height() / 2, 6), std::min(height() / 2, 6));
     } else if (Ground.isValid()) {
       painter.fillRect(rect(), Ground);
@@ -44,11 +44,12 @@ class ImageWidget : public QWidget {
  public:
   explicit ImageWidget(QWidget* parent) : QWidget(parent) {}
   String Name;
+  Colour Ground = 0;
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    DrawPicture(painter, Name, QRectF(rect()));
+    DrawPicture(painter, Name, QRectF(rect()), Ground);
   }
 };
 
@@ -66,11 +67,11 @@ class FrameWidget : public QGroupBox {
     painter.setFont(bold);
     const int titleHeight = title().isEmpty() ? 0 : QFontMetrics(bold).height();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Mid).lighter(115));
+    painter.setPen(ToQColor(FrameEdge(form_.Colours())));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), 4, 4);
     if (titleHeight > 0) PaintTitle(painter, titleHeight);
     const Control* const control = form_.ControlOf(this);
-    if (control != nullptr) PaintChildren(painter, control->Owner, *control, event->rect());
+    if (control != nullptr) PaintChildren(painter, form_, *control, event->rect());
   }
 
  private:
@@ -92,14 +93,6 @@ Qt::Alignment AlignmentOf(const Label& label) {
                                : label.Alignment == Align::Right ? Qt::AlignRight
                                                                  : Qt::AlignHCenter;
   return across | (label.WordWrap ? Qt::AlignTop : Qt::AlignVCenter);
-}
-
-QColor InkOf(const Label& label, const QPalette& palette) {
-  const bool plain = label.BackColor == kButtonFace;
-  const QColor ground = plain ? GroundOf(label, palette) : ToQColor(label.BackColor, palette);
-  const bool coloured = ground != palette.color(QPalette::Window);
-  if (IsSystemColour(label.ForeColor) && label.ForeColor != kHighlightText && coloured) return InkOn(ground);
-  return ToQColor(label.ForeColor, palette);
 }
 
 void SetInk(LabelWidget& widget, const QColor& ink) {
@@ -127,11 +120,11 @@ QWidget* MakeLabel(QtForm& /*form*/, Control& /*control*/, QWidget& parent) {
 void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   auto& label = static_cast<Label&>(control);
   auto& shown = static_cast<LabelWidget&>(widget);
-  const bool lit = label.ForeColor == kHighlightText;
+  const LabelLook look = LookOf(label, form.Colours());
   const bool marked = Caption(label.Caption).contains('&') && PlainCaption(label.Caption) != Text(label.Caption);
   const QString text = marked ? Caption(label.Caption) : Text(label.Caption);
   const QString plain = PlainCaption(label.Caption);
-  const int room = std::max(widget.width() - (lit ? 8 : 0), 1);
+  const int room = std::max(widget.width() - (look.Lit ? 8 : 0), 1);
   const QFont base = BaseFont(label.Points, label.Bold);
   const QFont font = label.WordWrap ? base : FittedFont(base, plain, room);
   if (shown.font() != font) shown.setFont(font);
@@ -140,22 +133,23 @@ void SyncLabel(QtForm& form, Control& control, QWidget& widget) {
   SetFullText(widget, control, plain, cut);
   shown.setAlignment(AlignmentOf(label));
   shown.setWordWrap(label.WordWrap);
-  const QColor ground =
-      label.BackColor == kButtonFace ? QColor() : ToQColor(label.BackColor, widget.window()->palette());
-  if (shown.Lit != lit || shown.Ground != ground) widget.update();
-  shown.Lit = lit;
+  const QColor ground = look.Ground ? ToQColor(*look.Ground) : QColor();
+  if (shown.Lit != look.Lit || shown.Ground != ground) widget.update();
+  shown.Lit = look.Lit;
   shown.Ground = ground;
-  SetInk(shown, InkOf(label, widget.window()->palette()));
+  SetInk(shown, ToQColor(look.Ink));
   if (marked) SetBuddy(form, label, shown);
 }
 
 QWidget* MakeImage(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new ImageWidget(&parent); }
 
-void SyncImage(QtForm& /*form*/, Control& control, QWidget& widget) {
+void SyncImage(QtForm& form, Control& control, QWidget& widget) {
   auto& shown = static_cast<ImageWidget&>(widget);
   const auto& image = static_cast<Image&>(control);
-  if (shown.Name == image.Picture()) return;
+  const Colour ground = GroundOf(control, form.Colours());
+  if (shown.Name == image.Picture() && shown.Ground == ground) return;
   shown.Name = image.Picture;
+  shown.Ground = ground;
   widget.update();
 }
 

@@ -100,7 +100,7 @@ void SyncComboBox(QtForm& /*form*/, Control& control, QWidget& widget) {
   SyncRows(static_cast<QComboBox&>(widget), Texts(box.List), box.ListIndex);
 }
 
-void SyncImageCombo(QtForm& /*form*/, Control& control, QWidget& widget) {
+void SyncImageCombo(QtForm& form, Control& control, QWidget& widget) {
   auto& box = static_cast<ImageCombo&>(control);
   auto& combo = static_cast<QComboBox&>(widget);
   const QSignalBlocker quiet(combo);
@@ -110,10 +110,11 @@ void SyncImageCombo(QtForm& /*form*/, Control& control, QWidget& widget) {
   for (int i = 0; i < combo.count(); ++i) {
     const ImageCombo::Item& item = box.Items[static_cast<std::size_t>(i)];
     const bool chosen = i + 1 == box.SelectedItem && !item.SelectedPicture.empty();
-    const QString name = Text(chosen ? item.SelectedPicture : item.Picture);
-    if (combo.itemData(i).toString() == name) continue;
-    combo.setItemData(i, name);
-    combo.setItemIcon(i, PictureIcon(Text(name)));
+    const String& name = chosen ? item.SelectedPicture : item.Picture;
+    const QString drawn = QString("%1 on %2").arg(Text(name)).arg(form.Colours().Base);
+    if (combo.itemData(i).toString() == drawn) continue;
+    combo.setItemData(i, drawn);
+    combo.setItemIcon(i, PictureIcon(name, form.Colours().Base));
   }
 }
 

@@ -44,7 +44,7 @@ void QtToolkit::MessageBox(Form* over, const String& text, int style, const Stri
   const std::shared_ptr<Form> held = over != nullptr ? over->shared_from_this() : nullptr;
   QMessageBox box(IconFor(style), Text(title), Text(text), QMessageBox::Ok);
   box.setTextFormat(Qt::PlainText);
-  box.setWindowIcon(PictureIcon("window"));
+  box.setWindowIcon(WindowIcon());
   box.setWindowModality(Qt::ApplicationModal);
   if (shown != nullptr && over->Visible) PutOver(box, *shown);
   if (AutoAnswer)

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
@@ -13,16 +14,16 @@ namespace Tarnwise {
 
 namespace {
 
-const QColor kDarkInk(31, 41, 55);
+constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
 
-QColor PictureColour(Colour colour) {
-  return QColor(static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
-                static_cast<int>((colour >> 16U) & 0xFFU));
+Colour ColourOf(const QColor& colour) {
+  return static_cast<Colour>(colour.red()) | (static_cast<Colour>(colour.green()) << 8U) |
+         (static_cast<Colour>(colour.blue()) << 16U);
 }
 
-void DrawShape(QPainter& painter, const PictureShape& shape) {
-  painter.setBrush(shape.Fill ? QBrush(PictureColour(*shape.Fill)) : QBrush(Qt::NoBrush));
-  painter.setPen(shape.Stroke ? QPen(PictureColour(*shape.Stroke), static_cast<double>(shape.StrokeWidth),
+void DrawShape(QPainter& painter, const PictureShape& shape, Colour ground) {
+  painter.setBrush(shape.Fill ? QBrush(ToQColor(MarkOn(*shape.Fill, ground))) : QBrush(Qt::NoBrush));
+  painter.setPen(shape.Stroke ? QPen(ToQColor(MarkOn(*shape.Stroke, ground)), static_cast<double>(shape.StrokeWidth),
                                      Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
                               : QPen(Qt::NoPen));
   QPolygonF points;
@@ -52,27 +53,42 @@ QRect PixelPlace(const Control& control) {
   return {left, top, edge(control.Left + control.Width) - left, edge(control.Top + control.Height) - top};
 }
 
-bool IsSystemColour(Colour colour) { return (colour & 0x80000000U) != 0; }
-
-QColor ToQColor(Colour colour, const QPalette& palette) {
-  switch (colour) {
-    case kWindowBackground: return palette.color(QPalette::Base);
-    case kWindowText: return palette.color(QPalette::Text);
-    case kHighlightText: return palette.color(QPalette::HighlightedText);
-    case kButtonFace: return palette.color(QPalette::Window);
-    case kButtonText: return palette.color(QPalette::WindowText);
-    default: return PictureColour(colour);
-  }
+QColor ToQColor(Colour colour) {
+  return QColor(static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
+                static_cast<int>((colour >> 16U) & 0xFFU));
 }
 
-QColor InkOn(const QColor& ground) { return qGray(ground.rgb()) > 120 ? kDarkInk : QColor(Qt::white); }
+Palette ColoursOf(const QPalette& palette) {
+  const auto of = [&palette](QPalette::ColorRole role) { return ColourOf(palette.color(QPalette::Active, role)); };
+  return {of(QPalette::Window), of(QPalette::WindowText), of(QPalette::Base),      of(QPalette::Text),
+          of(QPalette::Button), of(QPalette::ButtonText), of(QPalette::Highlight), of(QPalette::HighlightedText)};
+}
 
-QColor GroundOf(const Control& control, const QPalette& palette) {
-  for (const Control* around = control.Parent; around != nullptr; around = around->Parent) {
-    if (around->Type != Kind::PictureBox) continue;
-    return ToQColor(static_cast<const PictureBox*>(around)->BackColor, palette);
-  }
-  return palette.color(QPalette::Window);
+QPalette WithGrounds(QPalette palette, const Palette& colours) {
+  const auto set = [&palette](QPalette::ColorRole role, Colour colour) {
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+      if (ColourOf(palette.color(group, role)) != colour) palette.setColor(group, role, ToQColor(colour));
+    }
+  };
+  set(QPalette::Window, colours.Window);
+  set(QPalette::Base, colours.Base);
+  set(QPalette::Button, colours.Button);
+  set(QPalette::Highlight, colours.Highlight);
+  const QColor other = palette.color(QPalette::Active, QPalette::AlternateBase);
+  if (Contrast(ColourOf(other), colours.Text) < kReadable) set(QPalette::AlternateBase, colours.Base);
+  return palette;
+}
+
+void ShowOutline(QWidget& widget, const Palette& colours) {
+  constexpr int kStylesDarken = 140;  // percent
+  constexpr double kClear = 3.0;
+  const Colour edge = BoxEdge(colours);
+  const bool helps = IsDark(colours.Window) || Contrast(edge, colours.Window) > kClear;
+  const QColor wanted = helps ? ToQColor(edge).lighter(kStylesDarken) : ToQColor(colours.Window);
+  QPalette palette = widget.palette();
+  if (palette.color(QPalette::Active, QPalette::Window) == wanted) return;
+  palette.setColor(QPalette::Window, wanted);
+  widget.setPalette(palette);
 }
 
 QFont BaseFont(int points, bool bold) {
@@ -91,7 +107,7 @@ QFont FittedFont(const QFont& font, const QString& text, int width) {
   return fitted;
 }
 
-void DrawPicture(QPainter& painter, const String& name, const QRectF& place) {
+void DrawPicture(QPainter& painter, const String& name, const QRectF& place, Colour ground) {
   const Picture* const picture = FindPicture(name);
   if (picture == nullptr || place.isEmpty()) return;
   const auto width = static_cast<double>(picture->Width);
@@ -101,25 +117,31 @@ void DrawPicture(QPainter& painter, const String& name, const QRectF& place) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(place.center() - QPointF(width, height) * scale / 2.0);
   painter.scale(scale, scale);
-  for (const PictureShape& shape : picture->Shapes) DrawShape(painter, shape);
+  for (const PictureShape& shape : picture->Shapes) DrawShape(painter, shape, ground);
   painter.restore();
 }
 
-QPixmap PicturePixmap(const String& name, int size, double ratio) {
+QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity) {
   QPixmap pixmap((QSizeF(size, size) * ratio).toSize());
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
-  DrawPicture(painter, name, QRectF(0, 0, size, size));
+  painter.setOpacity(opacity / 100.0);
+  DrawPicture(painter, name, QRectF(0, 0, size, size), ground);
   return pixmap;
 }
 
-QIcon PictureIcon(const String& name) {
+QIcon PictureIcon(const String& name, Colour ground) {
   QIcon icon;
   if (FindPicture(name) == nullptr) return icon;
-  for (const int size : {16, 20, 24, 32, 40, 48, 64}) icon.addPixmap(PicturePixmap(name, size, 1.0));
+  for (const int size : {16, 20, 24, 32, 40, 48, 64}) {
+    icon.addPixmap(PicturePixmap(name, size, 1.0, ground));
+    icon.addPixmap(PicturePixmap(name, size, 1.0, ground, kDisabledOpacity), QIcon::Disabled);
+  }
   return icon;
 }
+
+QIcon WindowIcon() { return PictureIcon("window", kAsDrawn); }
 
 Qt::CursorShape CursorFor(int mousePointer) {
   switch (mousePointer) {

@@ -1,7 +1,7 @@
 // How the tree's lengths, colours and pictures look in Qt.
 #pragma once
 
-#include "view/Controls.h"
+#include "view/Look.h"
 
 #include <QColor>
 #include <QCursor>
@@ -24,19 +24,24 @@ QString PlainCaption(const String& caption);  // without marks, for what is read
 double PixelsPerUnit(const Control& container);  // logical pixels in a unit of its scale
 QRect PixelPlace(const Control& control);        // in its container, edges on whole pixels
 
-bool IsSystemColour(Colour colour);
-QColor ToQColor(Colour colour, const QPalette& palette);
-QColor InkOn(const QColor& ground);  // a text colour that can be read on it
-// What a control stands on: the next coloured box around it, else the window's colour.
-QColor GroundOf(const Control& control, const QPalette& palette);
+QColor ToQColor(Colour colour);  // a number, not one of the platform's names
+Palette ColoursOf(const QPalette& palette);
+// The palette with the grounds of those colours, so that Qt's own widgets show them.
+QPalette WithGrounds(QPalette palette, const Palette& colours);
+
+// Styles make the outlines of their widgets by darkening the window's colour: of one that is dark already, where there
+// is nothing to see then, the widget gets a lighter one.
+void ShowOutline(QWidget& widget, const Palette& colours);
 
 QFont BaseFont(int points = 9, bool bold = false);
 // The font, a little narrower where the text would not fit the width otherwise.
 QFont FittedFont(const QFont& font, const QString& text, int width);
 
-void DrawPicture(QPainter& painter, const String& name, const QRectF& place);
-QPixmap PicturePixmap(const String& name, int size, double ratio);
-QIcon PictureIcon(const String& name);
+// Pictures in colours for the ground that they stand on.
+void DrawPicture(QPainter& painter, const String& name, const QRectF& place, Colour ground);
+QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity = 100);
+QIcon PictureIcon(const String& name, Colour ground);
+QIcon WindowIcon();  // has a ground of its own
 
 Qt::CursorShape CursorFor(int mousePointer);
 

@@ -22,7 +22,7 @@ constexpr double kSlantedLine = 1.6;   // pixels
 // The frame of a bordered box stands in front of whatever the box contains.
 class BorderWidget : public QWidget {
  public:
-  explicit BorderWidget(QWidget* parent) : QWidget(parent) {
+  BorderWidget(QtForm& form, QWidget* parent) : QWidget(parent), form_(form) {
     setObjectName("border");
     setAttribute(Qt::WA_TransparentForMouseEvents);
   }
@@ -30,7 +30,7 @@ class BorderWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    const QColor colour = palette().color(QPalette::Mid);
+    const QColor colour = ToQColor(BoxEdge(form_.Colours()));
     // Filled, not stroked: a line may fall between the pixels where the screen's scale is no whole number.
     painter.fillRect(0, 0, width(), 1, colour);
     painter.fillRect(0, height() - 1, width(), 1, colour);
@@ -40,6 +40,9 @@ class BorderWidget : public QWidget {
   void resizeEvent(QResizeEvent* /*event*/) override {
     setMask(QRegion(rect()).subtracted(QRegion(rect().adjusted(2, 2, -2, -2))));
   }
+
+ private:
+  QtForm& form_;
 };
 
 BorderWidget* BorderOf(const QWidget& box) {
@@ -54,13 +57,11 @@ void DrawLine(QPainter& painter, const QPointF& from, const QPointF& to, const Q
   painter.drawLine(from, to);
 }
 
-void DrawShapeControl(QPainter& painter, const Shape& shape, const QRectF& place, const QPalette& palette) {
+void DrawShapeControl(QPainter& painter, const Shape& shape, const QRectF& place, const Palette& palette) {
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor fill = ToQColor(shape.FillColor, palette);
-  QColor edge = ToQColor(shape.BorderColor, palette);
-  edge.setAlphaF(0.55F);
-  painter.setBrush(fill);
-  painter.setPen(QPen(edge, 1.0));
+  const ShapeLook look = LookOf(shape, palette);
+  painter.setBrush(ToQColor(look.Fill));
+  painter.setPen(QPen(ToQColor(look.Edge), 1.0));
   const QRectF body = place.adjusted(0.75, 0.75, -0.75, -0.75);
   if (shape.Round)
     painter.drawEllipse(body);
@@ -72,18 +73,17 @@ QPointF EndOf(Single x, Single y, double unit) {
   return {static_cast<double>(x) * unit, static_cast<double>(y) * unit};
 }
 
-void PaintLine(QPainter& painter, const Line& line, const QPalette& palette) {
+void PaintLine(QPainter& painter, const Line& line, const Palette& palette) {
   const double unit = PixelsPerUnit(*line.Parent);
-  DrawLine(painter, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), ToQColor(line.BorderColor, palette),
-           1.0);
+  DrawLine(painter, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), ToQColor(InkOf(line, palette)), 1.0);
 }
 
-void PaintDrawn(QPainter& painter, const Drawn& drawn, double unit, const QPalette& palette) {
+void PaintDrawn(QPainter& painter, const Drawn& drawn, double unit, Colour ground) {
   QPolygonF points;
   for (std::size_t i = 0; i + 1 < drawn.Points.size(); i += 2) {
     points << EndOf(drawn.Points[i], drawn.Points[i + 1], unit);
   }
-  const QColor ink = ToQColor(drawn.Ink, palette);
+  const QColor ink = ToQColor(InkOf(drawn, ground));
   if (drawn.Shape == Drawn::What::Polygon) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -99,12 +99,12 @@ void PaintDrawn(QPainter& painter, const Drawn& drawn, double unit, const QPalet
   }
 }
 
-void SyncPictureBox(QtForm& /*form*/, Control& control, QWidget& widget) {
+void SyncPictureBox(QtForm& form, Control& control, QWidget& widget) {
   const bool bordered = static_cast<PictureBox&>(control).Bordered && !IsHandle(control);
   BorderWidget* const border = BorderOf(widget);
   if (border != nullptr) border->setVisible(bordered);
   if (border == nullptr && bordered) {
-    auto* const fresh = new BorderWidget(&widget);
+    auto* const fresh = new BorderWidget(form, &widget);
     fresh->setGeometry(widget.rect());
     fresh->show();
   }
@@ -136,16 +136,13 @@ QRect PaintedPlace(const Control& control) {
   return between.normalized().adjusted(-2, -2, 2, 2).toAlignedRect();
 }
 
-void PaintChildren(QPainter& painter, const Form& form, const Control& container, const QRect& area) {
-  const QPalette palette = painter.device()->devType() == QInternal::Widget
-                               ? static_cast<QWidget*>(painter.device())->palette()
-                               : QPalette();
-  for (const Control* control : ChildrenOf(form, &container)) {
+void PaintChildren(QPainter& painter, const QtForm& form, const Control& container, const QRect& area) {
+  for (const Control* control : ChildrenOf(container.Owner, &container)) {
     if (!IsPainted(*control) || !control->Visible || !PaintedPlace(*control).intersects(area)) continue;
     if (control->Type == Kind::Line)
-      PaintLine(painter, static_cast<const Line&>(*control), palette);
+      PaintLine(painter, static_cast<const Line&>(*control), form.Colours());
     else
-      DrawShapeControl(painter, static_cast<const Shape&>(*control), QRectF(PixelPlace(*control)), palette);
+      DrawShapeControl(painter, static_cast<const Shape&>(*control), QRectF(PixelPlace(*control)), form.Colours());
   }
 }
 
@@ -164,16 +161,16 @@ void QtBox::paintEvent(QPaintEvent* event) {
   } else if (IsHandle(*control)) {
     PaintHandle(painter, static_cast<const PictureBox*>(control)->BackColor, true);
   } else {
-    PaintBox(painter, *control);
-    PaintChildren(painter, control->Owner, *control, event->rect());
+    PaintBox(painter, static_cast<const PictureBox&>(*control));
+    PaintChildren(painter, form_, *control, event->rect());
   }
 }
 
-void QtBox::PaintBox(QPainter& painter, const Control& control) {
-  const auto& box = static_cast<const PictureBox&>(control);
-  painter.fillRect(rect(), ToQColor(box.BackColor, palette()));
-  DrawPicture(painter, box.Picture, QRectF(rect()).adjusted(6, 6, -6, -6));
-  for (const Drawn& drawn : box.Drawing) PaintDrawn(painter, drawn, PixelsPerUnit(box), palette());
+void QtBox::PaintBox(QPainter& painter, const PictureBox& box) {
+  const Colour ground = FillOf(box, form_.Colours());
+  painter.fillRect(rect(), ToQColor(ground));
+  DrawPicture(painter, box.Picture, QRectF(rect()).adjusted(6, 6, -6, -6), ground);
+  for (const Drawn& drawn : box.Drawing) PaintDrawn(painter, drawn, PixelsPerUnit(box), ground);
   if (hasFocus() && box.DragAutomatic) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
@@ -183,16 +180,17 @@ void QtBox::PaintBox(QPainter& painter, const Control& control) {
 
 void QtBox::PaintHandle(QPainter& painter, Colour colour, bool round) {
   const Control& control = *Source();
+  const Colour ground = GroundOf(control, form_.Colours());
   painter.setRenderHint(QPainter::Antialiasing);
   const QPointF middle = QRectF(rect()).center();
   const double own = std::min(rect().width(), rect().height()) / 2.0 - kGrabMargin;
   const double radius = std::max(own, kHandleRadius) - (underMouse() ? 0.0 : 0.5);
   if (control.Type == Kind::PictureBox && !static_cast<const PictureBox&>(control).Picture().empty()) {
-    DrawPicture(painter, static_cast<const PictureBox&>(control).Picture,
-                QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+    DrawPicture(painter, static_cast<const PictureBox&>(control).Picture, QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5),
+                ground);
   } else {
-    painter.setBrush(ToQColor(colour, palette()));
-    painter.setPen(QPen(Qt::white, 1.5));
+    painter.setBrush(ToQColor(MarkOn(colour, ground)));
+    painter.setPen(QPen(ToQColor(ground), 1.5));
     const QRectF body(middle - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
     if (round)
       painter.drawEllipse(body);

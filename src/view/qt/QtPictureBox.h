@@ -29,13 +29,13 @@ class QtBox : public QWidget {
 
  private:
   void PaintHandle(QPainter& painter, Colour colour, bool round);
-  void PaintBox(QPainter& painter, const Control& control);
+  void PaintBox(QPainter& painter, const PictureBox& box);
 
   QtForm& form_;
 };
 
 // Lines and shapes of a container, back to front.
-void PaintChildren(QPainter& painter, const Form& form, const Control& container, const QRect& area);
+void PaintChildren(QPainter& painter, const QtForm& form, const Control& container, const QRect& area);
 QRect PaintedPlace(const Control& control);  // of a line or a shape in its container
 
 }  // namespace Tarnwise

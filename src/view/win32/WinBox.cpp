@@ -27,6 +27,7 @@ struct Onto {
   Canvas& To;
   RECT Area;
   double Scale;  // device pixels in a pixel of the design
+  const Palette& Colours;
 
   double X(double pixel) const { return (pixel - Area.left) * To.Fine(); }
   double Y(double pixel) const { return (pixel - Area.top) * To.Fine(); }
@@ -81,14 +82,14 @@ void DrawRegion(const Onto& onto, const Drawn& drawn, double unit) {
     const Spot spot = EndOf(drawn.Points[i], drawn.Points[i + 1], unit);
     points.push_back({static_cast<LONG>(std::lround(onto.X(spot.X))), static_cast<LONG>(std::lround(onto.Y(spot.Y)))});
   }
-  const Brush brush(CreateSolidBrush(ToColorRef(drawn.Ink)));
+  const Brush brush(CreateSolidBrush(drawn.Ink));
   const Selected withBrush(onto.To.Dc(), brush.get());
   const Selected withPen(onto.To.Dc(), GetStockObject(NULL_PEN));
   SetPolyFillMode(onto.To.Dc(), WINDING);
   Polygon(onto.To.Dc(), points.data(), static_cast<int>(points.size()));
 }
 
-void PaintDrawn(const Onto& onto, const Drawn& drawn, double unit) {
+void PaintDrawn(const Onto& onto, const Drawn& drawn, double unit, Colour ground) {
   if (drawn.Shape == Drawn::What::Polygon) {
     DrawRegion(onto, drawn, unit);
     return;
@@ -96,7 +97,7 @@ void PaintDrawn(const Onto& onto, const Drawn& drawn, double unit) {
   if (drawn.Points.size() < 4) return;
   const Spot from = EndOf(drawn.Points[0], drawn.Points[1], unit);
   const Spot to = EndOf(drawn.Points[2], drawn.Points[3], unit);
-  const COLORREF ink = ToColorRef(drawn.Ink);
+  const COLORREF ink = InkOf(drawn, ground);
   if (drawn.Shape == Drawn::What::Line) {
     DrawLine(onto, from, to, ink, drawn.LineWidth);
     return;
@@ -125,10 +126,10 @@ void DrawBody(const Onto& onto, double left, double top, double right, double bo
 
 void PaintShape(const Onto& onto, const Shape& shape) {
   const RECT place = PixelPlace(shape, onto.Scale);
-  const COLORREF fill = ToColorRef(shape.FillColor);
+  const ShapeLook look = LookOf(shape, onto.Colours);
   const double inset = 0.75 * onto.Scale;
-  DrawBody(onto, place.left + inset, place.top + inset, place.right - inset, place.bottom - inset, shape.Round, fill,
-           Blend(fill, ToColorRef(shape.BorderColor), 55), 1.0);
+  DrawBody(onto, place.left + inset, place.top + inset, place.right - inset, place.bottom - inset, shape.Round,
+           look.Fill, look.Edge, 1.0);
 }
 
 void PaintChildren(const Onto& onto, const Control& container) {
@@ -140,7 +141,7 @@ void PaintChildren(const Onto& onto, const Control& container) {
     if (control->Type == Kind::Line) {
       const auto& line = static_cast<const Line&>(*control);
       const double unit = PixelsPerUnit(container, onto.Scale);
-      DrawLine(onto, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), ToColorRef(line.BorderColor), 1.0);
+      DrawLine(onto, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), InkOf(line, onto.Colours), 1.0);
     } else {
       PaintShape(onto, static_cast<const Shape&>(*control));
     }
@@ -149,13 +150,13 @@ void PaintChildren(const Onto& onto, const Control& container) {
 
 void PaintFrameLine(const Onto& onto, const Frame& frame, const RECT& client) {
   const int title = frame.Caption().empty() ? 0 : Scaled(16, onto.Scale);
-  const COLORREF face = ToColorRef(kButtonFace);
   DrawBody(onto, client.left + 0.5, client.top + title / 2.0 + 0.5, client.right - 0.5, client.bottom - 0.5, false,
-           face, Blend(face, RGB(0, 0, 0), 20), 1.0);
+           onto.Colours.Window, FrameEdge(onto.Colours), 1.0);
 }
 
-void PaintFrameTitle(HDC dc, const Frame& frame, HWND window, double scale) {
+void PaintFrameTitle(HDC dc, const Frame& frame, HWND window, const WinForm& form) {
   if (frame.Caption().empty()) return;
+  const double scale = form.Scale();
   RECT client{};
   GetClientRect(window, &client);
   const std::wstring title = Wide(MarkedCaption(frame.Caption));
@@ -164,9 +165,9 @@ void PaintFrameTitle(HDC dc, const Frame& frame, HWND window, double scale) {
   const RECT room = place;
   DrawTextW(dc, title.c_str(), -1, &place, DT_CALCRECT | DT_SINGLELINE | DT_LEFT);
   RECT behind{place.left - Scaled(4, scale), 0, std::min(place.right + Scaled(4, scale), room.right), room.bottom};
-  FillArea(dc, behind, ToColorRef(kButtonFace));
+  FillArea(dc, behind, form.Colours().Window);
   SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, ToColorRef(kButtonText));
+  SetTextColor(dc, form.Colours().WindowText);
   place = room;
   DrawTextW(dc, title.c_str(), -1, &place, DT_SINGLELINE | DT_LEFT | DT_VCENTER | DT_END_ELLIPSIS);
 }
@@ -205,21 +206,22 @@ void PaintHandle(const Onto& onto, const Control& control, const RECT& client, b
   const bool round = !isShape || static_cast<const Shape&>(control).Round;
   const Colour colour =
       isShape ? static_cast<const Shape&>(control).FillColor : static_cast<const PictureBox&>(control).BackColor;
+  const Colour ground = GroundOf(control, onto.Colours);
   const double middleX = (client.left + client.right) / 2.0;
   const double middleY = (client.top + client.bottom) / 2.0;
   const double side = std::min(WidthOf(client), HeightOf(client)) / 2.0;
   if (!picture.empty()) {
     const int fine = onto.To.Fine();
     const RECT place{fine, fine, (WidthOf(client) - 1) * fine, (HeightOf(client) - 1) * fine};
-    DrawPicture(onto.To.Dc(), picture, place);
+    DrawPicture(onto.To.Dc(), picture, place, ground);
   } else {
     const double radius = std::max(side - kGrabMargin * onto.Scale, kHandleRadius * onto.Scale);
-    DrawBody(onto, middleX - radius, middleY - radius, middleX + radius, middleY + radius, round, ToColorRef(colour),
-             RGB(255, 255, 255), 1.5);
+    DrawBody(onto, middleX - radius, middleY - radius, middleX + radius, middleY + radius, round,
+             MarkOn(colour, ground), ground, 1.5);
   }
   if (!focused) return;
   const double ring = side - onto.Scale;
-  const Pen pen = RoundPen(GetSysColor(COLOR_HIGHLIGHT), onto.Width(2.0));
+  const Pen pen = RoundPen(onto.Colours.Highlight, onto.Width(2.0));
   const Selected withPen(onto.To.Dc(), pen.get());
   const Selected withBrush(onto.To.Dc(), GetStockObject(NULL_BRUSH));
   const auto at = [](double value) { return static_cast<int>(std::lround(value)); };
@@ -256,8 +258,6 @@ bool IsOpaque(const Control& control) {
 }
 
 }  // namespace
-
-COLORREF BorderColour() { return Blend(ToColorRef(kButtonFace), RGB(0, 0, 0), 28); }
 
 bool IsHandle(const Control& control) {
   if (!control.DragAutomatic || (control.Type != Kind::PictureBox && control.Type != Kind::Shape)) return false;
@@ -300,9 +300,10 @@ int FineFor(const Control& container) {
 }
 
 void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area) {
-  const Onto onto{canvas, area, form.Scale()};
+  const Onto onto{canvas, area, form.Scale(), form.Colours()};
   const bool isBox = container.Type == Kind::PictureBox;
-  canvas.Fill(ToColorRef(isBox ? static_cast<const PictureBox&>(container).BackColor() : kButtonFace));
+  const Colour ground = FillOf(container, form.Colours());
+  canvas.Fill(ground);
   RECT client{};
   GetClientRect(form.WindowOf(container), &client);
   if (isBox) {
@@ -310,8 +311,9 @@ void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, 
     const int margin = Scaled(kPictureMargin, form.Scale());
     const auto x = [&onto](int pixel) { return static_cast<LONG>(onto.X(pixel)); };
     const auto y = [&onto](int pixel) { return static_cast<LONG>(onto.Y(pixel)); };
-    DrawPicture(canvas.Dc(), box.Picture, {x(margin), y(margin), x(client.right - margin), y(client.bottom - margin)});
-    for (const Drawn& drawn : box.Drawing) PaintDrawn(onto, drawn, PixelsPerUnit(box, form.Scale()));
+    DrawPicture(canvas.Dc(), box.Picture, {x(margin), y(margin), x(client.right - margin), y(client.bottom - margin)},
+                ground);
+    for (const Drawn& drawn : box.Drawing) PaintDrawn(onto, drawn, PixelsPerUnit(box, form.Scale()), ground);
   }
   if (container.Type == Kind::Frame) PaintFrameLine(onto, static_cast<const Frame&>(container), client);
   PaintChildren(onto, container);
@@ -331,7 +333,7 @@ void PaintBoxWindow(WinForm& form, Control& control, HWND window) {
     Canvas canvas(WidthOf(area), HeightOf(area), FineFor(control));
     PaintGround(canvas, form, control, area);
     canvas.PutOnto(dc, area.left, area.top);
-    if (control.Type == Kind::Frame) PaintFrameTitle(dc, static_cast<Frame&>(control), window, form.Scale());
+    if (control.Type == Kind::Frame) PaintFrameTitle(dc, static_cast<Frame&>(control), window, form);
   } else if (WidthOf(area) > 0 && HeightOf(area) > 0) {
     RECT client{};
     GetClientRect(window, &client);
@@ -339,9 +341,9 @@ void PaintBoxWindow(WinForm& form, Control& control, HWND window) {
     PaintGround(canvas, form, *control.Parent, AreaBehind(control, form, client));
     if (control.Type == Kind::Image) {
       DrawPicture(canvas.Dc(), static_cast<Image&>(control).Picture,
-                  {0, 0, client.right * kSmooth, client.bottom * kSmooth});
+                  {0, 0, client.right * kSmooth, client.bottom * kSmooth}, GroundOf(control, form.Colours()));
     } else {
-      PaintHandle({canvas, client, form.Scale()}, control, client, GetFocus() == window);
+      PaintHandle({canvas, client, form.Scale(), form.Colours()}, control, client, GetFocus() == window);
     }
     canvas.PutOnto(dc, 0, 0);
   }

@@ -53,10 +53,8 @@ void SyncButton(WinForm& form, Control& control, HWND window) {
 // A button that the form gives a colour of its own.
 void DrawButton(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
   const auto& button = static_cast<const CommandButton&>(control);
-  const COLORREF ground = ToColorRef(button.BackColor);
-  const bool enabled = (item.itemState & ODS_DISABLED) == 0;
-  const bool down = (item.itemState & ODS_SELECTED) != 0;
-  const COLORREF face = !enabled ? Blend(ground, RGB(238, 238, 238), 70) : down ? Blend(ground, 0, 12) : ground;
+  const ButtonLook look = LookOf(button, form.Colours(), (item.itemState & ODS_DISABLED) == 0,
+                                 (item.itemState & ODS_SELECTED) != 0 ? Pressed::Down : Pressed::No);
   const RECT& client = item.rcItem;
   {
     Canvas canvas(WidthOf(client), HeightOf(client), kSmooth);
@@ -66,8 +64,8 @@ void DrawButton(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
     const bool focused = GetFocus() == item.hwndItem;
     const double scale = form.Scale() * kSmooth;
     const int inset = Scaled(1, scale);
-    const Brush brush(CreateSolidBrush(face));
-    const LOGBRUSH ink{BS_SOLID, focused ? GetSysColor(COLOR_HIGHLIGHT) : Blend(face, 0, enabled ? 26 : 10), 0};
+    const Brush brush(CreateSolidBrush(look.Face));
+    const LOGBRUSH ink{BS_SOLID, focused ? form.Colours().Highlight : look.Edge, 0};
     const Pen pen(
         ExtCreatePen(PS_GEOMETRIC | PS_SOLID, static_cast<DWORD>(Scaled(focused ? 2 : 1, scale)), &ink, 0, nullptr));
     const Selected withBrush(canvas.Dc(), brush.get());
@@ -80,7 +78,7 @@ void DrawButton(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
   InflateRect(&room, -Scaled(kSidePadding, form.Scale()), 0);
   const Selected font(item.hDC, reinterpret_cast<HFONT>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0)));
   SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, enabled ? InkOn(face) : Blend(InkOn(face), face, 50));
+  SetTextColor(item.hDC, look.Ink);
   const std::wstring text = Wide(MarkedCaption(button.Caption));
   DrawTextW(item.hDC, text.c_str(), -1, &room, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 }

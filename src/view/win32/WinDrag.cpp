@@ -43,12 +43,12 @@ String BaseNameOf(const String& path) {
 }
 
 // By its file, or where that is missing by the picture of the same name. The caller destroys it.
-HICON IconOf(const String& path, int side) {
-  if (FindPicture(path) != nullptr) return MakePictureIcon(path, side);
+HICON IconOf(const String& path, int side, Colour ground) {
+  if (FindPicture(path) != nullptr) return MakePictureIcon(path, side, ground);
   std::wstring file = Wide(path);
   std::replace(file.begin(), file.end(), L'/', L'\\');
   const HANDLE loaded = LoadImageW(nullptr, file.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
-  return loaded != nullptr ? static_cast<HICON>(loaded) : MakePictureIcon(BaseNameOf(path), side);
+  return loaded != nullptr ? static_cast<HICON>(loaded) : MakePictureIcon(BaseNameOf(path), side, ground);
 }
 
 // What the window shows, as a bitmap without see-through parts.
@@ -146,9 +146,9 @@ void WinDrag::MakeGhost(WinForm& form, const DragSession& drag) {
   if (!marked) GetClientRect(window, &place);
   ghostSize_ = {WidthOf(place), HeightOf(place)};
   Canvas canvas(ghostSize_.cx, ghostSize_.cy, 1);
-  canvas.Fill(ToColorRef(kWindowBackground));
+  canvas.Fill(form.Colours().Base);
   if (marked) {
-    const HICON icon = IconOf(drag.Icon(), side);
+    const HICON icon = IconOf(drag.Icon(), side, form.Colours().Base);
     DrawIconEx(canvas.Dc(), 0, 0, icon, side, side, 0, nullptr, DI_NORMAL);
     if (icon != nullptr) DestroyIcon(icon);
   } else {
@@ -159,7 +159,7 @@ void WinDrag::MakeGhost(WinForm& form, const DragSession& drag) {
                            OwnModule(), nullptr);
   BLENDFUNCTION blend{AC_SRC_OVER, 0, kOpacity, 0};
   POINT origin{0, 0};
-  const COLORREF behind = marked ? ToColorRef(kWindowBackground) : CLR_INVALID;
+  const COLORREF behind = marked ? form.Colours().Base : CLR_INVALID;
   UpdateLayeredWindow(ghost_, nullptr, nullptr, &ghostSize_, canvas.Dc(), &origin, marked ? behind : 0, &blend,
                       marked ? ULW_COLORKEY | ULW_ALPHA : ULW_ALPHA);
 }

@@ -147,7 +147,9 @@ void WinForm::SetTip(HWND window, const std::wstring& text) {
   if (!shown.empty()) SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
-void WinForm::KeepImages(HWND window, Images images) { images_[window] = std::move(images); }
+void WinForm::KeepImages(HWND window, Images images, Images disabled) {
+  images_[window] = {std::move(images), std::move(disabled)};
+}
 
 void WinForm::Show(Showing how, HWND behind) {
   MakeWindow();
@@ -172,6 +174,7 @@ void WinForm::Make(Control& control) {
   if (window == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
   windows_[&control] = window;
   Watch(window, control);
+  UseFittingStyle(window, colours_);
   SyncPlace(control, window);
   kind->Sync(*this, control, window);
   SyncLook(control, window);
@@ -317,6 +320,18 @@ void WinForm::Rescale(double scale) {
   SyncFormWindow();
   for (Control* control : form_->Controls()) SyncControl(*control);
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+// The person has chosen other colours. Windows tells the form alone.
+void WinForm::Recolour() {
+  if (form_ == nullptr) return;
+  colours_ = SystemColours();
+  for (const auto& [control, window] : windows_) {
+    UseFittingStyle(window, colours_);
+    SendMessageW(window, WM_SYSCOLORCHANGE, 0, 0);
+  }
+  for (Control* control : form_->Controls()) SyncControl(*control);
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void WinForm::Forget(const Control& control) {

@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace Tarnwise {
@@ -48,6 +49,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   WinToolkit& Tools() const { return toolkit_; }
   HWND Window() const { return window_; }
   double Scale() const { return scale_; }  // device pixels in a pixel of 96 to the inch
+  const Palette& Colours() const { return colours_; }
 
   HWND WindowOf(const Control& control) const;
   Control* ControlOf(HWND window) const;  // null when the control has gone
@@ -58,7 +60,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   void SetTip(HWND window, const std::wstring& text);
 
   // The pictures that a toolbar or a combo shows, kept for as long as it lives.
-  void KeepImages(HWND window, Images images);
+  void KeepImages(HWND window, Images images, Images disabled = nullptr);
 
   void Show(Showing how, HWND behind);  // `behind`: where it is blocked, the window that stays in front of it
   void Sync();                          // what the tree has marked
@@ -81,6 +83,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   void StopTimer(const Control& control);
   void Restack(const Control& container);
   void Rescale(double scale);
+  void Recolour();
   void Lost(HWND window);
 
   std::optional<LRESULT> Mouse(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
@@ -114,6 +117,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   HWND window_ = nullptr;
   HWND tips_ = nullptr;
   double scale_ = 1.0;
+  Palette colours_ = SystemColours();
   std::map<const Control*, HWND> windows_;
   std::map<HWND, Control*> controls_;
   std::map<const Control*, UINT_PTR> timers_;
@@ -122,7 +126,7 @@ class WinForm : public std::enable_shared_from_this<WinForm> {
   std::vector<const Control*> restack_;     // containers whose children changed their order
   std::map<COLORREF, Brush> brushes_;
   std::map<HWND, std::wstring> tipTexts_;
-  std::map<HWND, Images> images_;
+  std::map<HWND, std::pair<Images, Images>> images_;
   POINT placed_{};      // where the tree last wanted the window
   bool moved_ = false;  // it has wanted it somewhere
   WinPress press_;

@@ -35,23 +35,25 @@ std::wstring CellText(HWND window, int row, int col) {
   return text;
 }
 
-void SetColumn(HWND window, int col, std::wstring heading, bool insert) {
+void InsertColumn(HWND window, int col) {
   LVCOLUMNW column{};
-  column.mask = LVCF_TEXT | LVCF_FMT;
+  column.mask = LVCF_FMT;
   column.fmt = LVCFMT_CENTER;
-  column.pszText = heading.data();
-  SendMessageW(window, insert ? LVM_INSERTCOLUMNW : LVM_SETCOLUMNW, static_cast<WPARAM>(col),
-               reinterpret_cast<LPARAM>(&column));
+  SendMessageW(window, LVM_INSERTCOLUMNW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&column));
 }
 
-// A list view never centres the column that was its first: another one is that, and goes.
 void MakeColumns(HWND window, const Grid& grid) {
   const HWND header = ListView_GetHeader(window);
-  if (Header_GetItemCount(header) == grid.Cols()) return;
-  while (Header_GetItemCount(header) > 0) ListView_DeleteColumn(window, 0);
-  SetColumn(window, 0, L"", true);
-  for (int col = 0; col < grid.Cols(); ++col) SetColumn(window, col + 1, L"", true);
-  ListView_DeleteColumn(window, 0);
+  while (Header_GetItemCount(header) > grid.Cols()) ListView_DeleteColumn(window, grid.Cols());
+  for (int col = Header_GetItemCount(header); col < grid.Cols(); ++col) InsertColumn(window, col);
+}
+
+void SetHeading(HWND window, int col, std::wstring text) {
+  HDITEMW heading{};
+  heading.mask = HDI_TEXT | HDI_FORMAT;
+  heading.fmt = HDF_STRING | HDF_CENTER;
+  heading.pszText = text.data();
+  SendMessageW(ListView_GetHeader(window), HDM_SETITEMW, static_cast<WPARAM>(col), reinterpret_cast<LPARAM>(&heading));
 }
 
 void SetCell(HWND window, int row, int col, std::wstring text) {
@@ -73,8 +75,15 @@ void SetRowHeight(WinForm& form, HWND window) {
   form.KeepImages(window, std::move(fresh));
 }
 
+void SetColours(HWND window, const Palette& colours) {
+  ListView_SetBkColor(window, colours.Base);
+  ListView_SetTextBkColor(window, colours.Base);
+  ListView_SetTextColor(window, colours.Text);
+}
+
 void SyncGrid(WinForm& form, Control& control, HWND window) {
   const auto& grid = static_cast<const Grid&>(control);
+  SetColours(window, form.Colours());
   SetText(window, Wide(grid.AccessibleName));
   UseBaseFont(form, window);
   MakeColumns(window, grid);
@@ -90,13 +99,32 @@ void SyncGrid(WinForm& form, Control& control, HWND window) {
     for (int col = 0; col < grid.Cols(); ++col) {
       std::wstring text = Wide(grid.TextMatrix[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)]);
       if (row == 0)
-        SetColumn(window, col, std::move(text), false);
+        SetHeading(window, col, std::move(text));
       else if (CellText(window, row - 1, col) != text)
         SetCell(window, row - 1, col, std::move(text));
     }
   }
   SpreadColumns(grid, window, form.Scale());
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+// A list view never centres its first column.
+LRESULT PaintCell(const WinForm& form, const NMLVCUSTOMDRAW& drawn) {
+  const NMCUSTOMDRAW& stage = drawn.nmcd;
+  if (stage.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (stage.dwDrawStage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYSUBITEMDRAW;
+  if (stage.dwDrawStage != (CDDS_SUBITEM | CDDS_ITEMPREPAINT) || drawn.iSubItem != 0) return CDRF_DODEFAULT;
+  const HWND list = stage.hdr.hwndFrom;
+  const int row = static_cast<int>(stage.dwItemSpec);
+  RECT cell{};
+  ListView_GetItemRect(list, row, &cell, LVIR_BOUNDS);
+  cell.right = cell.left + ListView_GetColumnWidth(list, 0);
+  const Selected font(stage.hdc, BaseFont(form.Scale()));
+  SetBkMode(stage.hdc, TRANSPARENT);
+  SetTextColor(stage.hdc, form.Colours().Text);
+  const std::wstring text = CellText(list, row, 0);
+  DrawTextW(stage.hdc, text.c_str(), -1, &cell, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+  return CDRF_SKIPDEFAULT;
 }
 
 }  // namespace
@@ -109,6 +137,14 @@ void SpreadColumns(const Grid& grid, HWND list, double scale) {
     const int wanted = widths[static_cast<std::size_t>(i)];
     if (ListView_GetColumnWidth(list, i) != wanted) ListView_SetColumnWidth(list, i, wanted);
   }
+}
+
+// It is there to be looked at: no row is chosen.
+std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice) {
+  if (notice.code == NM_CUSTOMDRAW) return PaintCell(form, reinterpret_cast<const NMLVCUSTOMDRAW&>(notice));
+  if (notice.code != LVN_ITEMCHANGING) return std::nullopt;
+  const auto& change = reinterpret_cast<const NMLISTVIEW&>(notice);
+  return (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 ? TRUE : FALSE;
 }
 
 const WinKind kWinGrid{MakeGrid, SyncGrid, nullptr};

@@ -249,6 +249,9 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
         return answer;
       }
       return std::nullopt;
+    case WM_SYSCOLORCHANGE:
+      if (window == window_) Recolour();
+      return std::nullopt;
     case kDpiChanged:
       if (window != window_) return std::nullopt;
       Rescale(HIWORD(wParam) / 96.0);
@@ -269,7 +272,7 @@ std::optional<LRESULT> WinForm::Erase(const Control& control, HWND window, HDC d
   if (!header && control.Type != Kind::Toolbar) return std::nullopt;
   RECT client{};
   GetClientRect(window, &client);
-  FillRect(dc, &client, BrushOf(header ? GetSysColor(COLOR_WINDOW) : GroundOf(control)));
+  FillRect(dc, &client, BrushOf(header ? colours_.Base : GroundOf(control, colours_)));
   return 1;
 }
 

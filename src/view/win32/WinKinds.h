@@ -6,6 +6,10 @@
 
 #include "view/win32/WinApi.h"
 
+#include <commctrl.h>
+
+#include <optional>
+
 namespace Tarnwise {
 
 class Canvas;
@@ -58,6 +62,11 @@ LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam);  // WM_NCPAINT
 // Scroll bars: what the code of a WM_VSCROLL makes of the value.
 int ScrolledValue(const VScrollBar& bar, HWND window, int code);
 
+// Tool bars: the button that is pressed, or would be, in the person's colours (NM_CUSTOMDRAW).
+LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn);
+
+// Grids: what the list view notifies of.
+std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice);
 void SpreadColumns(const Grid& grid, HWND list, double scale);
 
 // --- what boxes and containers paint ---
@@ -65,7 +74,6 @@ void SpreadColumns(const Grid& grid, HWND list, double scale);
 constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
 
 constexpr int kBorderId = 1;  // the child window that is a bordered box's frame
-COLORREF BorderColour();
 
 bool IsHandle(const Control& control);                    // a small drag source: drawn as a handle
 RECT PaintedPlace(const Control& control, double scale);  // of a line or a shape in its container

@@ -15,23 +15,13 @@ namespace {
 constexpr int kSmooth = 3;
 constexpr int kLitPadding = 8;
 
-bool IsLit(const Label& label) { return label.ForeColor == kHighlightText; }
-
-COLORREF InkOf(const Label& label) {
-  const bool plain = label.BackColor == kButtonFace;
-  const COLORREF ground = plain ? GroundOf(label) : ToColorRef(label.BackColor);
-  const bool system = (label.ForeColor & 0x80000000U) != 0;
-  if (system && !IsLit(label) && ground != ToColorRef(kButtonFace)) return InkOn(ground);
-  return ToColorRef(label.ForeColor);
-}
-
 // A caption in the colour of highlighted text is a lit sign: it stands on the highlight's own colour.
 void PaintLit(HDC dc, const WinForm& form, const Label& label, const RECT& client) {
   Canvas canvas(WidthOf(client), HeightOf(client), kSmooth);
   RECT area = client;
   MapWindowPoints(form.WindowOf(label), form.WindowOf(*label.Parent), reinterpret_cast<POINT*>(&area), 2);
   PaintGround(canvas, form, *label.Parent, area);
-  const Brush brush(CreateSolidBrush(GetSysColor(COLOR_HIGHLIGHT)));
+  const Brush brush(CreateSolidBrush(form.Colours().Highlight));
   const Selected withBrush(canvas.Dc(), brush.get());
   const Selected withPen(canvas.Dc(), GetStockObject(NULL_PEN));
   const int corner = std::min(HeightOf(client), Scaled(12, form.Scale())) * kSmooth;
@@ -63,13 +53,14 @@ void SyncLabel(WinForm& form, Control& control, HWND window) {
 void DrawLabel(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
   const auto& label = static_cast<const Label&>(control);
   RECT room = item.rcItem;
-  if (IsLit(label)) {
+  const LabelLook look = LookOf(label, form.Colours());
+  if (look.Lit) {
     PaintLit(item.hDC, form, label, room);
     InflateRect(&room, -Scaled(kLitPadding / 2, form.Scale()), 0);
-  } else if (label.BackColor == kButtonFace) {
+  } else if (!look.Ground) {
     PaintBehind(item.hDC, form, control, room);
   } else {
-    FillRect(item.hDC, &room, form.BrushOf(ToColorRef(label.BackColor)));
+    FillRect(item.hDC, &room, form.BrushOf(*look.Ground));
   }
   const bool marked = IsMarked(label);
   const std::wstring text = Wide(marked ? MarkedCaption(label.Caption) : label.Caption());
@@ -78,7 +69,7 @@ void DrawLabel(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
                                     : FittedFont(form.Scale(), label.Points, label.Bold, plain, WidthOf(room));
   const Selected selected(item.hDC, font);
   SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, control.Enabled ? InkOf(label) : GetSysColor(COLOR_GRAYTEXT));
+  SetTextColor(item.hDC, control.Enabled ? look.Ink : GetSysColor(COLOR_GRAYTEXT));
   const UINT across = label.Alignment == Align::Left ? DT_LEFT : label.Alignment == Align::Right ? DT_RIGHT : DT_CENTER;
   const UINT lines = label.WordWrap ? DT_WORDBREAK | DT_TOP : DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
   DrawTextW(item.hDC, text.c_str(), -1, &room, across | lines | (marked ? 0U : DT_NOPREFIX));

@@ -84,9 +84,9 @@ void SyncListBox(WinForm& form, Control& control, HWND window) {
 void DrawRow(WinForm& form, Control& /*control*/, const DRAWITEMSTRUCT& item) {
   if (item.itemID == static_cast<UINT>(-1)) return;
   const bool chosen = (item.itemState & ODS_SELECTED) != 0;
-  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  FillRect(item.hDC, &item.rcItem, form.BrushOf(chosen ? form.Colours().Highlight : form.Colours().Base));
   SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, GetSysColor(chosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+  SetTextColor(item.hDC, chosen ? form.Colours().HighlightText : form.Colours().Text);
   const Selected font(item.hDC, BaseFont(form.Scale()));
   RECT room = item.rcItem;
   InflateRect(&room, -Scaled(6, form.Scale()), 0);
@@ -162,17 +162,17 @@ int PlaceIn(const std::vector<String>& names, const String& name) {
 }
 
 void SyncPictures(WinForm& form, HWND window, const std::vector<String>& names) {
-  std::wstring signature;
+  const Colour ground = form.Colours().Base;
+  std::wstring signature = std::to_wstring(form.Scale()) + L" on " + std::to_wstring(ground) + L":";
   for (const String& name : names) signature += Wide(name) + L"|";
   const wchar_t* const kProperty = L"TarnwisePictures";
-  const auto stamp =
-      reinterpret_cast<HANDLE>(std::hash<std::wstring>()(signature + std::to_wstring(form.Scale())) | 1U);
+  const auto stamp = reinterpret_cast<HANDLE>(std::hash<std::wstring>()(signature) | 1U);
   if (GetPropW(window, kProperty) == stamp) return;
   SetPropW(window, kProperty, stamp);
   const int side = Scaled(kIconSide, form.Scale());
   Images images(ImageList_Create(side, side, ILC_COLOR32, static_cast<int>(names.size()), 1));
   for (const String& name : names) {
-    const HICON icon = MakePictureIcon(name, side);
+    const HICON icon = MakePictureIcon(name, side, ground);
     ImageList_ReplaceIcon(images.get(), -1, icon);
     if (icon != nullptr) DestroyIcon(icon);
   }

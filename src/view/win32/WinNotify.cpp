@@ -62,12 +62,17 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       return 0;
     }
     case WM_NOTIFY: {
-      const auto& told = *reinterpret_cast<const NMHDR*>(lParam);
-      Control* const strip = ControlOf(told.hwndFrom);
-      if (told.code != TCN_SELCHANGE || strip == nullptr || strip->Type != Kind::TabStrip) return std::nullopt;
-      const auto held = shared_from_this();
-      RowChosen(*strip);
-      return 0;
+      const auto& notice = *reinterpret_cast<const NMHDR*>(lParam);
+      Control* const from = ControlOf(notice.hwndFrom);
+      if (from == nullptr || notice.hwndFrom != WindowOf(*from)) return std::nullopt;
+      if (from->Type == Kind::TabStrip && notice.code == TCN_SELCHANGE) {
+        const auto held = shared_from_this();
+        RowChosen(*from);
+        return 0;
+      }
+      if (from->Type == Kind::Grid) return AnswerGrid(*this, notice);
+      if (from->Type != Kind::Toolbar || notice.code != NM_CUSTOMDRAW) return std::nullopt;
+      return PaintTool(*this, *from, reinterpret_cast<const NMTBCUSTOMDRAW&>(notice));
     }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
@@ -80,13 +85,13 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN: {
       const auto from = reinterpret_cast<HWND>(lParam);
-      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BorderColour()));
+      if (GetDlgCtrlID(from) == kBorderId) return reinterpret_cast<LRESULT>(BrushOf(BoxEdge(colours_)));
       const Control* const control = ControlOf(from);
       if (control == nullptr || control->Type == Kind::TextBox) return std::nullopt;
       const auto dc = reinterpret_cast<HDC>(wParam);
-      const COLORREF ground = GroundOf(*control);
+      const Colour ground = GroundOf(*control, colours_);
       SetBkColor(dc, ground);
-      SetTextColor(dc, InkOn(ground));
+      SetTextColor(dc, TextOn(ground, colours_));
       return reinterpret_cast<LRESULT>(BrushOf(ground));
     }
     default: return std::nullopt;

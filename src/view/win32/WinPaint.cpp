@@ -4,6 +4,8 @@
 #include "view/Pictures.h"
 #include "view/Reach.h"
 
+#include <uxtheme.h>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -14,7 +16,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr COLORREF kDarkInk = RGB(31, 41, 55);
 constexpr int kSmooth = 4;  // how many times larger a picture is drawn
 
 LOGFONTW MessageFont() {
@@ -49,20 +50,18 @@ Font NewFont(double scale, int points, bool bold, int stretch) {
   return Font(CreateFontIndirectW(&look));
 }
 
-COLORREF PictureColour(Colour colour) { return colour & 0xFFFFFFU; }
-
-void DrawShape(HDC dc, const PictureShape& shape, double scale, double left, double top) {
+void DrawShape(HDC dc, const PictureShape& shape, Colour ground, double scale, double left, double top) {
   std::vector<POINT> points;
   for (std::size_t i = 0; i + 1 < shape.Points.size(); i += 2) {
     points.push_back({static_cast<LONG>(std::lround(left + static_cast<double>(shape.Points[i]) * scale)),
                       static_cast<LONG>(std::lround(top + static_cast<double>(shape.Points[i + 1]) * scale))});
   }
-  LOGBRUSH ink{BS_SOLID, shape.Stroke ? PictureColour(*shape.Stroke) : 0, 0};
+  LOGBRUSH ink{BS_SOLID, shape.Stroke ? MarkOn(*shape.Stroke, ground) : 0, 0};
   const auto width = static_cast<DWORD>(std::max(1L, std::lround(static_cast<double>(shape.StrokeWidth) * scale)));
   const Pen pen(shape.Stroke
                     ? ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND, width, &ink, 0, nullptr)
                     : CreatePen(PS_NULL, 0, 0));
-  const Brush brush(shape.Fill ? CreateSolidBrush(PictureColour(*shape.Fill)) : nullptr);
+  const Brush brush(shape.Fill ? CreateSolidBrush(MarkOn(*shape.Fill, ground)) : nullptr);
   const Selected withPen(dc, pen.get());
   const Selected withBrush(dc, brush ? brush.get() : GetStockObject(NULL_BRUSH));
   const int count = static_cast<int>(points.size());
@@ -90,27 +89,29 @@ RECT PixelPlace(const Control& control, double scale) {
 
 int Scaled(int pixels, double scale) { return static_cast<int>(std::lround(pixels * scale)); }
 
-COLORREF ToColorRef(Colour colour) {
-  // The form's own ground is the dialog's, whatever a theme makes of buttons.
-  if ((colour & 0x80000000U) == 0) return PictureColour(colour);
-  return GetSysColor(static_cast<int>(colour & 0xFFU));
+// A form's own ground is the dialog's, whatever a theme makes of buttons.
+Palette SystemColours() {
+  return Readable({GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT), GetSysColor(COLOR_WINDOW),
+                   GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT),
+                   GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)});
 }
 
-COLORREF InkOn(COLORREF ground) {
-  const int grey = (GetRValue(ground) * 11 + GetGValue(ground) * 16 + GetBValue(ground) * 5) / 32;
-  return grey > 120 ? kDarkInk : RGB(255, 255, 255);
-}
-
-COLORREF GroundOf(const Control& control) {
-  for (const Control* around = control.Parent; around != nullptr; around = around->Parent) {
-    if (around->Type == Kind::PictureBox) return ToColorRef(static_cast<const PictureBox*>(around)->BackColor);
+void UseFittingStyle(HWND window, const Palette& colours) {
+  HIGHCONTRASTW contrast{};
+  contrast.cbSize = sizeof contrast;
+  const bool asked = SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != 0;
+  const bool fits = !IsDark(colours.Window) || (asked && (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0);
+  constexpr const wchar_t* kPlain = L"TarnwisePlain";
+  if (fits == (GetPropW(window, kPlain) == nullptr)) return;
+  if (fits) {
+    RemovePropW(window, kPlain);
+  } else {
+    SetPropW(window, kPlain, window);
   }
-  return ToColorRef(kButtonFace);
-}
-
-COLORREF Blend(COLORREF a, COLORREF b, int percentOfB) {
-  const auto mix = [percentOfB](int x, int y) { return (x * (100 - percentOfB) + y * percentOfB) / 100; };
-  return RGB(mix(GetRValue(a), GetRValue(b)), mix(GetGValue(a), GetGValue(b)), mix(GetBValue(a), GetBValue(b)));
+  SetWindowTheme(window, fits ? nullptr : L" ", fits ? nullptr : L" ");
+  for (HWND part = GetWindow(window, GW_CHILD); part != nullptr; part = GetWindow(part, GW_HWNDNEXT)) {
+    UseFittingStyle(part, colours);
+  }
 }
 
 HFONT BaseFont(double scale, int points, bool bold, int stretch) {
@@ -214,7 +215,7 @@ void Canvas::PutOnto(HDC target, int x, int y) {
   DeleteDC(source);
 }
 
-void DrawPicture(HDC dc, const String& name, const RECT& place) {
+void DrawPicture(HDC dc, const String& name, const RECT& place, Colour ground) {
   const Picture* const picture = FindPicture(name);
   if (picture == nullptr || WidthOf(place) <= 0 || HeightOf(place) <= 0) return;
   const auto width = static_cast<double>(picture->Width);
@@ -222,19 +223,19 @@ void DrawPicture(HDC dc, const String& name, const RECT& place) {
   const double scale = std::min(WidthOf(place) / width, HeightOf(place) / height);
   const double left = place.left + (WidthOf(place) - width * scale) / 2.0;
   const double top = place.top + (HeightOf(place) - height * scale) / 2.0;
-  for (const PictureShape& shape : picture->Shapes) DrawShape(dc, shape, scale, left, top);
+  for (const PictureShape& shape : picture->Shapes) DrawShape(dc, shape, ground, scale, left, top);
 }
 
 // What covers a pixel is found by drawing once on black and once on white.
-HICON MakePictureIcon(const String& name, int side) {
+HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity) {
   if (FindPicture(name) == nullptr) return nullptr;
   Canvas dark(side, side, kSmooth);
   Canvas light(side, side, kSmooth);
   const RECT place{0, 0, side * kSmooth, side * kSmooth};
   dark.Fill(RGB(0, 0, 0));
   light.Fill(RGB(255, 255, 255));
-  DrawPicture(dark.Dc(), name, place);
-  DrawPicture(light.Dc(), name, place);
+  DrawPicture(dark.Dc(), name, place, ground);
+  DrawPicture(light.Dc(), name, place, ground);
   std::uint32_t* onDark = nullptr;
   std::uint32_t* onLight = nullptr;
   const Bitmap colours = dark.Reduced(&onDark);
@@ -246,7 +247,8 @@ HICON MakePictureIcon(const String& name, int side) {
     const auto whole = [alpha, colour = onDark[i]](unsigned shift) {
       return alpha == 0 ? 0U : std::min(255U, ((colour >> shift) & 0xFFU) * 255U / alpha);
     };
-    onDark[i] = (alpha << 24U) | (whole(16) << 16U) | (whole(8) << 8U) | whole(0);
+    onDark[i] = ((alpha * static_cast<std::uint32_t>(opacity) / 100U) << 24U) | (whole(16) << 16U) | (whole(8) << 8U) |
+                whole(0);
   }
   const std::vector<std::uint8_t> nothing(count);  // more than enough of a mask
   const Bitmap mask(CreateBitmap(side, side, 1, 1, nothing.data()));

@@ -2,7 +2,7 @@
 // of them make a pixel of 96 to the inch.
 #pragma once
 
-#include "view/Controls.h"
+#include "view/Look.h"
 
 #include "view/win32/WinApi.h"
 
@@ -41,10 +41,11 @@ int Scaled(int pixels, double scale);
 inline int WidthOf(const RECT& r) { return r.right - r.left; }
 inline int HeightOf(const RECT& r) { return r.bottom - r.top; }
 
-COLORREF ToColorRef(Colour colour);
-COLORREF InkOn(COLORREF ground);            // a text colour that can be read on it
-COLORREF GroundOf(const Control& control);  // what it stands on: the next coloured box around it, else the form's
-COLORREF Blend(COLORREF a, COLORREF b, int percentOfB);
+// The system's own, every text readable on its ground. A number of the tree's is a COLORREF as it is.
+Palette SystemColours();
+// A visual style paints controls in colours of its own. Those of a light one do not go with a dark form, unless it is
+// the system's for high contrast: the window and those in it are then drawn in the system's colours alone.
+void UseFittingStyle(HWND window, const Palette& colours);
 
 constexpr int kNormalStretch = 100;
 
@@ -80,9 +81,13 @@ class Canvas {
   std::uint32_t* pixels_ = nullptr;
 };
 
-// The picture fitted into the place (device units of dc). Nothing where there is no picture of that name.
-void DrawPicture(HDC dc, const String& name, const RECT& place);
-HICON MakePictureIcon(const String& name, int side);  // null when there is none; the caller destroys it
+constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
+
+// The picture fitted into the place (device units of dc), in colours for the ground that it stands on. Nothing where
+// there is no picture of that name.
+void DrawPicture(HDC dc, const String& name, const RECT& place, Colour ground);
+// Null when there is none; the caller destroys it.
+HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity = 100);
 
 HCURSOR CursorFor(int mousePointer);
 

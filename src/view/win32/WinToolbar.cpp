@@ -15,6 +15,13 @@ namespace {
 constexpr DWORD kStyle =
     TBSTYLE_FLAT | TBSTYLE_TOOLTIPS | TBSTYLE_LIST | CCS_NORESIZE | CCS_NOPARENTALIGN | CCS_NODIVIDER;
 
+constexpr int kEnabled = 100;  // percent of opacity
+constexpr int kHot = 18;       // percent of the highlight on the ground
+constexpr int kPressed = 38;
+constexpr const wchar_t* kGround = L"TarnwiseGround";  // that its pictures are drawn for
+
+constexpr LRESULT kNoBackground = 0x00400000;  // TBCDRF_NOBACKGROUND, of Windows 6
+
 LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return SendMessageW(window, message, wParam, lParam);
 }
@@ -26,15 +33,23 @@ HWND MakeToolbar(WinForm& form, Control& /*control*/, HWND parent) {
   return window;
 }
 
-void SetPictures(WinForm& form, const Toolbar& bar, HWND window, int side) {
+Images PicturesOf(const Toolbar& bar, int side, Colour ground, int opacity) {
   Images images(ImageList_Create(side, side, ILC_COLOR32, static_cast<int>(bar.Buttons.size()), 1));
   for (const Toolbar::Button& button : bar.Buttons) {
-    const HICON icon = MakePictureIcon(button.Picture.empty() ? "window" : button.Picture, side);
+    const HICON icon = MakePictureIcon(button.Picture.empty() ? "window" : button.Picture, side, ground, opacity);
     ImageList_ReplaceIcon(images.get(), -1, icon);
     if (icon != nullptr) DestroyIcon(icon);
   }
+  return images;
+}
+
+void SetPictures(WinForm& form, const Toolbar& bar, HWND window, int side) {
+  const Colour ground = GroundOf(bar, form.Colours());
+  Images images = PicturesOf(bar, side, ground, kEnabled);
+  Images faint = PicturesOf(bar, side, ground, kDisabledOpacity);
   Tell(window, TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.get()));
-  form.KeepImages(window, std::move(images));
+  Tell(window, TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(faint.get()));
+  form.KeepImages(window, std::move(images), std::move(faint));
 }
 
 void AddButtons(const Toolbar& bar, HWND window) {
@@ -58,7 +73,9 @@ void SyncToolbar(WinForm& form, Control& control, HWND window) {
   const int side =
       std::min(upright ? WidthOf(place) : HeightOf(place), (upright ? HeightOf(place) : WidthOf(place)) / count);
   const bool fresh = Tell(window, TB_BUTTONCOUNT) == 0;
-  if (fresh || LOWORD(Tell(window, TB_GETBUTTONSIZE)) != side) {
+  const auto ground = reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(GroundOf(control, form.Colours()) + 1));
+  if (fresh || LOWORD(Tell(window, TB_GETBUTTONSIZE)) != side || GetPropW(window, kGround) != ground) {
+    SetPropW(window, kGround, ground);
     SetPictures(form, bar, window, side * 5 / 8);
     if (fresh) AddButtons(bar, window);
     Tell(window, TB_SETBUTTONSIZE, 0, MAKELPARAM(side, side));
@@ -67,7 +84,8 @@ void SyncToolbar(WinForm& form, Control& control, HWND window) {
   bool wasMarked = false;
   for (int i = 0; i < static_cast<int>(bar.Buttons.size()); ++i) {
     const int id = i + 1;
-    WORD state = bar.Buttons[static_cast<std::size_t>(i)].Enabled ? TBSTATE_ENABLED : 0;
+    // A bar that is disabled as a whole shows it by its buttons.
+    WORD state = bar.Enabled && bar.Buttons[static_cast<std::size_t>(i)].Enabled ? TBSTATE_ENABLED : 0;
     if (upright) state |= TBSTATE_WRAP;
     // With the keyboard on the bar a mark shows which button it presses.
     if (keyboard && id == bar.Current) state |= TBSTATE_MARKED;
@@ -83,6 +101,23 @@ void SyncToolbar(WinForm& form, Control& control, HWND window) {
 }
 
 }  // namespace
+
+LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn) {
+  const UINT state = drawn.nmcd.uItemState;
+  if (drawn.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawn.nmcd.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  if ((state & (CDIS_HOT | CDIS_SELECTED | CDIS_MARKED)) != 0 && (state & CDIS_DISABLED) == 0) {
+    const Colour highlight = form.Colours().Highlight;
+    const int part = (state & CDIS_SELECTED) != 0 ? kPressed : kHot;
+    RECT edge = drawn.nmcd.rc;
+    FillRect(drawn.nmcd.hdc, &edge, form.BrushOf(Blend(GroundOf(bar, form.Colours()), highlight, part)));
+    for (int i = 0; i < std::max(Scaled(1, form.Scale()), 1); ++i) {
+      FrameRect(drawn.nmcd.hdc, &edge, form.BrushOf(highlight));
+      InflateRect(&edge, -1, -1);
+    }
+  }
+  return kNoBackground | TBCDRF_NOEDGES | TBCDRF_NOMARK;
+}
 
 const WinKind kWinToolbar{MakeToolbar, SyncToolbar, nullptr};
 

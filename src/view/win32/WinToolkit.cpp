@@ -107,7 +107,7 @@ WinToolkit::~WinToolkit() {
 
 HICON WinToolkit::WindowIcon(int side) {
   HICON& icon = icons_[side];
-  if (icon == nullptr) icon = MakePictureIcon("window", side);
+  if (icon == nullptr) icon = MakePictureIcon("window", side, kAsDrawn);
   return icon;
 }
 

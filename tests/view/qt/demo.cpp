@@ -199,7 +199,7 @@ QPixmap SheetOfPictures() {
   QPainter painter(&sheet);
   for (int i = 0; i < static_cast<int>(names.size()); ++i) {
     const QRect cell(i % kAcross * kSide, i / kAcross * kSide, kSide, kSide);
-    DrawPicture(painter, names[static_cast<std::size_t>(i)], QRectF(cell).adjusted(15, 5, -15, -25));
+    DrawPicture(painter, names[static_cast<std::size_t>(i)], QRectF(cell).adjusted(15, 5, -15, -25), 0xFFFFFF);
     painter.drawText(cell, Qt::AlignBottom | Qt::AlignHCenter, Text(names[static_cast<std::size_t>(i)]));
   }
   return sheet;

@@ -284,6 +284,7 @@ TEST_F(WinLists, ADisabledToolIsNotPressed) {
   EXPECT_EQ(Joined(form->Log), "Down");
   form->tbMoves.Enabled = false;
   platform->SyncAll();
+  EXPECT_FALSE(SendMessageW(bar, TB_ISBUTTONENABLED, 1, 0)) << "it is to be seen";
   ClickTool(1);
   EXPECT_EQ(Joined(form->Log), "Down");
 }

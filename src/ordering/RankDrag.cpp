@@ -1,8 +1,6 @@
-// Drags over the ordering step. The first letter of a source's Tag says what it is: A and C attributes of the benefit
-// and the cost list, B and D placed ones; the other group's sources are refused by silence.
-#include "ordering/frmIniImpOrder.h"
-
-#include "runtime/Text.h"
+// Drags over the lists and rank rows. The other group's sources are refused by silence.
+#include "ordering/RankPanel.h"
+#include "ordering/RankTags.h"
 
 namespace Tarnwise {
 
@@ -10,99 +8,95 @@ namespace {
 
 constexpr Colour kMarkerColour = 255;  // light red of the sixteen-colour table
 
-char LetterOf(const Control& source) { return source.Tag().empty() ? '\0' : source.Tag()[0]; }
-
 bool IsButton(const Control& source) { return source.Type == Kind::CommandButton; }
+
+void MarkOption(const ControlArray<OptionButton>& options, const Control& source) {
+  if (IsButton(source) && options.Has(source.Index)) options[source.Index].SetOn();
+}
+
+bool IsOwnRow(int rank, const Control& source, char letter, const RankOrder& order) {
+  return LetterOf(source) == letter && order.AttRank[AttOfTag(source)] == rank;
+}
 
 }  // namespace
 
 // Clicks on what also takes drags are connected here as well.
-void frmIniImpOrder::ConnectDrags(Group g) {
-  RankControls& c = RankOf(g);
-  c.picOrder.Wire([this, g](PictureBox& row) {
-    row.Click = [this, g, &row] { SelectRank(g, static_cast<int>(Val(row.Tag()))); };
-    row.DragDrop = [this, g, &row](Control& source, Single, Single) { DropOnRow(g, row, source); };
-    row.DragOver = [this, g, &row](Control& source, Single, Single, DragState state) {
-      OverRow(g, row, source, state);
-    };
-    row.AcceptsDrop = [this, g, &row](const Control& source) {
-      return TakesOnRank(g, static_cast<int>(Val(row.Tag())), source);
-    };
+void RankPanel::ConnectDrags() {
+  controls_.picOrder.Wire([this](PictureBox& row) {
+    row.Click = [this, &row] { SelectRank(RankOfTag(row)); };
+    row.DragDrop = [this, &row](Control& source, Single, Single) { DropOnRow(row, source); };
+    row.DragOver = [this, &row](Control& source, Single, Single, DragState state) { OverRow(row, source, state); };
+    row.AcceptsDrop = [this, &row](const Control& source) { return TakesOnRank(RankOfTag(row), source); };
   });
-  c.cmdAttB.Wire([this, g](CommandButton& button) {
-    button.Click = [this, g, &button] { SelectRank(g, RankOfButton(button)); };
-    button.DragDrop = [this, g, &button](Control& source, Single, Single) { DropOnButton(g, button, source); };
-    button.DragOver = [this, g, &button](Control& source, Single, Single, DragState) { OverButton(g, button, source); };
-    button.AcceptsDrop = [this, g, &button](const Control& source) {
-      return TakesOnRank(g, RankOfButton(button), source);
-    };
+  controls_.cmdAttB.Wire([this](CommandButton& button) {
+    button.Click = [this, &button] { SelectRank(RankOfButton(button)); };
+    button.DragDrop = [this, &button](Control& source, Single, Single) { DropOnButton(button, source); };
+    button.DragOver = [this, &button](Control& source, Single, Single, DragState) { OverButton(button, source); };
+    button.AcceptsDrop = [this, &button](const Control& source) { return TakesOnRank(RankOfButton(button), source); };
   });
-  c.picAttPanel.DragOver = [this, &c](Control& source, Single, Single, DragState) { OverList(c.optAttInfo, source); };
+  controls_.picAttPanel.DragOver = [this](Control& source, Single, Single, DragState) {
+    MarkOption(controls_.optAttInfo, source);
+  };
   // The names of the cost list mark the option of the benefit list; it has always been so.
-  c.lblAttName.Wire([this, &c](Label& label) {
-    label.Click = [&c, &label] { c.optAttInfo[label.Index].SetOn(); };
-    label.DragOver = [this](Control& source, Single, Single, DragState) { OverList(BRank.optAttInfo, source); };
+  controls_.lblAttName.Wire([this](Label& label) {
+    label.Click = [this, &label] { controls_.optAttInfo[label.Index].SetOn(); };
+    label.DragOver = [this](Control& source, Single, Single, DragState) { MarkOption(benefit_.optAttInfo, source); };
   });
 }
 
-void frmIniImpOrder::DropOnRow(Group g, PictureBox& row, Control& source) {
+bool RankPanel::IsListed(const Control& source) const {
+  return IsButton(source) && LetterOf(source) == (group_ == Group::Benefit ? 'A' : 'C');
+}
+
+bool RankPanel::IsPlaced(const Control& source) const {
+  return IsButton(source) && LetterOf(source) == (group_ == Group::Benefit ? 'B' : 'D');
+}
+
+// Whether a drop there moves the attribute.
+bool RankPanel::TakesOnRank(int rank, const Control& source) const {
+  return IsListed(source) || (IsPlaced(source) && RankOfButton(source) != rank);
+}
+
+void RankPanel::DropOnRow(PictureBox& row, Control& source) {
   // Of any source, of the other group and of any kind too.
-  if (RankOf(g).optAttInfo.Has(source.Index)) RankOf(g).optAttInfo[source.Index].SetOn();
+  if (controls_.optAttInfo.Has(source.Index)) controls_.optAttInfo[source.Index].SetOn();
   if (!IsButton(source)) return;
   auto& button = static_cast<CommandButton&>(source);
-  const int rank = static_cast<int>(Val(row.Tag()));
-  const char letter = LetterOf(source);
-  if (letter == (g == Group::Benefit ? 'A' : 'C')) {
-    PlaceOnRow(g, button, AttOfTag(source.Tag), rank);
-    SelectRank(g, rank);
-  } else if (letter == (g == Group::Benefit ? 'B' : 'D') && RankOfButton(source) != rank) {
-    MoveToRow(g, button, AttOfTag(source.Tag), rank);
-    SelectRank(g, rank);
+  const int rank = RankOfTag(row);
+  if (IsListed(source)) {
+    PlaceOnRow(button, AttOfTag(source), rank);
+    SelectRank(rank);
+  } else if (IsPlaced(source) && RankOfButton(source) != rank) {
+    MoveToRow(button, AttOfTag(source), rank);
+    SelectRank(rank);
   }
   row.Cls();
 }
 
-void frmIniImpOrder::DropOnButton(Group g, const Control& button, Control& source) {
+void RankPanel::DropOnButton(const Control& button, Control& source) {
   const int rank = RankOfButton(button);
-  if (TakesOnRank(g, rank, source)) DropOnRow(g, RowOfRank(g, rank), source);
+  if (TakesOnRank(rank, source)) DropOnRow(RowOfRank(rank), source);
 }
 
-// Whether a drop there moves the attribute.
-bool frmIniImpOrder::TakesOnRank(Group g, int rank, const Control& source) const {
-  if (!IsButton(source)) return false;
-  const char letter = LetterOf(source);
-  const bool listed = letter == (g == Group::Benefit ? 'A' : 'C');
-  const bool placed = letter == (g == Group::Benefit ? 'B' : 'D');
-  return listed || (placed && RankOfButton(source) != rank);
-}
-
-bool frmIniImpOrder::IsOwnRow(int rank, const Control& source, char letter) const {
-  return LetterOf(source) == letter && RankOfButton(source) == rank;
-}
-
-void frmIniImpOrder::OverRow(Group g, PictureBox& row, const Control& source, DragState state) {
+void RankPanel::OverRow(PictureBox& row, const Control& source, DragState state) {
   // On both lists the letter is B: a cost row shows the marker for a placed attribute of its own too.
-  if (IsOwnRow(static_cast<int>(Val(row.Tag())), source, 'B')) return;
+  if (IsOwnRow(RankOfTag(row), source, 'B', order_)) return;
   if (state == DragState::Over) return;
   row.Cls();
-  if (state == DragState::Enter) DrawMarker(g, row);
+  if (state == DragState::Enter) DrawMarker(row);
 }
 
-void frmIniImpOrder::OverButton(Group g, const Control& button, const Control& source) {
+void RankPanel::OverButton(const Control& button, const Control& source) {
   const int rank = RankOfButton(button);
-  if (IsOwnRow(rank, source, g == Group::Benefit ? 'B' : 'D')) return;
-  PictureBox& row = RowOfRank(g, rank);
+  if (IsOwnRow(rank, source, group_ == Group::Benefit ? 'B' : 'D', order_)) return;
+  PictureBox& row = RowOfRank(rank);
   row.Cls();
-  DrawMarker(g, row);
+  DrawMarker(row);
 }
 
-void frmIniImpOrder::OverList(ControlArray<OptionButton>& options, const Control& source) {
-  if (IsButton(source) && options.Has(source.Index)) options[source.Index].SetOn();
-}
-
-void frmIniImpOrder::DrawMarker(Group g, PictureBox& row) {
-  const int size = order_.RankSize(g)[static_cast<int>(Val(row.Tag()))];
-  const Single y = static_cast<Single>(size) * RankOf(g).cmdAttB[0].Height + 60.0F;
+void RankPanel::DrawMarker(PictureBox& row) {
+  const int size = order_.RankSize(group_)[RankOfTag(row)];
+  const Single y = static_cast<Single>(size) * controls_.cmdAttB[0].Height + 60.0F;
   const Single right = row.Width - 100.0F;
   row.Draw({Drawn::What::Line, {100.0F, y, right, y}, kMarkerColour, 1});
   row.Draw({Drawn::What::Line, {100.0F, y - 30.0F, 100.0F, y + 30.0F}, kMarkerColour, 1});

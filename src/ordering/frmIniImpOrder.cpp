@@ -1,37 +1,41 @@
 #include "ordering/frmIniImpOrder.h"
 
+#include "judging/Intervals.h"
 #include "runtime/Numbers.h"
-#include "runtime/Text.h"
 #include "view/Platform.h"
+
+#include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr Group kGroups[] = {Group::Benefit, Group::Cost};
+constexpr Colour kRed = 255;
+constexpr Colour kBlue = 16711680;
 
 }  // namespace
 
-int AttOfTag(const String& tag) {
-  if (tag.empty()) throw RuntimeError(13);
-  return CheckedInteger(static_cast<int>(Val(tag.substr(1))));
-}
-
 frmIniImpOrder::frmIniImpOrder(std::shared_ptr<Platform> platform, WizardData& wizardData)
-    : IniImpOrderForm(std::move(platform)), data_(wizardData) {
-  for (const Group g : kGroups) {
-    ConnectGroup(g);
-    ConnectDrags(g);
+    : IniImpOrderForm(std::move(platform)),
+      data_(wizardData),
+      benefitRanks_(Group::Benefit, BRank, BRank, *this, order_, data_),
+      costRanks_(Group::Cost, CRank, BRank, *this, order_, data_),
+      benefitReference_(Group::Benefit, BReference, picIndicator[0], data_),
+      costReference_(Group::Cost, CReference, picIndicator[1], data_) {
+  for (ReferencePanel* panel : {&benefitReference_, &costReference_}) {
+    panel->Chosen = [this] {
+      if (benefitReference_.HasName() && costReference_.HasName()) cmdNext.Enabled = true;
+    };
   }
   DragOver = [](Control& source, Single /*x*/, Single /*y*/, DragState state) {
-    if (state == DragState::Leave) source.MousePointer = 12;
-    if (state == DragState::Enter) source.MousePointer = 0;
+    if (state == DragState::Leave) source.MousePointer = kNoDrop;
+    if (state == DragState::Enter) source.MousePointer = kDefaultPointer;
   };
   Timer1.Tick = [this] { Timer1_Timer(); };
   cmdNext.Click = [this] { cmdNext_Click(); };
   cmdBack.Click = [this] { cmdBack_Click(); };
   cmdCancel.Click = [this] { cmdCancel_Click(); };
-  cmdHelp.Click = [this] { cmdHelp_Click(); };
+  cmdHelp.Click = [this] { Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext); };
 }
 
 void frmIniImpOrder::Disconnect() {
@@ -43,48 +47,40 @@ void frmIniImpOrder::Disconnect() {
   SendMasseges = nullptr;
 }
 
-void frmIniImpOrder::ConnectGroup(Group g) {
-  RankControls& rank = RankOf(g);
-  ReferenceControls& reference = ReferenceOf(g);
-
-  const auto scrolls = [](VScrollBar& bar, PictureBox& content) {
-    const auto follow = [&bar, &content] { content.Top = static_cast<Single>(-bar.Value()); };
-    bar.Change = follow;
-    bar.Scroll = follow;
-  };
-  scrolls(rank.vsrAtt, rank.picAttPLst);
-  scrolls(rank.vsrOrder, rank.picOrderCon);
-  scrolls(reference.Rows.vsrO, reference.Rows.picOP);
-
-  rank.cmdAdd.Click = [this, g] { AddRow(g); };
-  rank.cmdInsert.Click = [this, g] { InsertRow(g); };
-  rank.cmdReset.Click = [this, g] { ResetList(g); };
-  rank.lblOrderID.Wire([this, g](Label& label) {
-    label.Click = [this, g, &label] { SelectRank(g, static_cast<int>(Val(label.Tag()))); };
-  });
-  reference.Rows.cmdAttButtons.Wire(
-      [this, g](CommandButton& button) { button.Click = [this, g, &button] { ChooseReference(g, button); }; });
-}
-
 void frmIniImpOrder::Load() {
   OpenRankOrder(order_, data_);
   cmdNext.Enabled = false;
   cmdFinish.Enabled = false;
-  for (const Group g : kGroups) {
-    BuildList(g);
-    BuildFirstRow(g);
-    EnableRowButtons(g, GroupSize(data_, g) > 1);
+  for (const Group g : {Group::Benefit, Group::Cost}) {
+    RankPanel& ranks = g == Group::Benefit ? benefitRanks_ : costRanks_;
+    BuildLists(g);
+    ranks.BuildFirstRow();
+    ranks.EnableRowButtons(GroupSize(data_, g) > 1);
   }
   if (data_.HasStoredJudgments()) {
     RankFromSavedWeights(order_, data_);
-    for (const Group g : kGroups) {
-      if (AtRowLimit(order_, data_, g)) EnableRowButtons(g, false);
-      RestorePanels(g);
+    for (const Group g : {Group::Benefit, Group::Cost}) {
+      RankPanel& ranks = g == Group::Benefit ? benefitRanks_ : costRanks_;
+      if (AtRowLimit(order_, data_, g)) ranks.EnableRowButtons(false);
+      ranks.RestorePanels();
     }
     cmdNext.Enabled = true;
   }
   ShowStage(0);
   Raise(SendMasseges, "Rank the attributes according to their relative importance.");
+}
+
+void frmIniImpOrder::BuildLists(Group g) {
+  const bool benefit = g == Group::Benefit;
+  RankPanel& ranks = benefit ? benefitRanks_ : costRanks_;
+  int k = 0;
+  for (int i = 0; i < data_.NumAtts(); ++i) {
+    if (!InGroup(data_, i, g)) continue;
+    ranks.AddToList(k, i);
+    (benefit ? benefitReference_ : costReference_).AddButton(k, (benefit ? BRank : CRank).cmdAttA[k]);
+    ++k;
+  }
+  ranks.FinishList(k);
 }
 
 void frmIniImpOrder::ShowStage(int stage) {
@@ -110,6 +106,45 @@ void frmIniImpOrder::cmdNext_Click() {
   }
 }
 
+void frmIniImpOrder::NextOfStage1() {
+  CommitRankOrder(order_, data_);
+  for (ReferencePanel* panel : {&benefitReference_, &costReference_}) panel->BuildDisplay();
+  if (data_.HasStoredJudgments()) {
+    for (ReferencePanel* panel : {&benefitReference_, &costReference_}) panel->ChooseSavedReference();
+    cmdNext.Enabled = true;
+  } else {
+    for (ReferencePanel* panel : {&benefitReference_, &costReference_}) panel->ForgetName();
+  }
+  ShowStage(1);
+}
+
+void frmIniImpOrder::NextOfStage2() {
+  if (!data_.OrderChanged && data_.HasStoredJudgments()) {
+    RestoreRatios();
+  } else {
+    SeedRatios();
+  }
+  if (data_.MethodIndex == 0) {
+    Raise(ShowTRNDirectB);
+  } else if (data_.MethodIndex == 1) {
+    Raise(ShowTRNTradeOffsB);
+  }
+}
+
+void frmIniImpOrder::SeedRatios() {
+  SeedIntervals(data_);
+  data_.RefAttWR = Integer(1);
+}
+
+void frmIniImpOrder::RestoreRatios() {
+  const SavedJudgments& saved = data_.SavedJudgments;
+  for (int i = 0; i < data_.NumAtts(); ++i) {
+    StoreInterval(data_, i, {saved.SavedWeightsL[i], saved.SavedWeights[i], saved.SavedWeightsH[i]});
+    data_.WeightDone[i] = true;
+  }
+  data_.RefAttWR = saved.SavedRefAttWR;
+}
+
 void frmIniImpOrder::cmdBack_Click() {
   if (Stage != 0) {
     BackOfStage2();
@@ -119,8 +154,19 @@ void frmIniImpOrder::cmdBack_Click() {
   Raise(UnloadIniImpOrder);
 }
 
+void frmIniImpOrder::BackOfStage2() {
+  benefitReference_.Hide(data_.BAttCount);
+  costReference_.Hide(data_.CAttCount);
+  order_.BLoadedRows = std::max(order_.BLoadedRows, data_.BAttCount);
+  order_.CLoadedRows = std::max(order_.CLoadedRows, data_.CAttCount);
+  ShowStage(0);
+  cmdNext.Enabled = true;
+}
+
 void frmIniImpOrder::cmdCancel_Click() { Raise(UnloadTarnwise, data_.FileIndex, false); }
 
-void frmIniImpOrder::cmdHelp_Click() { Screen().Help(*this, HelpPath(data_), kHelpShowContext, kHelpContext); }
+void frmIniImpOrder::Timer1_Timer() {
+  picIndicator.Each([](PictureBox& mark) { mark.BackColor = mark.BackColor == kRed ? kBlue : kRed; });
+}
 
 }  // namespace Tarnwise

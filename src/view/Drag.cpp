@@ -65,7 +65,12 @@ void DragSession::Notify(DragState state) {
   if (target == nullptr || source == nullptr || !target->DragOver) return;
   const auto handler = target->DragOver;
   Dispatch(*target, "DragOver", [&] { handler(*source, x_, y_, state); });
-  if (source_ == source && !source->DragIcon().empty()) icon_ = source->DragIcon;
+  KeepIcon();
+}
+
+// The handler may have given the source another one, or have ended the drag.
+void DragSession::KeepIcon() {
+  if (source_ != nullptr && !source_->DragIcon().empty()) icon_ = source_->DragIcon;
 }
 
 void DragSession::Over(Control& target, Single x, Single y) {

@@ -39,6 +39,7 @@ class DragSession {
 
  private:
   void Notify(DragState state);
+  void KeepIcon();
   void Step(Single dx, Single dy);
   void OverMiddle(Control& target);
   void Walk(int by);

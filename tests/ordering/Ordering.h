@@ -32,6 +32,14 @@ struct Ordering : OpenForm<frmIniImpOrder> {
   RankControls& C = Form->CRank;
 };
 
+// Two rows a group, all attributes placed as an earlier run left them: benefit 0 and 1 on rank 1, 2 on rank 2; cost 3
+// on rank 1, 4 and 5 on rank 2.
+inline WizardData AllPlaced() {
+  WizardData model = ModelOf(3, 3);
+  StoreJudgments(model, kDirectType, 0, 3, 1.0, {2.0, 2.0, 1.0, 2.0, 1.0, 1.0});
+  return model;
+}
+
 inline Single Bottom(const Control& control) { return control.Top + control.Height; }
 
 }  // namespace Tarnwise

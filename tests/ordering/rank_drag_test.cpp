@@ -39,14 +39,6 @@ struct Drags : Ordering {
   }
 };
 
-// Two rows a group, all attributes placed as an earlier run left them: benefit 0 and 1 on rank 1, 2 on rank 2; cost 3
-// on rank 1, 4 and 5 on rank 2.
-WizardData Judged() {
-  WizardData model = ModelOf(3, 3);
-  StoreJudgments(model, kDirectType, 0, 3, 1.0, {2.0, 2.0, 1.0, 2.0, 1.0, 1.0});
-  return model;
-}
-
 TEST(DropOnARow, PlacesAListAttributeAndMarksItsOption) {
   Drags o(ModelOf(3, 2));
   o.Open();
@@ -76,7 +68,7 @@ TEST(DropOnARow, MovesAPlacedAttributeAndMarksTheOptionOfItsButtonsNumber) {
 }
 
 TEST(DropOnARow, OfAPlacedAttributeOnItsOwnRowChangesNothing) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   const Single top = o.B.cmdAttB[0].Top;
   o.Drag("cmdAttB(0)", "picOrder(0)");
@@ -143,7 +135,7 @@ TEST(DropOnARow, OfTheLastAttributeOfBothGroupsEnablesNextAtOnce) {
 }
 
 TEST(DropOnARow, ThatMovesAnAttributeAndBackLeavesTheOrderChanged) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   o.Drag("cmdAttB(2)", "picOrder(0)");
   o.Drag("cmdAttB(2)", "picOrder(1)");
@@ -175,7 +167,7 @@ TEST(DropOnAButton, FindsTheRowByTheRankNotTheInstance) {
 }
 
 TEST(DropOnAButton, MovesAPlacedAttributeOfAnotherRank) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   o.Drag("cmdAttB(2)", "cmdAttB(0)");
   EXPECT_TRUE(o.Data.OrderChanged);
@@ -187,7 +179,7 @@ TEST(DropOnAButton, MovesAPlacedAttributeOfAnotherRank) {
 }
 
 TEST(DropOnAButton, OfItsOwnRankDoesNothingAtAll) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   o.Drag("cmdAttB(1)", "cmdAttB(0)");
   EXPECT_FALSE(o.Data.OrderChanged);
@@ -214,7 +206,7 @@ TEST(DropOnAButton, OfTheOtherGroupDoesNothingAtAll) {
 }
 
 TEST(DropOnAButton, OfWhatIsNoButtonDoesNothing) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   Drags::DropOn(o.B.cmdAttB[0], o.B.lblAttName[1]);
   EXPECT_EQ(o.MarkedOption(o.B), -1);
@@ -245,7 +237,7 @@ TEST(OverARow, TheMarkerStandsBelowTheAttributesThatAreThere) {
 }
 
 TEST(OverARow, NothingIsDrawnForAPlacedAttributeOfThatRow) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   PictureBox& row = o.B.picOrder[0];
   Drags::Over(row, o.B.cmdAttB[1], DragState::Enter);
@@ -258,7 +250,7 @@ TEST(OverARow, NothingIsDrawnForAPlacedAttributeOfThatRow) {
 }
 
 TEST(OverARow, OfTheCostListAPlacedCostAttributeGetsTheMarkerOverItsOwnRowToo) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   PictureBox& row = o.C.picOrder[0];
   Drags::Over(row, o.C.cmdAttB[0], DragState::Enter);
@@ -266,7 +258,7 @@ TEST(OverARow, OfTheCostListAPlacedCostAttributeGetsTheMarkerOverItsOwnRowToo) {
 }
 
 TEST(OverARow, OfTheCostListAPlacedBenefitAttributeOfThatRankGetsNone) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   Drags::Over(o.C.picOrder[0], o.B.cmdAttB[0], DragState::Enter);
   EXPECT_TRUE(o.C.picOrder[0].Drawing.empty());
@@ -283,50 +275,8 @@ TEST(OverARow, AListAttributeOfTheOtherGroupGetsTheMarker) {
   EXPECT_EQ(o.C.picOrder[0].Drawing, MarkerOf(o.C.picOrder[0], 0));
 }
 
-// What the pointer says on its way, over rows and buttons that take the attribute and over all else.
-TEST(Pointer, SaysOfAListAttributeThatTheRowsOfItsGroupTakeIt) {
-  Drags o(Judged());
-  o.Open();
-  o.Click("cmdResetB");
-  o.Click("cmdAdd");
-  o.Place(0, 0);
-  o.Screen->Drag.Begin(o.B.cmdAttA[1]);
-  const auto taken = [&o](Control& target) {
-    o.Screen->Drag.Over(target, 1.0F, 1.0F);
-    return o.Screen->Drag.WouldBeTaken();
-  };
-  EXPECT_FALSE(taken(*o.Form));
-  EXPECT_TRUE(taken(o.B.picOrder[0]));
-  EXPECT_EQ(o.B.cmdAttA[1].MousePointer(), 12) << "the rule's value stays as it is";
-  EXPECT_TRUE(taken(o.B.picOrder[1]));
-  EXPECT_TRUE(taken(o.B.cmdAttB[0]));
-  EXPECT_FALSE(taken(*o.Form)) << "a gap between the rows";
-  EXPECT_EQ(o.B.cmdAttA[1].MousePointer(), 0);
-  EXPECT_FALSE(taken(o.B.picAttPanel)) << "nothing can be dropped back on the list";
-  EXPECT_FALSE(taken(o.B.lblAttName[0]));
-  EXPECT_FALSE(taken(o.C.picOrder[0])) << "refused by silence";
-  EXPECT_FALSE(taken(o.C.cmdAttB[0]));
-}
-
-TEST(Pointer, SaysOfAPlacedAttributeThatTheOtherRowsOfItsGroupTakeIt) {
-  Drags o(Judged());
-  o.Open();
-  for (const Group g : {Benefit, Cost}) {
-    const RankControls& own = g == Benefit ? o.B : o.C;
-    const RankControls& other = g == Benefit ? o.C : o.B;
-    Control& source = own.cmdAttB[0];  // on rank 1
-    EXPECT_FALSE(own.picOrder[0].AcceptsDrop(source)) << "a drop on its own row changes nothing";
-    EXPECT_TRUE(own.picOrder[1].AcceptsDrop(source));
-    EXPECT_FALSE(own.cmdAttB[0].AcceptsDrop(source));
-    EXPECT_TRUE(own.cmdAttB[2].AcceptsDrop(source));
-    EXPECT_FALSE(other.picOrder[1].AcceptsDrop(source));
-    EXPECT_FALSE(other.cmdAttB[2].AcceptsDrop(source));
-    EXPECT_FALSE(own.picOrder[1].AcceptsDrop(own.picOrder[0])) << "no attribute at all";
-  }
-}
-
 TEST(OverAButton, DrawsTheMarkerOfItsRowForEveryNotification) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   for (const DragState state : {DragState::Enter, DragState::Over, DragState::Leave}) {
     o.B.picOrder[0].Cls();
@@ -339,7 +289,7 @@ TEST(OverAButton, DrawsTheMarkerOfItsRowForEveryNotification) {
 }
 
 TEST(OverAButton, LeavesTheMarkerUntilTheRowIsClearedNext) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   o.Screen->Drag.Begin(o.B.cmdAttB[2]);
   o.Screen->Drag.Over(o.B.cmdAttB[0], 1.0F, 1.0F);
@@ -351,7 +301,7 @@ TEST(OverAButton, LeavesTheMarkerUntilTheRowIsClearedNext) {
 }
 
 TEST(OverAButton, OfItsOwnRankDrawsNothingInEitherList) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   Drags::Over(o.B.cmdAttB[0], o.B.cmdAttB[1], DragState::Over);
   EXPECT_TRUE(o.B.picOrder[0].Drawing.empty());
@@ -414,7 +364,7 @@ TEST(OverTheLists, ASourceWithoutAnOptionOfItsNumberMarksNone) {
 }
 
 TEST(OverTheLists, NothingCanBeDroppedBack) {
-  Drags o(Judged());
+  Drags o(AllPlaced());
   o.Open();
   EXPECT_FALSE(o.B.picAttPanel.DragDrop);
   EXPECT_FALSE(o.B.lblAttName[0].DragDrop);

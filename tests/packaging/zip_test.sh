@@ -29,7 +29,7 @@ check_exports() {  # MINGW FILE
   local names
   names=$(headers "$1" "$2" | awk '/Ordinal\/Name Pointer/ { on = 1; next } on && !NF { exit } on { print $NF }' |
     LC_ALL=C sort | xargs)
-  [ "$names" = "DllCanUnloadNow DllGetClassObject DllInstall DllRegisterServer DllUnregisterServer" ] ||
+  [ "$names" = "DllCanUnloadNow DllGetClassObject DllInstall DllRegisterServer DllUnregisterServer TarnwiseSetHelp" ] ||
     wrong "$2 exports $names"
 }
 

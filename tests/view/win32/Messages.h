@@ -90,8 +90,11 @@ inline void TypeReally(const std::vector<WORD>& chord) {
   SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
-// A press and its release as the mouse gives them to Windows, at a point of the window.
+// A press and its release as the mouse gives them to Windows, at a point of the window. It goes back to where it was:
+// on a screen without a window manager the windows of other tests would come up under it.
 inline void ClickReally(HWND window, POINT at) {
+  POINT before{};
+  GetCursorPos(&before);
   ClientToScreen(window, &at);
   SetCursorPos(at.x, at.y);
   for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
@@ -100,6 +103,7 @@ inline void ClickReally(HWND window, POINT at) {
     input.mi.dwFlags = flag;
     SendInput(1, &input, sizeof input);
   }
+  SetCursorPos(before.x, before.y);
 }
 
 inline void TakeMessages() {

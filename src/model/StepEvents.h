@@ -1,7 +1,7 @@
 // The events that all step forms raise towards the class that owns them.
 #pragma once
 
-#include <tarnwise/Arrays.h>
+#include "runtime/Arrays.h"
 #include <tarnwise/Variant.h>
 
 #include <functional>

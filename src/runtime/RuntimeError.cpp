@@ -1,4 +1,4 @@
-#include <tarnwise/Arrays.h>
+#include "runtime/Arrays.h"
 #include <tarnwise/Scalars.h>
 
 namespace Tarnwise {

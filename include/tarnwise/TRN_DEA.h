@@ -7,8 +7,9 @@
 //   dea.TranferABCoordinates(...);
 //   dea.ShowTarnwise();
 //
-// Attributes are numbered from 0 in the order of the model file; a model has NumAtts of them, at most 31, in two groups,
-// benefits and costs. In each group the user chooses a reference, against which the group's other attributes are judged.
+// Attributes are numbered from 0 in the order of the model file; a model has NumAtts of them, at most 31, in two
+// groups, benefits and costs. In each group the user chooses a reference, against which the group's other attributes
+// are judged.
 //
 // Threads: all calls and events of an object belong to the thread that made it. What the steps share (the model, the
 // ranking, the judgments under way) is one set per thread, not per object: two objects on one thread work on the same
@@ -27,12 +28,12 @@
 
 namespace Tarnwise {
 
-// Handlers; empty ones are not called. They run inside the user's click, synchronously. What a handler throws is told to
-// the user in a message box, and the click ends there.
+// Handlers; empty ones are not called. They run inside the user's click, synchronously. What a handler throws is told
+// to the user in a message box, and the click ends there.
 //
 // What comes by reference is the wizard's own: it is valid during the event only, so copy what you keep. What a handler
-// writes into it the wizard works with from then on. Arrays keep their length NumAtts; elements should be numbers, since
-// the wizard converts them where it needs them, and what does not convert is a run-time error in the step.
+// writes into it the wizard works with from then on. Arrays keep their length NumAtts; elements should be numbers,
+// since the wizard converts them where it needs them, and what does not convert is a run-time error in the step.
 struct TRN_DEA_Events {
   // The wizard ends: answer by the method UnloadTarnwise, here or later; nothing is closed before. fIndex is the
   // FileIndex of GetCurFileData. WeightsDone: true after Finish, when the exports have been raised; false when the user
@@ -40,8 +41,8 @@ struct TRN_DEA_Events {
   std::function<void(Integer fIndex, Boolean WeightsDone)> UnloadTarnwise;
 
   // The judgments, on Finish of either approach: RJType is "DEA_DIRECT" or "DEA_TRADEOFFS". BRefAttID and CRefAttID are
-  // the references of the benefits and the costs, 0 for a group without attributes. Element j of the arrays is the ratio
-  // Wj/Wr, r being the reference of j's group: its middle, its upper and its lower bound; 1 for the references
+  // the references of the benefits and the costs, 0 for a group without attributes. Element j of the arrays is the
+  // ratio Wj/Wr, r being the reference of j's group: its middle, its upper and its lower bound; 1 for the references
   // themselves and for what shares their rank. RefAttWR is W(CRefAttID)/W(BRefAttID): the Integer 1 where it was never
   // judged, a Double once it was.
   std::function<void(const String& RJType, Integer BRefAttID, Integer CRefAttID, Variant& RefAttWR,
@@ -83,9 +84,9 @@ class TRN_DEA {
 
   // What a session is about, before anything else. KestaDir: the host's folder, as text, in which the wizard looks for
   // the help file KESTA.HLP and the drag icons adrag.ico and bdrag.ico. FileIndex: a number of the host's own, handed
-  // back by UnloadTarnwise. PathAndFileName: the model file, which is read now; a missing one comes to be, empty. A file
-  // that can't be opened is told to the user, not to the host, and the model read before stays.
-  // RuntimeError 94 for a KestaDir that is Null; std::bad_alloc where there is no memory for the model.
+  // back by UnloadTarnwise. PathAndFileName: the model file, which is read now; a missing one comes to be, empty. A
+  // file that can't be opened is told to the user, not to the host, and the model read before stays. RuntimeError 94
+  // for a KestaDir that is Null; std::bad_alloc where there is no memory for the model.
   void GetCurFileData(const Variant& KestaDir, Integer FileIndex, const String& PathAndFileName);
 
   // Hides and releases all step forms, in whatever step the user is. Without forms it does nothing.

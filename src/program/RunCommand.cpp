@@ -1,3 +1,4 @@
+#include "model/ModelFile.h"
 #include "model/mdTRNMain.h"
 #include "modelfiles/Judgments.h"
 #include "modelfiles/PlainJson.h"
@@ -52,7 +53,7 @@ void Save(const String& model, const Judgments& judgments, const WizardData& dat
 }
 
 // Shows the wizard until the user is through with it; nothing when the user cancelled.
-std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model) {
+std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model, int numAtts) {
   std::optional<Judgments> exported;
   bool done = false;
   dea.Events().SendMasseges = [](const String& Msg) { std::cerr << Msg << std::endl; };
@@ -64,7 +65,7 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
   };
   const std::filesystem::path folder = PathFromText(model).parent_path();
   dea.GetCurFileData(folder.empty() ? String(".") : TextFromPath(folder), kFileIndex, model);
-  dea.TranferABCoordinates(StartingPoints(model, dea.Data().NumAtts()));
+  dea.TranferABCoordinates(StartingPoints(model, numAtts));
   dea.ShowTarnwise();
   screen.Wait();
   if (!done) exported.reset();
@@ -74,16 +75,17 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
 }  // namespace
 
 int RunWizard(const RunOptions& options, int& argc, char** argv) {
-  FileBytes(options.Model);  // a model that is not there is told here, where nothing has been opened yet
+  WizardData model;
+  ReadModel(model, FileBytes(options.Model));  // one that is not there is told here, where nothing has been opened yet
   const RunScreen screen = OpenScreen(argc, argv, options.Com);
   const std::unique_ptr<Hosted> dea = screen.Make();
-  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model);
+  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model, model.NumAtts());
   if (!judgments) {
     std::cerr << "Cancelled: no judgments were handed over." << std::endl;
     return kCancelled;
   }
-  std::cout << JudgmentsJson(*judgments, dea->Data()).dump(2) << std::endl;
-  if (options.Save) Save(options.Model, *judgments, dea->Data());
+  std::cout << JudgmentsJson(*judgments, model).dump(2) << std::endl;
+  if (options.Save) Save(options.Model, *judgments, model);
   return 0;
 }
 

@@ -1,5 +1,5 @@
-#include "direct/RegionVerdict.h"
 #include "direct/Ranked.h"
+#include "direct/RegionVerdict.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

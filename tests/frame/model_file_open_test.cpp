@@ -1,6 +1,6 @@
-#include "wizard/OpenModel.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"
+#include "wizard/OpenModel.h"
 
 #include "ModelFileBytes.h"
 #include "TemporaryFolder.h"

@@ -118,7 +118,8 @@ struct TradeOffStep : OpenForm<frmTradeOffsB> {
   void MoveMark(Control& mark, Single x, Single y) {
     const frmTradeOffsB& f = *Form;
     const PictureBox& plot = f.Chart.picTradeOffsRange;
-    DropInPlot(mark, (x - f.Plot.Scale.XMin) / (f.Plot.Scale.XMax - f.Plot.Scale.XMin) * plot.Width(), (f.Plot.Scale.YMax - y) / (f.Plot.Scale.YMax - f.Plot.Scale.YMin) * plot.Height());
+    DropInPlot(mark, (x - f.Plot.Scale.XMin) / (f.Plot.Scale.XMax - f.Plot.Scale.XMin) * plot.Width(),
+               (f.Plot.Scale.YMax - y) / (f.Plot.Scale.YMax - f.Plot.Scale.YMin) * plot.Height());
   }
 };
 

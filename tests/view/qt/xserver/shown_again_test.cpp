@@ -1,7 +1,7 @@
 // A host that shows the first step again while a later one is open.
 #include "Person.h"
-#include "support/Models.h"
 #include "forms/WizardForm.h"
+#include "support/Models.h"
 
 #include <tarnwise/TRN_DEA.h>
 

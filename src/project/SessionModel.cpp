@@ -1,6 +1,7 @@
 #include "project/SessionModel.h"
 
 #include "modelfiles/PlainJson.h"
+#include "modelfiles/WholeFile.h"
 #include "project/CsvRows.h"
 #include "project/NiceRange.h"
 #include "project/ProjectChecks.h"

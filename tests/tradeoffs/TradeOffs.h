@@ -1,8 +1,8 @@
 // Trade-offs in tests: models whose values are a hundredth of their scores, and the step on a screen of its own.
 #pragma once
 
-#include "direct/Ranked.h"
-#include "runtime/ErrorNumber.h"
+#include "support/ErrorNumber.h"
+#include "support/Ranked.h"
 #include "support/TestHost.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Input.h"
@@ -118,7 +118,8 @@ struct TradeOffStep : OpenForm<frmTradeOffsB> {
   void MoveMark(Control& mark, Single x, Single y) {
     const frmTradeOffsB& f = *Form;
     const PictureBox& plot = f.Chart.picTradeOffsRange;
-    DropInPlot(mark, (x - f.Plot.Scale.XMin) / (f.Plot.Scale.XMax - f.Plot.Scale.XMin) * plot.Width(), (f.Plot.Scale.YMax - y) / (f.Plot.Scale.YMax - f.Plot.Scale.YMin) * plot.Height());
+    DropInPlot(mark, (x - f.Plot.Scale.XMin) / (f.Plot.Scale.XMax - f.Plot.Scale.XMin) * plot.Width(),
+               (f.Plot.Scale.YMax - y) / (f.Plot.Scale.YMax - f.Plot.Scale.YMin) * plot.Height());
   }
 };
 

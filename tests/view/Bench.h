@@ -2,10 +2,10 @@
 // first, rows that take drops inside a viewport, a chart in pixel scale.
 #pragma once
 
+#include "forms/WizardForm.h"
 #include "support/TestHost.h"
 #include "view/Input.h"
 #include "view/Reach.h"
-#include "forms/WizardForm.h"
 
 namespace Tarnwise {
 

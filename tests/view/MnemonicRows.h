@@ -1,12 +1,12 @@
 // Every mnemonic of every form and what it leads to, for the tests of each toolkit to go through.
 #pragma once
 
-#include "view/Captions.h"
-#include "view/Platform.h"
 #include "forms/DirectBForm.h"
 #include "forms/IniImpOrderForm.h"
 #include "forms/SelMethodForm.h"
 #include "forms/TradeOffsBForm.h"
+#include "view/Captions.h"
+#include "view/Platform.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // A form of a few controls on real widgets, and what the tests do to it.
 #pragma once
 
+#include "forms/WizardForm.h"
 #include "view/Form.h"
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
-#include "forms/WizardForm.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtToolkit.h"
 

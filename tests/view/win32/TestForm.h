@@ -2,11 +2,11 @@
 #pragma once
 
 #include "Messages.h"
+#include "forms/WizardForm.h"
 #include "view/Form.h"
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
-#include "forms/WizardForm.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"

@@ -1,7 +1,7 @@
 #include "Person.h"
+#include "forms/TradeOffsBForm.h"
 #include "judging/NumberKeys.h"
 #include "view/Input.h"
-#include "forms/TradeOffsBForm.h"
 
 #include <QClipboard>
 #include <QLineEdit>

@@ -8,11 +8,11 @@
 #include "Models.h"
 #include "curves/mdGraphs.h"
 #include "direct/frmDirectB.h"
-#include "wizard/OpenModel.h"
 #include "modelfiles/ModelWriter.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Platform.h"
 #include "view/headless/HeadlessToolkit.h"
+#include "wizard/OpenModel.h"
 
 #include <benchmark/benchmark.h>
 #include <gsl/gsl_interp.h>

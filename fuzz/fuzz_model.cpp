@@ -3,9 +3,9 @@
 #include "Expect.h"
 #include "PlainReader.h"
 #include "model/ModelFile.h"
-#include "wizard/OpenModel.h"
 #include "modelfiles/ModelWriter.h"
 #include "view/Platform.h"
+#include "wizard/OpenModel.h"
 
 #include <tarnwise/TRN_DEA.h>
 

@@ -39,7 +39,7 @@ class ClassFactory final : public IClassFactory {
     if (outer != nullptr) return CLASS_E_NOAGGREGATION;
     return Guarded([&] {
       CheckApartment();
-      auto* const component = new Component;
+      Component* const component = MakeComponent();
       const HRESULT outcome = component->QueryInterface(iid, object);
       component->Release();
       Check(outcome, "The object has no such interface.");

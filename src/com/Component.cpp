@@ -4,9 +4,7 @@
 #include "com/Convert.h"
 #include "com/Screen.h"
 #include "com/TypeInfo.h"
-#include "model/mdTRNMain.h"
 #include "view/Platform.h"
-#include "view/win32/Win32Driver.h"
 
 #include <olectl.h>
 
@@ -21,7 +19,7 @@ SAFEARRAY* Given(SAFEARRAY** array) {
 
 }  // namespace
 
-Component::Component() : data_(mdTRNMain()), sinks_(*this), screen_(MakeScreen()) {}
+Component::Component() : screen_(MakeScreen()), sinks_(*this) {}
 
 STDMETHODIMP Component::QueryInterface(REFIID iid, void** object) {
   if (object == nullptr) return E_POINTER;
@@ -35,8 +33,6 @@ STDMETHODIMP Component::QueryInterface(REFIID iid, void** object) {
     *object = static_cast<IProvideClassInfo2*>(this);
   } else if (iid == IID_ITarnwiseHelp) {
     *object = static_cast<ITarnwiseHelp*>(this);
-  } else if (iid == IID_ITarnwisePlayerAccess) {
-    *object = static_cast<ITarnwisePlayerAccess*>(this);
   } else {
     *object = nullptr;
     return E_NOINTERFACE;
@@ -135,21 +131,6 @@ STDMETHODIMP Component::GetGUID(DWORD kind, GUID* guid) {
   if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) return E_INVALIDARG;
   *guid = DIID___TRN_DEA;
   return S_OK;
-}
-
-STDMETHODIMP Component::Access(std::shared_ptr<Platform>** screen, WizardData** data) {
-  if (screen == nullptr || data == nullptr) return E_POINTER;
-  *screen = &screen_;
-  *data = &data_;
-  return S_OK;
-}
-
-STDMETHODIMP Component::MakeDriver(std::unique_ptr<Driver>* driver) {
-  if (driver == nullptr) return E_POINTER;
-  return Guarded([&] {
-    CheckThread();
-    *driver = MakeWin32Driver(screen_);
-  });
 }
 
 }  // namespace Tarnwise

@@ -4,9 +4,8 @@
 #include "com/ConnectionPoint.h"
 #include "com/Errors.h"
 #include "com/Module.h"
-#include "com/PlayerAccess.h"
 
-#include "model/PointArrays.h"
+#include "model/mdTRNMain.h"
 
 #include <tarnwise/TRN_DEA.h>
 
@@ -21,12 +20,11 @@ class EventArguments;
 constexpr std::size_t kScoreArrays = kPointFields;
 using ScoreArrays = std::array<SAFEARRAY*, kScoreArrays>;
 
-class Component final : public _TRN_DEA,
-                        public ISupportErrorInfo,
-                        public IConnectionPointContainer,
-                        public IProvideClassInfo2,
-                        public ITarnwiseHelp,
-                        public ITarnwisePlayerAccess {
+class Component : public _TRN_DEA,
+                  public ISupportErrorInfo,
+                  public IConnectionPointContainer,
+                  public IProvideClassInfo2,
+                  public ITarnwiseHelp {
  public:
   Component();
   Component(const Component&) = delete;
@@ -55,12 +53,16 @@ class Component final : public _TRN_DEA,
   STDMETHODIMP GetClassInfo(ITypeInfo** info) override;
   STDMETHODIMP GetGUID(DWORD kind, GUID* guid) override;
   STDMETHODIMP SetHelp(IDispatch* Handler) override;
-  STDMETHODIMP Access(std::shared_ptr<Platform>** screen, WizardData** data) override;
-  STDMETHODIMP MakeDriver(std::unique_ptr<Driver>* driver) override;
+
+ protected:
+  virtual ~Component() = default;
+
+  void CheckThread() const;
+
+  WizardData& data_ = mdTRNMain();  // of this thread
+  std::shared_ptr<Platform> screen_;
 
  private:
-  ~Component() = default;
-
   // Runs `body` on the wizard, on its own thread only. The object lives on until it returns, whatever a host does in
   // the events meanwhile.
   template <class Body>
@@ -71,7 +73,6 @@ class Component final : public _TRN_DEA,
       body(Wizard());
     });
   }
-  void CheckThread() const;
   TRN_DEA& Wizard();  // made when it is first needed
   void CallMethod(TRN_DEA& wizard, DISPID method, const DISPPARAMS& parameters) const;
   void Transfer(TRN_DEA& wizard, const ScoreArrays& scores) const;
@@ -82,10 +83,11 @@ class Component final : public _TRN_DEA,
   const ModuleUse use_;
   LONG references_ = 1;
   const DWORD thread_ = GetCurrentThreadId();
-  WizardData& data_;  // of this thread
   ConnectionPoint sinks_;
-  std::shared_ptr<Platform> screen_;
   std::optional<TRN_DEA> wizard_;
 };
+
+// A new object, with one reference. The component that our own tests drive makes one that the session player can reach.
+Component* MakeComponent();
 
 }  // namespace Tarnwise

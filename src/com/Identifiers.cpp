@@ -4,6 +4,6 @@
 #include <initguid.h>
 
 // After initguid.h, which turns its declarations into definitions.
-#include "com/PlayerAccess.h"
+#include "com/player/PlayerAccess.h"
 
 #include <Tarnwise_DEA.h>

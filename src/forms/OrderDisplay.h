@@ -1,8 +1,8 @@
 // A finished rank order of one group, to look at or to choose from: rows of buttons in a scrolled viewport.
 #pragma once
 
-#include "model/Groups.h"
 #include "forms/WizardForm.h"
+#include "model/Groups.h"
 
 namespace Tarnwise {
 

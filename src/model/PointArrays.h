@@ -1,8 +1,8 @@
 // The points of the trade-offs: a record for each attribute, and nine arrays where they pass between host and wizard.
 #pragma once
 
-#include <tarnwise/Arrays.h>
 #include <tarnwise/Variant.h>
+#include "runtime/Arrays.h"
 
 #include <array>
 

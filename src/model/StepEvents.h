@@ -1,8 +1,8 @@
 // The events that all step forms raise towards the class that owns them.
 #pragma once
 
-#include <tarnwise/Arrays.h>
 #include <tarnwise/Variant.h>
+#include "runtime/Arrays.h"
 
 #include <functional>
 #include <utility>

@@ -1,4 +1,6 @@
+#include "model/ModelFile.h"
 #include "model/mdTRNMain.h"
+#include "modelfiles/Judgments.h"
 #include "modelfiles/PlainJson.h"
 #include "modelfiles/PointsFile.h"
 #include "modelfiles/SaveModel.h"
@@ -15,17 +17,6 @@ namespace {
 
 constexpr int kCancelled = 1;
 constexpr Integer kFileIndex = 1;
-
-struct Judgments {
-  String RJType;
-  Integer BRefAttID = 0;
-  Integer CRefAttID = 0;
-  Variant RefAttWR;
-  VariantArray Weights;
-  VariantArray WeightsH;
-  VariantArray WeightsL;
-  std::optional<PointArrays> TradeOffs;
-};
 
 Json JudgmentsJson(const Judgments& judgments, const WizardData& data) {
   Json attributes = Json::array();
@@ -54,32 +45,19 @@ PointArrays StartingPoints(const String& model, int numAtts) {
   }
 }
 
-// The export has the orientations that went in; a resumed wizard wants those that the corners show.
-PointArrays WithOrientations(PointArrays p) {
-  p[kAOrientation] = OrientationsOf(p[kALX], p[kALY], p[kAUX], p[kAUY]);
-  return p;
-}
-
 void Save(const String& model, const Judgments& judgments, const WizardData& data) {
-  if (judgments.TradeOffs) WritePoints(model, WithOrientations(*judgments.TradeOffs));
+  if (judgments.TradeOffs) WritePoints(model, ResumablePoints(*judgments.TradeOffs));
   SaveJudgments(model, data, judgments.RJType, judgments.BRefAttID, judgments.CRefAttID, judgments.RefAttWR,
                 judgments.Weights, judgments.WeightsH, judgments.WeightsL);
   std::cerr << "The judgments are stored in " << model << "; the next run resumes from them." << std::endl;
 }
 
 // Shows the wizard until the user is through with it; nothing when the user cancelled.
-std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model) {
+std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String& model, int numAtts) {
   std::optional<Judgments> exported;
   bool done = false;
   dea.Events().SendMasseges = [](const String& Msg) { std::cerr << Msg << std::endl; };
-  dea.Events().ExportDirectBW = [&exported](const String& RJType, Integer BRefAttID, Integer CRefAttID,
-                                            const Variant& RefAttWR, const VariantArray& Weights,
-                                            const VariantArray& WeightsH, const VariantArray& WeightsL) {
-    exported = Judgments{RJType, BRefAttID, CRefAttID, RefAttWR, Weights, WeightsH, WeightsL, {}};
-  };
-  dea.Events().ExportABScores = [&exported](const auto&... arrays) {
-    if (exported) exported->TradeOffs = PointArrays{arrays...};
-  };
+  CollectJudgments(dea.Events(), [&exported](const Judgments& judgments) { exported = judgments; });
   dea.Events().UnloadTarnwise = [&](Integer /*fIndex*/, Boolean WeightsDone) {
     done = WeightsDone;
     dea.UnloadTarnwise();
@@ -87,7 +65,7 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
   };
   const std::filesystem::path folder = PathFromText(model).parent_path();
   dea.GetCurFileData(folder.empty() ? String(".") : TextFromPath(folder), kFileIndex, model);
-  dea.TranferABCoordinates(StartingPoints(model, dea.Data().NumAtts()));
+  dea.TranferABCoordinates(StartingPoints(model, numAtts));
   dea.ShowTarnwise();
   screen.Wait();
   if (!done) exported.reset();
@@ -97,16 +75,17 @@ std::optional<Judgments> Ask(Hosted& dea, const RunScreen& screen, const String&
 }  // namespace
 
 int RunWizard(const RunOptions& options, int& argc, char** argv) {
-  FileBytes(options.Model);  // a model that is not there is told here, where nothing has been opened yet
+  WizardData model;
+  ReadModel(model, FileBytes(options.Model));  // one that is not there is told here, where nothing has been opened yet
   const RunScreen screen = OpenScreen(argc, argv, options.Com);
   const std::unique_ptr<Hosted> dea = screen.Make();
-  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model);
+  const std::optional<Judgments> judgments = Ask(*dea, screen, options.Model, model.NumAtts());
   if (!judgments) {
     std::cerr << "Cancelled: no judgments were handed over." << std::endl;
     return kCancelled;
   }
-  std::cout << JudgmentsJson(*judgments, dea->Data()).dump(2) << std::endl;
-  if (options.Save) Save(options.Model, *judgments, dea->Data());
+  std::cout << JudgmentsJson(*judgments, model).dump(2) << std::endl;
+  if (options.Save) Save(options.Model, *judgments, model);
   return 0;
 }
 

@@ -23,4 +23,11 @@ class Utf8Output {
   unsigned former_ = 0;
 };
 
+// Whether a person sees what goes there.
+bool OutputIsTerminal();
+bool ErrorIsTerminal();
+
+// Whether the terminal of the output obeys the control sequences of colours.
+bool OutputObeysColours();
+
 }  // namespace Tarnwise

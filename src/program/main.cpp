@@ -1,19 +1,40 @@
 // The program `tarnwise`: shows the wizard on a model, plays session scripts, builds and shows model files, imports
-// projects.
+// projects, and works out their results.
+#include "dea/Watch.h"
 #include "program/Commands.h"
 #include "program/ImportCommand.h"
+#include "program/Interrupt.h"
 #include "program/ModelCommands.h"
 #include "program/Screens.h"
+#include "program/SolveCommand.h"
 #include "program/SystemText.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iostream>
 
 namespace {
 
 using namespace Tarnwise;
+
+bool WantsColours() {
+  const char* const no = std::getenv("NO_COLOR");
+  return (no == nullptr || *no == '\0') && OutputObeysColours();
+}
+
+// A command that computes, and that Ctrl+C ends cleanly.
+template <class Command>
+int Compute(Command command) {
+  const Interrupt interrupt;
+  try {
+    return command(Console{std::cout, std::cerr, WantsColours(), ErrorIsTerminal(), interrupt.Flag()});
+  } catch (const Dea::Cancelled&) {
+    std::cerr << "Cancelled.\n";
+    return interrupt.Status();
+  }
+}
 
 int Main(int argc, char** argv) {
   CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
@@ -40,6 +61,8 @@ int Main(int argc, char** argv) {
 
   ImportOptions import;
   const CLI::App* const importCommand = AddImportCommand(app, import);
+  SolveOptions solve;
+  const CLI::App* const solveCommand = AddSolveCommand(app, solve);
 
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
@@ -60,10 +83,13 @@ int Main(int argc, char** argv) {
     std::reverse(arguments.begin(), arguments.end());  // the library takes them off the end
     app.parse(arguments);
   } catch (const CLI::ParseError& error) {
-    return app.exit(error);
+    return app.exit(error) == 0 ? kDone : kRefused;
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
   if (importCommand->parsed()) return ImportProject(import, TimeNow(), std::cout, std::cerr);
+  if (solveCommand->parsed()) {
+    return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
+  }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
   return RunWizard(run, argc, argv);

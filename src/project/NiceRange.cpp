@@ -35,6 +35,12 @@ Step SmallestFrom(double least) {
   return step;
 }
 
+double AtOrBelow(double number, const Step& step) {
+  double count = std::floor(number / step.Times(1.0)) + 1.0;
+  while (step.Times(count) > number) count -= 1.0;
+  return step.Times(count);
+}
+
 double Below(double number, const Step& step) {
   double count = std::floor(number / step.Times(1.0)) + 1.0;
   while (step.Times(count) >= number) count -= 1.0;
@@ -59,6 +65,16 @@ Range NiceRange(double low, double high) {
   }
   range.High += 0.0;  // no -0
   return range;
+}
+
+Range RoundedOutward(double low, double high) {
+  constexpr double kSteps = 100.0;
+  const Range plain{low, high};
+  const double least = (high - low) / kSteps;
+  if (!std::isnormal(least) || std::fmax(std::fabs(low), std::fabs(high)) / least > kMostSteps) return plain;
+  const Step step = SmallestFrom(least);
+  const Range range{AtOrBelow(low, step) + 0.0, 0.0 - AtOrBelow(-high, step)};
+  return std::isfinite(range.Low) && std::isfinite(range.High) ? range : plain;
 }
 
 }  // namespace Tarnwise

@@ -15,4 +15,8 @@ struct Range {
 // Double the ends are the data's own.
 Range NiceRange(double low, double high);
 
+// The ends rounded outward to steps of which a hundred cover the range: 15 to 60 stays, 17.23 to 58.3 gives 17 to 58.5.
+// The ends of an import stay as they are. low < high, both finite; where steps are too small, the ends themselves.
+Range RoundedOutward(double low, double high);
+
 }  // namespace Tarnwise

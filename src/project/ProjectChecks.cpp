@@ -204,19 +204,9 @@ std::vector<String> SessionNotes(const Project& project, std::size_t session) {
   for (const SessionAttribute& attribute : judged.Attributes) {
     const String name = ShownName(attribute.Name);
     const DataColumn* const column = FindColumn(project, attribute.Name);
-    if (!IsUsed(column)) {
-      notes.push_back(name + " is passed over: " + (column == nullptr ? "there is no such column" : "it is not used"));
-      continue;
-    }
-    if (attribute.Name == judged.BenefitReference || attribute.Name == judged.CostReference) continue;
-    if (!attribute.Judged) continue;
-    if (attribute.Low == 0.0 && attribute.High == 0.0) {
-      notes.push_back(name + " is not judged: low and high are 0");
-    } else if (attribute.Low == 0.0) {
-      notes.push_back(name + " has no lower bound: low is 0");
-    } else if (attribute.High == 0.0) {
-      notes.push_back(name + " has no upper bound: high is 0");
-    }
+    if (IsUsed(column)) continue;
+    notes.push_back(SessionPlace(session) + ": " + name +
+                    " is passed over: " + (column == nullptr ? "there is no such column." : "it is not used."));
   }
   return notes;
 }

@@ -25,7 +25,7 @@ void CheckSession(const Project& project, std::size_t session);
 // All of these, and CheckSession of all sessions.
 void CheckProject(const Project& project);
 
-// What a session holds without effect, a sentence each: attributes that are no used columns, bounds of 0.
+// The attributes of a session that are passed over, since they are no used columns, a sentence each.
 std::vector<String> SessionNotes(const Project& project, std::size_t session);
 
 }  // namespace Tarnwise

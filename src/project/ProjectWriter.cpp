@@ -1,96 +1,21 @@
-#include "modelfiles/WholeFile.h"
-#include "project/NumberText.h"
+#include "project/JsonMembers.h"
 #include "project/ProjectFile.h"
-
-#include <nlohmann/json.hpp>
-
-#include <algorithm>
-#include <cmath>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr const char* kOnOneLine = ", ";
 constexpr const char* kTopLines = ",\n  ";
 constexpr const char* kSessionLines = ",\n      ";
 
-String Quotes(const String& text, const String& field) {
-  try {
-    return nlohmann::json(text).dump();
-  } catch (const nlohmann::json::exception&) {
-    throw ModelFault(field + ": the text is not valid UTF-8");
-  }
-}
-
-void PutNumber(String& out, double number, const String& field) {
-  if (!std::isfinite(number)) throw ModelFault(field + ": it is no finite number");
-  out += ShortestText(number);
-}
-
-// The members of one object, as far as they are there.
-class Members {
- public:
-  Members(String& out, const char* separator) : out_(out), separator_(separator) {
-    out_ += '{';
-    out_ += separator[1] == '\n' ? separator + 1 : "";
-  }
-
-  String& Key(const String& key) {
-    if (!written_.empty()) out_ += separator_;
-    written_.push_back(key);
-    out_ += Quotes(key, "key") + ": ";
-    return out_;
-  }
-
-  void NeededText(const String& key, const String& text) { Key(key) += Quotes(text, key); }
-  void Text(const String& key, const String& text) {
-    if (!text.empty()) NeededText(key, text);
-  }
-  void Number(const String& key, const std::optional<double>& number) {
-    if (number) PutNumber(Key(key), *number, key);
-  }
-  void Whole(const String& key, std::int64_t number) { Key(key) += std::to_string(number); }
-  void Json(const String& key, const String& json) {
-    if (!json.empty()) Key(key) += json;
-  }
-  template <class Named>
-  void Name(const String& key, const std::optional<Named>& value) {
-    if (value) NeededText(key, NameOf(*value));
-  }
-
-  // A key that has been written since is not written twice.
-  void Others(const OtherKeys& others) {
-    for (const OtherKey& other : others) {
-      if (std::find(written_.begin(), written_.end(), other.Name) == written_.end()) Json(other.Name, other.Value);
-    }
-  }
-
- private:
-  String& out_;
-  const char* separator_;
-  std::vector<String> written_;
-};
-
-// A list, an item a line.
-template <class Items, class PutItem>
-void PutLines(String& out, const Items& items, const String& margin, PutItem putItem) {
-  out += '[';
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    out += (i == 0 ? "\n" : ",\n") + margin + "  ";
-    putItem(items[i]);
-  }
-  out += items.empty() ? "]" : "\n" + margin + "]";
-}
-
-void PutCurve(Members& members, String& out, const std::vector<ValuePoint>& curve) {
+void PutCurve(JsonMembers& members, String& out, const std::vector<ValuePoint>& curve) {
   if (curve.empty()) return;
   members.Key("curve") += '[';
   for (std::size_t k = 0; k < curve.size(); ++k) {
     out += k == 0 ? "[" : ", [";
-    PutNumber(out, curve[k].Score, "curve");
+    PutShortest(out, curve[k].Score, "curve");
     out += ", ";
-    PutNumber(out, curve[k].Value, "curve");
+    PutShortest(out, curve[k].Value, "curve");
     out += ']';
   }
   out += ']';
@@ -101,7 +26,7 @@ void PutValues(String& out, const std::vector<std::optional<double>>& values) {
   for (std::size_t i = 0; i < values.size(); ++i) {
     if (i != 0) out += ", ";
     if (values[i]) {
-      PutNumber(out, *values[i], "values");
+      PutShortest(out, *values[i], "values");
     } else {
       out += "null";
     }
@@ -110,7 +35,7 @@ void PutValues(String& out, const std::vector<std::optional<double>>& values) {
 }
 
 void PutSource(String& out, const ProjectSource& source) {
-  Members members(out, kOnOneLine);
+  JsonMembers members(out, kOnOneLine);
   members.Text("file", source.File);
   members.Text("sha256", source.Sha256);
   members.Text("imported", source.Imported);
@@ -122,7 +47,7 @@ void PutSource(String& out, const ProjectSource& source) {
 }
 
 void PutColumn(String& out, const DataColumn& column) {
-  Members members(out, kOnOneLine);
+  JsonMembers members(out, kOnOneLine);
   members.NeededText("name", column.Name);
   members.NeededText("role", NameOf(column.Role));
   members.Text("unit", column.Unit);
@@ -140,7 +65,7 @@ void PutColumn(String& out, const DataColumn& column) {
 }
 
 void PutAttribute(String& out, const SessionAttribute& attribute) {
-  Members members(out, kOnOneLine);
+  JsonMembers members(out, kOnOneLine);
   members.NeededText("name", attribute.Name);
   members.Number("low", attribute.Low);
   members.Number("ratio", attribute.Ratio);
@@ -156,7 +81,7 @@ void PutAttribute(String& out, const SessionAttribute& attribute) {
 }
 
 void PutCross(String& out, const SessionCross& cross) {
-  Members members(out, kOnOneLine);
+  JsonMembers members(out, kOnOneLine);
   members.Number("ratio", cross.Ratio);
   members.Json("judged", cross.Judged ? "true" : "false");
   members.Others(cross.Others);
@@ -164,7 +89,7 @@ void PutCross(String& out, const SessionCross& cross) {
 }
 
 void PutSession(String& out, const JudgmentSession& session) {
-  Members members(out, kSessionLines);
+  JsonMembers members(out, kSessionLines);
   members.Text("made", session.Made);
   members.Text("by", session.By);
   members.Text("note", session.Note);
@@ -181,7 +106,7 @@ void PutSession(String& out, const JudgmentSession& session) {
 }
 
 void PutUse(String& out, const ProjectUse& use) {
-  Members members(out, kOnOneLine);
+  JsonMembers members(out, kOnOneLine);
   if (use.NoSession) members.Json("session", "null");
   if (use.Session && !use.NoSession) members.Key("session") += std::to_string(*use.Session);
   members.Name("form", use.Form);
@@ -196,11 +121,11 @@ void PutUse(String& out, const ProjectUse& use) {
 
 String ProjectText(const Project& project) {
   String out;
-  Members members(out, kTopLines);
+  JsonMembers members(out, kTopLines);
   members.Whole("tarnwise", 1);
   members.Text("name", project.Name);
   if (project.Source) PutSource(members.Key("source"), *project.Source);
-  PutLines(members.Key("units"), project.Units, "  ", [&out](const String& unit) { out += Quotes(unit, "units"); });
+  PutLines(members.Key("units"), project.Units, "  ", [&out](const String& unit) { out += JsonQuotes(unit, "units"); });
   PutLines(members.Key("columns"), project.Columns, "  ", [&out](const DataColumn& column) { PutColumn(out, column); });
   if (!project.Sessions.empty()) {
     PutLines(members.Key("sessions"), project.Sessions, "  ",

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cmath>
 #include <cstdio>
 
 namespace Tarnwise {
@@ -30,11 +32,9 @@ String Escape(unsigned char byte) {
 
 }  // namespace
 
-String ShownName(std::string_view name) {
-  std::size_t size = std::min(name.size(), kLongest);
-  while (size < name.size() && size > 0 && IsContinuation(name[size])) --size;
+String WholeName(std::string_view name) {
   String shown;
-  for (std::size_t i = 0; i < size; ++i) {
+  for (std::size_t i = 0; i < name.size(); ++i) {
     if (!IsControl(name, i)) {
       shown += name[i];
       continue;
@@ -42,6 +42,13 @@ String ShownName(std::string_view name) {
     if (static_cast<unsigned char>(name[i]) == 0xC2) ++i;
     shown += Escape(static_cast<unsigned char>(name[i]));
   }
+  return shown;
+}
+
+String ShownName(std::string_view name) {
+  std::size_t size = std::min(name.size(), kLongest);
+  while (size < name.size() && size > 0 && IsContinuation(name[size])) --size;
+  const String shown = WholeName(name.substr(0, size));
   return size < name.size() ? shown + "..." : shown;
 }
 
@@ -57,6 +64,28 @@ String Enumerated(const std::vector<String>& items, const char* between) {
   for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : between) + items[i];
   if (items.size() > count) text += " and " + std::to_string(items.size() - count) + " more";
   return text;
+}
+
+String FixedText(double number, int decimals) {
+  std::array<char, 512> text{};
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), number + 0.0, std::chars_format::fixed, decimals).ptr;
+  String fixed(text.data(), end);
+  const bool isMinusZero = fixed.front() == '-' && fixed.find_first_not_of("-0.") == String::npos;
+  return isMinusZero ? fixed.substr(1) : fixed;
+}
+
+String SignificantText(double number, int digits) {
+  const double size = std::fabs(number);
+  if (size >= 1e-4 && size < 1e15) {
+    const int before = static_cast<int>(std::floor(std::log10(size))) + 1;
+    return FixedText(number, std::max(0, digits - before));
+  }
+  if (number == 0.0) return "0";
+  std::array<char, 64> text{};
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, digits).ptr;
+  return {text.data(), end};
 }
 
 }  // namespace Tarnwise

@@ -1,5 +1,5 @@
-#include <tarnwise/Arrays.h>
 #include <tarnwise/Scalars.h>
+#include "runtime/Arrays.h"
 
 namespace Tarnwise {
 

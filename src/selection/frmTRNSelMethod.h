@@ -1,9 +1,9 @@
 // The first step: which approach, and whether consistency is controlled.
 #pragma once
 
+#include "forms/SelMethodForm.h"
 #include "model/StepEvents.h"
 #include "model/mdTRNMain.h"
-#include "forms/SelMethodForm.h"
 
 namespace Tarnwise {
 

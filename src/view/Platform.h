@@ -5,7 +5,7 @@
 #include "view/Drag.h"
 #include "view/Form.h"
 
-#include <tarnwise/Help.h>
+#include <tarnwise/Platform.h>
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 // and a sink that notes the events.
 #pragma once
 
-#include "com/PlayerAccess.h"
+#include "com/player/PlayerAccess.h"
 #include "runtime/windows/ComRef.h"
 #include "support/TestHost.h"
 

@@ -116,13 +116,12 @@ TEST_F(ProjectChecks, CurvesHoldElevenPointsAtMost) {
 
 TEST_F(ProjectChecks, NotesNameWhatASessionHoldsWithoutEffect) {
   JudgmentSession& session = project.Sessions[0];
-  EXPECT_EQ(SessionNotes(project, 0), (std::vector<String>{"Inpatients has no upper bound: high is 0"}));
-  session.Attributes[2].Low = 0.0;
+  EXPECT_EQ(SessionNotes(project, 0), std::vector<String>());
   session.Attributes.push_back({"Beds", 1.0, 1.0, 1.0, true, {}, {}});
   session.Attributes.push_back({"Gone", 1.0, 1.0, 1.0, true, {}, {}});
   EXPECT_EQ(SessionNotes(project, 0),
-            (std::vector<String>{"Inpatients is not judged: low and high are 0", "Beds is passed over: it is not used",
-                                 "Gone is passed over: there is no such column"}));
+            (std::vector<String>{"session 0: Beds is passed over: it is not used.",
+                                 "session 0: Gone is passed over: there is no such column."}));
   EXPECT_EQ(SessionNotes(project, 1), std::vector<String>());
 }
 

@@ -1,6 +1,6 @@
 #include "support/ErrorNumber.h"
 
-#include <tarnwise/Arrays.h>
+#include "runtime/Arrays.h"
 
 #include <gtest/gtest.h>
 

@@ -29,4 +29,13 @@ Utf8Output::~Utf8Output() {
   if (former_ != 0) SetConsoleOutputCP(former_);
 }
 
+bool OutputIsTerminal() { return _isatty(_fileno(stdout)) != 0; }
+bool ErrorIsTerminal() { return _isatty(_fileno(stderr)) != 0; }
+
+bool OutputObeysColours() {
+  HANDLE const output = GetStdHandle(STD_OUTPUT_HANDLE);
+  DWORD mode = 0;
+  return GetConsoleMode(output, &mode) != 0 && SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
 }  // namespace Tarnwise

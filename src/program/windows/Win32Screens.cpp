@@ -1,4 +1,4 @@
-#include "com/ComHost.h"
+#include "com/player/ComHost.h"
 #include "program/Screens.h"
 #include "view/win32/Win32Driver.h"
 #include "view/win32/WinApi.h"

@@ -1,8 +1,8 @@
-#include "com/ComHost.h"
+#include "com/player/ComHost.h"
 
 #include "com/Arrays.h"
 #include "com/Convert.h"
-#include "com/PlayerAccess.h"
+#include "com/player/PlayerAccess.h"
 #include "runtime/windows/ComRef.h"
 #include "view/win32/WinApi.h"
 
@@ -16,6 +16,7 @@ namespace Tarnwise {
 
 namespace {
 
+constexpr const char* kNoAccess = "the registered component is one that scripts can't drive";
 constexpr unsigned kRunTimeErrors = 0x800A0000U;  // HRESULTs from here on carry a run-time error's number
 
 String HexOf(HRESULT result) {
@@ -139,9 +140,10 @@ ComRef<_TRN_DEA> NewObject() {
   return object;
 }
 
+// Null where the registered class was built without it.
 ComRef<ITarnwisePlayerAccess> AccessOf(_TRN_DEA& object) {
   ComRef<ITarnwisePlayerAccess> access;
-  Check(object.QueryInterface(IID_ITarnwisePlayerAccess, reinterpret_cast<void**>(access.Receive())));
+  object.QueryInterface(IID_ITarnwisePlayerAccess, reinterpret_cast<void**>(access.Receive()));
   return access;
 }
 
@@ -161,9 +163,11 @@ class OwnedArray {
 class ByCom : public Hosted {
  public:
   explicit ByCom(const std::shared_ptr<Platform>& screen) : object_(NewObject()), access_(AccessOf(*object_.Get())) {
-    std::shared_ptr<Platform>* place = nullptr;
-    Check(access_->Access(&place, &data_));
-    if (screen) *place = screen;
+    if (access_) {
+      std::shared_ptr<Platform>* place = nullptr;
+      Check(access_->Access(&place, &data_));
+      if (screen) *place = screen;
+    }
     ComRef<IConnectionPointContainer> container;
     Check(object_->QueryInterface(IID_IConnectionPointContainer, reinterpret_cast<void**>(container.Receive())));
     Check(container->FindConnectionPoint(DIID___TRN_DEA, point_.Receive()));
@@ -190,7 +194,10 @@ class ByCom : public Hosted {
                                         a[4].Reference(), a[5].Reference(), a[6].Reference(), a[7].Reference(),
                                         a[8].Reference()));
   }
-  WizardData& Data() override { return *data_; }
+  WizardData& Data() override {
+    if (data_ == nullptr) throw std::runtime_error(kNoAccess);
+    return *data_;
+  }
 
  private:
   TRN_DEA_Events events_;
@@ -211,8 +218,10 @@ std::unique_ptr<Hosted> HostByCom(std::shared_ptr<Platform> screen) { return std
 
 std::unique_ptr<Driver> DriveByCom() {
   const ComRef<_TRN_DEA> object = NewObject();
+  const ComRef<ITarnwisePlayerAccess> access = AccessOf(*object.Get());
+  if (!access) throw std::runtime_error(kNoAccess);
   std::unique_ptr<Driver> driver;
-  Check(AccessOf(*object.Get())->MakeDriver(&driver));
+  Check(access->MakeDriver(&driver));
   return driver;
 }
 

@@ -1,0 +1,7 @@
+#include "com/Component.h"
+
+namespace Tarnwise {
+
+Component* MakeComponent() { return new Component; }
+
+}  // namespace Tarnwise

@@ -241,8 +241,8 @@ TEST_F(JudgeCommand, WhatRestartAllLeavesOpenIsNotJudged) {
 }
 
 TEST_F(JudgeCommand, ACrossRatioThatNobodyEnteredIsNotJudged) {
-  const int status = JudgeByScript(String(kRanked) + kStaffJudged +
-                                   "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n");
+  const int status =
+      JudgeByScript(String(kRanked) + kStaffJudged + "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n");
   ASSERT_EQ(status, 0) << transcript.str();
   EXPECT_FALSE(Stored().Sessions.at(0).Cross->Judged);
   EXPECT_TRUE(Stored().Sessions[0].Attributes[3].Judged);
@@ -253,18 +253,16 @@ TEST_F(JudgeCommand, ACrossRatioThatNobodyEnteredIsNotJudged) {
 const char* const kThrough = "click cmdNext\nclick cmdNext\nclick cmdNext\nclick cmdFinish\n";
 
 TEST_F(JudgeCommand, AResumedSessionThatNobodyTouchesComesBackTheSame) {
-  ASSERT_EQ(JudgeByScript(String(kRanked) + kStaffJudged +
-                          "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n"),
-            0);
+  ASSERT_EQ(
+      JudgeByScript(String(kRanked) + kStaffJudged + "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n"), 0);
   ASSERT_EQ(JudgeByScript(String("host show\n") + kThrough), 0) << transcript.str();
   ASSERT_EQ(Stored().Sessions.size(), 2U);
   EXPECT_EQ(Stored().Sessions[1], Stored().Sessions[0]);
 }
 
 TEST_F(JudgeCommand, WhatWasNotJudgedStaysSoWhenNobodyTouchesIt) {
-  ASSERT_EQ(JudgeByScript(String(kRanked) + kStaffJudged +
-                          "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n"),
-            0);
+  ASSERT_EQ(
+      JudgeByScript(String(kRanked) + kStaffJudged + "select imgcmbTargetAtt 4\nclick cmdEnter\nclick cmdFinish\n"), 0);
   Project project = Stored();
   project.Sessions[0].Attributes[3].Judged = false;
   WriteProject(options.Project, project);

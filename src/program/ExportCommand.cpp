@@ -29,7 +29,9 @@ struct Exported {
   std::optional<PointArrays> Points;  // for beside a model
 };
 
-Exported OfResults(const Evaluation& evaluation, String text) { return {std::move(text), evaluation.Results.Notes, {}}; }
+Exported OfResults(const Evaluation& evaluation, String text) {
+  return {std::move(text), evaluation.Results.Notes, {}};
+}
 
 Exported OfRestrictions(const Project& project, const Asked& asked) {
   const JudgedProblem judged = JudgedProblemOf(project, asked);

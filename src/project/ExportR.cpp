@@ -142,7 +142,8 @@ void RWriter::PutAll() {
   const bool all = std::all_of(From.Results.Units.begin(), From.Results.Units.end(),
                                [](const Dea::UnitResult& unit) { return unit.Max.has_value(); });
   Text += "print(data.frame(units, theirs = e$eff, ours))\n";
-  Text += all ? "stopifnot(max(abs(e$eff - ours)) < 1e-6)\n" : "stopifnot(max(abs(e$eff - ours)[!is.na(ours)]) < 1e-6)\n";
+  Text +=
+      all ? "stopifnot(max(abs(e$eff - ours)) < 1e-6)\n" : "stopifnot(max(abs(e$eff - ours)[!is.na(ours)]) < 1e-6)\n";
 }
 
 }  // namespace

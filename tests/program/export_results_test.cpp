@@ -70,8 +70,8 @@ TEST_F(ExportResults, TheScriptStopsWhereAScoreDiffers) {
 
 TEST_F(ExportResults, TheScriptNamesReturnsAsThePackageDoes) {
   options.Wishes.Orientation = "out";
-  for (const auto& [ours, theirs] : std::vector<std::pair<String, String>>{
-           {"crs", "crs"}, {"vrs", "vrs"}, {"nirs", "drs"}, {"ndrs", "irs"}}) {
+  for (const auto& [ours, theirs] :
+       std::vector<std::pair<String, String>>{{"crs", "crs"}, {"vrs", "vrs"}, {"nirs", "drs"}, {"ndrs", "irs"}}) {
     options.Wishes.Returns = ours;
     EXPECT_TRUE(Has(Printed("r"), "RTS = \"" + theirs + "\", ORIENTATION = \"out\"")) << ours;
   }
@@ -92,8 +92,9 @@ TEST_F(ExportResults, TheScriptIsOfTheRatioFormOnly) {
 TEST_F(ExportResults, JsonAndCsvAreTheResults) {
   EXPECT_EQ(Json::parse(Printed("json")).at("units").size(), 3U);
   const String csv = Printed("csv");
-  EXPECT_TRUE(csv.starts_with("unit,free,max,min,super,rankBest,rankWorst,rankSeenBest,rankSeenWorst,heldBackBy,"
-                              "price Staff,price Rooms,price Cases,share Staff,share Rooms,share Cases,leftOut\n"))
+  EXPECT_TRUE(
+      csv.starts_with("unit,free,max,min,super,rankBest,rankWorst,rankSeenBest,rankSeenWorst,heldBackBy,"
+                      "price Staff,price Rooms,price Cases,share Staff,share Rooms,share Cases,leftOut\n"))
       << csv;
   EXPECT_TRUE(Has(csv, "\nEast,,,,,,,,,,,,,,,,")) << csv;
 }

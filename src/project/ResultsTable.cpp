@@ -12,18 +12,24 @@ namespace Tarnwise {
 namespace {
 
 constexpr double kIsOne = 1e-9;
+constexpr double kIsBehind = 1e-9;
 constexpr int kDecimals = 3;
 constexpr const char* kNone = "-";
 
 bool IsOne(const std::optional<double>& score) { return score && std::fabs(*score - 1.0) <= kIsOne; }
 
-// Three decimals; more of them where those would say 1 for what is not.
-String ScoreText(const std::optional<double>& score) {
-  if (!score) return kNone;
+bool IsBest(const Dea::UnitResult& unit) { return !unit.Distance || *unit.Distance <= kIsBehind; }
+
+// Three decimals; more of them where those would say `mark` for what is not.
+String TextBeside(double mark, const std::optional<double>& number) {
+  if (!number) return kNone;
+  const double apart = std::fabs(*number - mark);
   int decimals = kDecimals;
-  while (!IsOne(score) && decimals < 9 && std::fabs(*score - 1.0) < 0.5 * std::pow(10.0, -decimals)) ++decimals;
-  return FixedText(*score, decimals);
+  while (apart > kIsOne && decimals < 9 && apart < 0.5 * std::pow(10.0, -decimals)) ++decimals;
+  return FixedText(*number, decimals);
 }
+
+String ScoreText(const std::optional<double>& score) { return TextBeside(1.0, score); }
 
 String NumberText(const std::optional<double>& number) { return number ? FixedText(*number, kDecimals) : kNone; }
 
@@ -126,12 +132,11 @@ void Table::AddValues() {
   if (HasRanks()) header.push_back({"ranks", Ink::Strong});
   Rows.push_back(header);
   for (const Dea::UnitResult& unit : From.Results.Units) {
-    const bool isBest = unit.Distance && *unit.Distance <= 0.0;
     const String value = unit.Value ? SpanText(NumberText(unit.Value->Low), NumberText(unit.Value->High)) : kNone;
     TableRow row{{WholeName(UnitName(unit.Unit))},
                  {value},
-                 {NumberText(unit.Distance), isBest ? Ink::Good : Ink::Plain},
-                 {NumberText(unit.Regret)}};
+                 {TextBeside(0.0, unit.Distance), unit.Distance && IsBest(unit) ? Ink::Good : Ink::Plain},
+                 {TextBeside(0.0, unit.Regret)}};
     if (HasRanks()) row.push_back({RanksText(unit)});
     Rows.push_back(row);
   }
@@ -156,8 +161,7 @@ String RatioSummary(const Evaluation& evaluation) {
 
 String ValueSummary(const Evaluation& evaluation) {
   const auto& units = evaluation.Results.Units;
-  const auto best = std::count_if(units.begin(), units.end(),
-                                  [](const Dea::UnitResult& unit) { return !unit.Distance || *unit.Distance <= 0.0; });
+  const auto best = std::count_if(units.begin(), units.end(), IsBest);
   return OfUnits(static_cast<int>(best), evaluation) +
          "best at some of the weights. Distance: how far behind the best " +
          "other unit, in shares of the way from all worst to all best; below 0 a lead.";
@@ -211,6 +215,7 @@ String ResultsTable(const Project& project, const Evaluation& evaluation, bool c
   const auto line = [&text](const String& words) { text += words + "\n"; };
   line(HowText(project, evaluation));
   line(isValue ? ValueSummary(evaluation) : RatioSummary(evaluation));
+  if (isValue && evaluation.How.Session) line(CrossText(project, evaluation.How));
   for (const Dea::Equivalence& equivalence : results.Equivalences) {
     line(EquivalenceText(project, evaluation.Problem, equivalence));
   }

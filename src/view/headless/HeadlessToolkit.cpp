@@ -2,7 +2,7 @@
 
 #include <tarnwise/TRN_DEA.h>
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 namespace Tarnwise {
 

@@ -1,7 +1,8 @@
 #include "view/headless/HeadlessToolkit.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 #include "view/Input.h"
+#include "view/Keys.h"
 #include "view/Platform.h"
 
 #include <algorithm>
@@ -9,9 +10,6 @@
 namespace Tarnwise {
 
 namespace {
-
-enum KeyCode { kBackspace = 8, kTab = 9, kEnd = 35, kHome = 36, kLeft = 37, kRight = 39, kInsert = 45, kDelete = 46 };
-enum Character { kCtrlA = 1, kCtrlV = 22, kBlank = 32 };
 
 void RemoveAt(TextBox& box, int from) {
   if (box.SelLength == 0) {
@@ -32,22 +30,22 @@ void KeyAction(TextBox& box, int code) {
   const int start = box.SelStart;
   const int length = box.SelLength;
   switch (code) {
-    case kDelete: RemoveAt(box, start); break;
-    case kHome: MoveCaret(box, 0); break;
-    case kEnd: MoveCaret(box, Length(box.Text())); break;
-    case kLeft: MoveCaret(box, length > 0 ? start : start - 1); break;
-    case kRight: MoveCaret(box, length > 0 ? start + length : start + 1); break;
+    case kKeyDelete: RemoveAt(box, start); break;
+    case kKeyHome: MoveCaret(box, 0); break;
+    case kKeyEnd: MoveCaret(box, Length(box.Text())); break;
+    case kKeyLeft: MoveCaret(box, length > 0 ? start : start - 1); break;
+    case kKeyRight: MoveCaret(box, length > 0 ? start + length : start + 1); break;
     default: break;  // Insert with Shift would paste, and nothing is on the clipboard of a script
   }
 }
 
 void CharacterAction(TextBox& box, int character) {
-  if (character == kBackspace) {
+  if (character == kTypedBackspace) {
     RemoveAt(box, box.SelStart() - 1);
   } else if (character == kCtrlA) {
     box.SelStart = 0;
     box.SelLength = Length(box.Text());
-  } else if (character >= kBlank && character != 127) {
+  } else if (character >= kBlank && character != kRubOut) {
     String typed;
     AppendUtf8(typed, static_cast<char32_t>(character));
     box.SetSelText(typed);
@@ -74,8 +72,8 @@ void TypeIntoBox(TextBox& box, int code, int character, int shift) {
 
 void TypeKey(Form& form, int code, int character, int shift) {
   const std::shared_ptr<Form> held = form.shared_from_this();
-  if (code == kTab) {
-    Input::TabKey(form, (shift & 1) != 0);
+  if (code == kKeyTab) {
+    Input::TabKey(form, (shift & kShift) != 0);
     return;
   }
   Control* const control = form.ActiveControl;

@@ -72,22 +72,22 @@ void StoreCaret(TextBox& box, const QLineEdit& edit) {
 
 void TypeCharacter(QLineEdit& edit, int character) {
   switch (character) {
-    case 1: edit.selectAll(); break;
-    case 3: edit.copy(); break;
-    case kKeyBackspace: edit.backspace(); break;
-    case 22: edit.paste(); break;
-    case 24: edit.cut(); break;
-    case 26: edit.undo(); break;
+    case kCtrlA: edit.selectAll(); break;
+    case kCtrlC: edit.copy(); break;
+    case kTypedBackspace: edit.backspace(); break;
+    case kCtrlV: edit.paste(); break;
+    case kCtrlX: edit.cut(); break;
+    case kCtrlZ: edit.undo(); break;
     default:
-      if (character < 32 || character == 127) return;
+      if (character < kBlank || character == kRubOut) return;
       const auto code = static_cast<char32_t>(character);
       edit.insert(QString::fromUcs4(&code, 1));
   }
 }
 
 bool PressEditingKey(QLineEdit& edit, int code, int shift) {
-  const bool marks = (shift & 1) != 0;
-  const bool words = (shift & 2) != 0;
+  const bool marks = (shift & kShift) != 0;
+  const bool words = (shift & kControl) != 0;
   switch (code) {
     case kKeyDelete:
       if (marks)

@@ -55,8 +55,8 @@ class Held {
   explicit Held(int shift) {
     GetKeyboardState(former_.data());
     std::array<BYTE, 256> now = former_;
-    now[VK_SHIFT] = (shift & 1) != 0 ? kDown : kUp;
-    now[VK_CONTROL] = (shift & 2) != 0 ? kDown : kUp;
+    now[VK_SHIFT] = (shift & kShift) != 0 ? kDown : kUp;
+    now[VK_CONTROL] = (shift & kControl) != 0 ? kDown : kUp;
     now[VK_MENU] = kUp;
     SetKeyboardState(now.data());
   }
@@ -135,7 +135,7 @@ class Win32Driver : public Driver {
     const auto code = static_cast<WPARAM>(key.Code);
     if (const HWND window = KeyboardOf(form)) SendMessageW(window, WM_KEYDOWN, code, 1);
     if (key.Character != 0) {
-      for (const wchar_t unit : UnitsOf(key.Character)) {
+      for (const wchar_t unit : WideCharacter(static_cast<char32_t>(key.Character))) {
         if (const HWND window = KeyboardOf(form)) SendMessageW(window, WM_CHAR, unit, 1);
       }
     }
@@ -226,12 +226,6 @@ class Win32Driver : public Driver {
     const Control* const active = form.Released ? nullptr : form.ActiveControl;
     const HWND window = active != nullptr ? WindowOf(*active) : nullptr;
     return window != nullptr ? window : WindowOf(form);
-  }
-
-  static std::wstring UnitsOf(int character) {
-    if (character < 0x10000) return {static_cast<wchar_t>(character)};
-    return {static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10)),
-            static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF))};
   }
 
   // Opens the list by a press and goes to the row by keys.

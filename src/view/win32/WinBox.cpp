@@ -1,4 +1,5 @@
 // Boxes: picture boxes, frames, images, handles; and what containers paint themselves: lines, shapes and drawings.
+#include "runtime/windows/OwnModule.h"
 #include "view/Captions.h"
 #include "view/Platform.h"
 #include "view/Reach.h"

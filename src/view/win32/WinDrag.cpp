@@ -1,5 +1,6 @@
 #include "view/win32/WinDrag.h"
 
+#include "runtime/windows/OwnModule.h"
 #include "view/Pictures.h"
 #include "view/Platform.h"
 #include "view/Reach.h"

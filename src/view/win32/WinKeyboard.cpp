@@ -1,5 +1,6 @@
 // Keys on their way from Windows to the tree.
 #include "view/Input.h"
+#include "view/Keys.h"
 #include "view/Mnemonics.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
@@ -19,7 +20,7 @@ namespace {
 
 int ShiftNow() {
   const auto down = [](int key) { return GetKeyState(key) < 0; };
-  return (down(VK_SHIFT) ? 1 : 0) | (down(VK_CONTROL) ? 2 : 0) | (down(VK_MENU) ? 4 : 0);
+  return (down(VK_SHIFT) ? kShift : 0) | (down(VK_CONTROL) ? kControl : 0) | (down(VK_MENU) ? kAlt : 0);
 }
 
 bool IsModifier(WPARAM code) {

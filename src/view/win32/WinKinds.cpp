@@ -1,5 +1,6 @@
 #include "view/win32/WinKinds.h"
 
+#include "runtime/windows/OwnModule.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"

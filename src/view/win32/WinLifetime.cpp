@@ -1,6 +1,7 @@
 #include "view/win32/WinLifetime.h"
 
 #include "runtime/PerThread.h"
+#include "runtime/windows/OwnModule.h"
 #include "view/win32/WinForm.h"
 
 #include <algorithm>
@@ -98,13 +99,6 @@ void Bury(std::shared_ptr<WinForm> form) { Bury(Grave{nullptr, std::move(form), 
 long WindowsAlive() { return alive; }
 
 void CountWindow(int by) { alive += by; }
-
-HINSTANCE OwnModule() {
-  HMODULE module = nullptr;
-  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                     reinterpret_cast<LPCWSTR>(reinterpret_cast<void*>(&DigNow)), &module);
-  return module;
-}
 
 OwnLook::OwnLook() {
   static const HANDLE context = OwnContext();

@@ -32,8 +32,6 @@ void Bury(std::shared_ptr<WinForm> form);
 long WindowsAlive();
 void CountWindow(int by);
 
-HINSTANCE OwnModule();
-
 // The look of this module's controls (common controls 6) for as long as this lives, whatever the host's is.
 class OwnLook {
  public:

@@ -9,6 +9,7 @@
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
+#include "project/Evaluation.h"
 
 #include <CLI/CLI.hpp>
 
@@ -19,6 +20,12 @@
 namespace {
 
 using namespace Tarnwise;
+
+// With the solver inside, the program as a whole is under the solver's licence.
+String VersionText() {
+  const String licence = CanSolve() ? "GNU General Public License, version 3 or later; its own sources: MIT" : "MIT";
+  return "tarnwise " TARNWISE_VERSION "\nLicence: " + licence;
+}
 
 bool WantsColours() {
   const char* const no = std::getenv("NO_COLOR");
@@ -41,6 +48,7 @@ int Main(int argc, char** argv) {
   CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
   app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
+  app.set_version_flag("--version", VersionText(), "Print the version and the licence");
 
   RunOptions run;
   CLI::App* const runCommand = app.add_subcommand("run", "Show the wizard on a model; print the judgments as JSON");

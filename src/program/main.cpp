@@ -4,6 +4,7 @@
 #include "program/Commands.h"
 #include "program/ImportCommand.h"
 #include "program/Interrupt.h"
+#include "program/JudgeCommand.h"
 #include "program/ModelCommands.h"
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
@@ -61,6 +62,8 @@ int Main(int argc, char** argv) {
 
   ImportOptions import;
   const CLI::App* const importCommand = AddImportCommand(app, import);
+  JudgeOptions judge;
+  const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
 
@@ -87,6 +90,7 @@ int Main(int argc, char** argv) {
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
   if (importCommand->parsed()) return ImportProject(import, TimeNow(), std::cout, std::cerr);
+  if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
   }

@@ -1,6 +1,7 @@
 #include "project/SessionModel.h"
 
 #include "modelfiles/PlainJson.h"
+#include "modelfiles/WholeFile.h"
 #include "project/CsvRows.h"
 #include "project/NiceRange.h"
 #include "project/ProjectChecks.h"
@@ -152,7 +153,9 @@ SessionAttribute AttributeOf(const SessionModel& model, const Judgments& judgmen
   attribute.Low = Finite(judgments.WeightsL[At(i)]);
   attribute.Ratio = Finite(judgments.Weights[At(i)]);
   attribute.High = Finite(judgments.WeightsH[At(i)]);
-  attribute.Judged = after.WeightDone[i] && IsUsable(judgments, i) && !CameBack(model, judgments, i);
+  const int reference = model.Data.IsBenefit(i) ? judgments.BRefAttID : judgments.CRefAttID;
+  attribute.Judged =
+      i == reference || (after.WeightDone[i] && IsUsable(judgments, i) && !CameBack(model, judgments, i));
   attribute.Snapshot = model.Scales[At(i)];
   return attribute;
 }

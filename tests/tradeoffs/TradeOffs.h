@@ -1,8 +1,8 @@
 // Trade-offs in tests: models whose values are a hundredth of their scores, and the step on a screen of its own.
 #pragma once
 
-#include "direct/Ranked.h"
-#include "runtime/ErrorNumber.h"
+#include "support/ErrorNumber.h"
+#include "support/Ranked.h"
 #include "support/TestHost.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Input.h"

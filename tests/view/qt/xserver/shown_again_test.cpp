@@ -14,8 +14,8 @@ class XShownAgain : public testing::Test {
   XShownAgain() {
     toolkit->RealTimers = false;
     toolkit->Pump = [this] { return Step(); };
-    WriteModel(folder.Path("model.kst"), ModelOf(2, 2));
-    dea.GetCurFileData(String("C:/KESTA"), 1, folder.Path("model.kst"));
+    WriteModel(folder.File("model.kst"), ModelOf(2, 2));
+    dea.GetCurFileData(String("C:/KESTA"), 1, folder.File("model.kst"));
     dea.ShowTarnwise();
     Person::TurnTo(First());
   }

@@ -80,7 +80,11 @@ bool Document::IsChangedOutside() const { return !path_.isEmpty() && SumOf(path_
 
 bool Document::IsGone() const { return !path_.isEmpty() && !QFileInfo::exists(path_); }
 
-void Document::TakeAsSeen() { seen_ = SumOf(path_); }
+void Document::KeepAgainstFile() {
+  seen_ = SumOf(path_);
+  savedId_.reset();
+  Q_EMIT Changed();
+}
 
 void Document::Begin(std::shared_ptr<const Project> project, const QString& path) {
   project_ = std::move(project);

@@ -44,7 +44,7 @@ class Document : public QObject {
   // Whether the file is another one than was read or written last, or has gone.
   bool IsChangedOutside() const;
   bool IsGone() const;
-  void TakeAsSeen();  // the file as it is now, whatever it holds
+  void KeepAgainstFile();  // what is here counts as changed, and the file as seen
 
  Q_SIGNALS:
   void Changed();

@@ -82,8 +82,8 @@ Answer Solve(const Problem& problem) {
   options.Project = folder.Write("random.tarnwise", ProjectText(ProjectFor(problem)));
   options.Json = "-";
   options.Wishes.Form = problem.Options.Form == Form::Ratio ? "ratio" : "value";
-  options.Wishes.Returns = std::vector<String>{"crs", "vrs", "nirs", "ndrs"}[static_cast<std::size_t>(
-      problem.Options.Returns)];
+  options.Wishes.Returns =
+      std::vector<String>{"crs", "vrs", "nirs", "ndrs"}[static_cast<std::size_t>(problem.Options.Returns)];
   options.Wishes.Orientation = problem.Options.Orientation == Orientation::In ? "in" : "out";
   std::ostringstream out;
   std::ostringstream err;

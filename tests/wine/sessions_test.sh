@@ -8,7 +8,7 @@ program=$1 dll=$2
 failed=0 played=0
 
 timeout 60 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
-for script in "$here"/../sessions/*.script "$here"/../../samples/*.session; do
+for script in "$here"/../sessions/*.session "$here"/../../samples/*.session; do
   name=$(basename "${script%.*}")
   for toolkit in headless win32 com; do
     TARNWISE_THROUGH="timeout 120 wine" "$here/../sessions/play_test.sh" "$program" $toolkit "$script" \

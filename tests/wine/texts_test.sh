@@ -16,9 +16,9 @@ for language in de_DE el_GR ja_JP; do
 done
 
 fail() { echo "failed: $1"; failed=1; }
-tarnwise() { LC_ALL=$locale timeout 120 wine "$program" "$@"; }
+tarnwise() { LC_ALL=$locale timeout 3000 wine "$program" "$@"; }
 
-timeout 60 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
+timeout 300 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
 
 paths_under() {  # paths_under LOCALE FOLDER
   locale=$1

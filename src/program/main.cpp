@@ -2,6 +2,7 @@
 // projects, and works out their results.
 #include "dea/Watch.h"
 #include "program/Commands.h"
+#include "program/ExportCommand.h"
 #include "program/ImportCommand.h"
 #include "program/Interrupt.h"
 #include "program/JudgeCommand.h"
@@ -76,6 +77,8 @@ int Main(int argc, char** argv) {
   const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
+  ExportOptions exported;
+  const CLI::App* const exportCommand = AddExportCommand(app, exported);
 
   OpenOptions open;
   CLI::App* const openCommand = app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
@@ -109,6 +112,9 @@ int Main(int argc, char** argv) {
   if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
+  }
+  if (exportCommand->parsed()) {
+    return Compute([&exported](const Console& console) { return ExportProject(exported, console); });
   }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);

@@ -86,7 +86,7 @@ TEST(ResultsModel, SaysTheSentenceOfTheHospitals) {
   const QString details = DetailsOf(*evaluation, evaluation->Results.Units[1], {0});
   EXPECT_TRUE(details.contains("between 0.809 and 0.854 efficient")) << details.toStdString();
   EXPECT_TRUE(details.contains("on rank 3–4")) << details.toStdString();
-  EXPECT_TRUE(details.contains("Inpatients &gt;= 2.00 (0.146)")) << details.toStdString();
+  EXPECT_TRUE(details.contains("Inpatients ≥ 2.00 (0.146)")) << details.toStdString();
   EXPECT_TRUE(details.contains("Better at all of the judged weights: Hospital A.")) << details.toStdString();
 }
 

@@ -36,7 +36,13 @@ MainWindow::MainWindow() : files_(new FileActions(document_, this)) {
   ShowState();
 }
 
-MainWindow::~MainWindow() { disconnect(&document_, nullptr, nullptr, nullptr); }
+// The pages know the document, and they go before it.
+MainWindow::~MainWindow() {
+  hide();
+  delete wizard_;
+  disconnect(&document_, nullptr, nullptr, nullptr);
+  delete takeCentralWidget();
+}
 
 QWidget* MainWindow::MakeAdvice() {
   auto* const line = Named(new QFrame, "adviceLine", tr("What is missing"));

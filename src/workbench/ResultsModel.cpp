@@ -231,8 +231,8 @@ QVariant ResultsModel::headerData(int section, Qt::Orientation orientation, int 
   switch (fields_[static_cast<std::size_t>(section)]) {
     case ResultField::Unit: return tr("Unit");
     case ResultField::Free: return judged ? tr("No judgments") : tr("Efficiency");
-    case ResultField::Min: return out ? tr("Judged, worst") : tr("Judged, least");
-    case ResultField::Max: return out ? tr("Judged, best") : tr("Judged, greatest");
+    case ResultField::Min: return out ? tr("Worst") : tr("Least");
+    case ResultField::Max: return out ? tr("Best") : tr("Greatest");
     case ResultField::Super: return tr("Without itself");
     case ResultField::ValueLow: return tr("Value, least");
     case ResultField::ValueHigh: return tr("Value, greatest");

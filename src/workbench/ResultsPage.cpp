@@ -175,7 +175,7 @@ QWidget* ResultsPage::MakeTables() {
   above->addWidget(chart_);
   above->setStretchFactor(0, 3);
   above->setStretchFactor(1, 2);
-  above->setSizes({740, 420});
+  above->setSizes({790, 370});
   above->setChildrenCollapsible(false);
   details_ = Named(new QTextBrowser, "details", tr("The chosen unit"));
   details_->setTabChangesFocus(true);

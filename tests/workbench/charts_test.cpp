@@ -20,6 +20,8 @@ TEST(Charts, AreSavedAsPictureDrawingAndDocument) {
   chart.resize(400, 300);
   chart.SetTitle("Hospitals");
   chart.SetRows({RowOf("A", 0.5, 0.75), RowOf("B", 0.25, 1.0)});
+  chart.show();
+  QCoreApplication::processEvents();
   const QImage before = chart.toPixmap(400, 300).toImage();
   for (const char* const name : {"chart.png", "chart.svg", "chart.pdf"}) {
     EXPECT_TRUE(chart.SavePicture(folder.filePath(name))) << name;
@@ -55,6 +57,8 @@ TEST(BarChart, ARowIsChosenByAClickOnIt) {
   chart.resize(300, 230);
   chart.StandBeside(30, 20, 0, 0);
   chart.SetRows({RowOf("A", 0.5, 0.75), RowOf("B", 0.25, 1.0), RowOf("C", 0.3, 0.9)});
+  chart.show();
+  QCoreApplication::processEvents();
   QSignalSpy clicked(&chart, &BarChart::RowClicked);
   QTest::mouseClick(&chart, Qt::LeftButton, Qt::NoModifier, QPoint(100, 30 + 50));
   ASSERT_EQ(clicked.count(), 1);

@@ -51,6 +51,7 @@ TEST(DataPage, CellsAreTypedPastedAndUndone) {
   QTest::keyClick(editor, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(editor, "31,5");
   QTest::keyClick(editor, Qt::Key_Return);
+  QCoreApplication::processEvents();
   EXPECT_EQ(open.Window.Work().Data().Columns[0].Values[2], 31.5);
   QGuiApplication::clipboard()->setText("1\t2\n3\t\n");
   table.setCurrentIndex(table.model()->index(0, 3));

@@ -14,7 +14,9 @@ function(packed_text in out)
 endfunction()
 
 if(TARGET tarnwise)
-  foreach(name tarnwise tarnwise-import tarnwise-model tarnwise-play tarnwise-report tarnwise-run tarnwise-solve)
+  set(manuals tarnwise tarnwise-import tarnwise-judge tarnwise-model tarnwise-play tarnwise-report tarnwise-run
+    tarnwise-solve)
+  foreach(name ${manuals})
     packed_text(${packaging}/man/${name}.1 ${packed}/man/${name}.1)
     install(FILES ${packed}/man/${name}.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
   endforeach()

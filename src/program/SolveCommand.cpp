@@ -3,7 +3,7 @@
 #include "dea/Watch.h"
 #include "modelfiles/WholeFile.h"
 #include "program/OutputFile.h"
-#include "program/ProgressBar.h"
+#include "program/Showing.h"
 #include "project/ProjectFile.h"
 #include "project/ResultsTable.h"
 #include "project/ResultsText.h"
@@ -23,23 +23,6 @@ void CheckOutputs(const SolveOptions& options) {
   }
   for (const String& output : {options.Json, options.Csv}) {
     if (!output.empty()) RefuseSameFile(output, options.Project);
-  }
-}
-
-Evaluation Solve(const Project& project, const SolveOptions& options, const Console& console) {
-  std::optional<ProgressBar> bar;
-  Dea::Watch watch;
-  watch.Cancel = console.Cancel;
-  if (console.ErrIsTerminal) {
-    bar.emplace(console.Err, ProgressBar::Clock::now());
-    watch.Progress = [&bar](double share) { bar->Show(share, ProgressBar::Clock::now()); };
-  }
-  try {
-    Evaluation evaluation = Evaluate(project, AskedOf(project, WishesOf(options.Wishes)), watch);
-    watch.LookAtFlag();
-    return evaluation;
-  } catch (const ModelFault& fault) {
-    throw ModelFault(options.Project + ": " + fault.what());
   }
 }
 
@@ -70,7 +53,7 @@ int SolveProject(const SolveOptions& options, const Console& console) {
     CheckOutputs(options);
     (void)WishesOf(options.Wishes);  // told before a file is read
     project = ReadProject(options.Project);
-    evaluation = Solve(*project, options, console);
+    evaluation = EvaluateShowing(*project, options.Project, options.Wishes, console);
   } catch (const ModelFault& fault) {
     console.Err << fault.what() << "\n";
     return kRefused;

@@ -6,6 +6,8 @@
 #include "program/Interrupt.h"
 #include "program/JudgeCommand.h"
 #include "program/ModelCommands.h"
+#include "program/Pdf.h"
+#include "program/ReportCommand.h"
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
@@ -74,6 +76,8 @@ int Main(int argc, char** argv) {
   const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
+  ReportOptions report;
+  const CLI::App* const reportCommand = AddReportCommand(app, report);
 
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
@@ -101,6 +105,9 @@ int Main(int argc, char** argv) {
   if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
+  }
+  if (reportCommand->parsed()) {
+    return Compute([&report](const Console& console) { return WriteReport(report, TimeNow(), PdfOf, console); });
   }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);

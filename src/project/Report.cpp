@@ -6,7 +6,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr std::size_t kMostColumns = 8;  // beside the first; more of them have no room on a page
+constexpr std::size_t kMostColumns = 6;  // beside the first; more of them have no room on a page
 
 template <class Cell>
 std::vector<Cell> PartOf(const std::vector<Cell>& row, std::size_t from, std::size_t stop) {

@@ -13,6 +13,11 @@ namespace {
 constexpr std::size_t kMostRows = 1000;
 constexpr std::size_t kMostReasons = 200;
 
+String RankPart(const Dea::UnitResult& unit) {
+  const bool isOne = unit.Ranks && unit.Ranks->Best == unit.Ranks->Worst;
+  return (isOne ? ", rank " : ", ranks ") + RanksText(unit);
+}
+
 struct Scores {
   const Evaluation& From;
 
@@ -65,28 +70,28 @@ std::vector<String> Scores::Row(const Dea::UnitResult& unit) const {
 String Scores::RatioReason(const Dea::UnitResult& unit) const {
   String text = "efficiency " + (IsJudged() ? JudgedText(From, unit) + ", without judgments " + ScoreText(unit.Free)
                                             : ScoreText(unit.Max));
-  if (HasRanks()) text += ", ranks " + RanksText(unit);
-  text += ". ";
-  if (!unit.HeldBackBy.empty()) text += "Held back by " + HeldBackText(From, unit) + ". ";
+  if (HasRanks()) text += RankPart(unit);
+  text += ".";
+  if (!unit.HeldBackBy.empty()) text += " Held back by " + HeldBackText(From, unit) + ".";
   const bool isOwnPeer = unit.Peers.size() == 1 && unit.Peers.front().Unit == unit.Unit;
-  if (!unit.Peers.empty() && !isOwnPeer) text += "Compared with " + PeersText(From, unit) + ". ";
-  if (IsOne(unit.Max)) text += "No other unit is better at its best weights. ";
+  if (!unit.Peers.empty() && !isOwnPeer) text += " Compared with " + PeersText(From, unit) + ".";
+  if (IsOne(unit.Max)) text += " No other unit is better at its best weights.";
   return text;
 }
 
 String Scores::ValueReason(const Dea::UnitResult& unit) const {
   String text = "value " + Value(unit);
-  if (HasRanks()) text += ", ranks " + RanksText(unit);
-  text += ". ";
+  if (HasRanks()) text += RankPart(unit);
+  text += ".";
   if (!unit.Distance) return text;
   if (*unit.Distance < 0.0 && IsBest(unit)) {
-    text += "At its best weights it is " + DistanceText(-*unit.Distance) + " ahead of the next one. ";
+    text += " At its best weights it is " + DistanceText(-*unit.Distance) + " ahead of the next one.";
   } else if (IsBest(unit)) {
-    text += "At its best weights nobody is ahead of it. ";
+    text += " At its best weights nobody is ahead of it.";
   } else {
-    text += "Even at its best weights it is " + DistanceText(unit.Distance) + " behind the best one. ";
+    text += " Even at its best weights it is " + DistanceText(unit.Distance) + " behind the best one.";
   }
-  return text + "It loses at most " + DistanceText(unit.Regret) + ".";
+  return text + " It loses at most " + DistanceText(unit.Regret) + ".";
 }
 
 String Scores::Reason(const Dea::UnitResult& unit) const {

@@ -114,7 +114,7 @@ TEST(Report, OfTheRatioFormTellsScoresAndReasons) {
   ExpectLine(report, "B | 1.000 | 0.809 - 0.854 | - | 3-4");
   ExpectLine(report,
              "B: efficiency 0.809 - 0.854, without judgments 1.000, ranks 3-4. Held back by Inpatients >= 2.00 "
-             "(0.146), Doctors >= 3.00 (0.053). Compared with A 0.787. ");
+             "(0.146), Doctors >= 3.00 (0.053). Compared with A 0.787.");
   ExpectLine(report,
              "The ratio form does not use it: what all outputs are worth against all inputs scales every unit "
              "alike.");
@@ -124,10 +124,10 @@ TEST(Report, OfTheValueFormHoldsNoEfficiency) {
   const Report report = ReportFor(HospitalsJudged(), WishesFor(1, ScoreForm::Value));
   ExpectLine(report, "A | 0.617 - 0.657 | 0.00005 | 0.003 | 2");
   ExpectLine(report,
-             "A: value 0.617 - 0.657, ranks 2. Even at its best weights it is 0.00005 behind the best one. It "
+             "A: value 0.617 - 0.657, rank 2. Even at its best weights it is 0.00005 behind the best one. It "
              "loses at most 0.003.");
   ExpectLine(report,
-             "B: value 0.617 - 0.660, ranks 1. At its best weights it is 0.003 ahead of the next one. It loses "
+             "B: value 0.617 - 0.660, rank 1. At its best weights it is 0.003 ahead of the next one. It loses "
              "at most 0.000.");
   for (const String& line : LinesOf(report)) EXPECT_EQ(String::npos, line.find("fficien")) << line;
 }
@@ -153,6 +153,18 @@ TEST(Report, OffConstantReturnsSaysWhatIsNoNotionThere) {
   wishes.Returns = ScoreReturns::Vrs;
   const Report report = ReportFor(HospitalsJudged(), wishes);
   ExpectLine(report, "The least efficiency and the ranks, which are notions of constant returns to scale.");
+}
+
+// Seven columns of numbers have no room on a page: two tables, the units in both.
+TEST(Report, WideTablesAreSplit) {
+  Project project = HospitalsJudged();
+  for (int k = 0; k < 3; ++k) {
+    project.Columns.push_back(project.Columns[2]);
+    project.Columns.back().Name = "More " + std::to_string(k);
+  }
+  const Report report = ReportFor(project, WishesFor(std::nullopt));
+  ExpectLine(report, "F | 55 | 255 | 230");
+  ExpectLine(report, "F | 90 | 230 | 230 | 230");
 }
 
 TEST(Report, EveryChartHasATitleAndADescription) {

@@ -11,6 +11,7 @@
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
+#include "program/Workbench.h"
 #include "project/Evaluation.h"
 
 #include <CLI/CLI.hpp>
@@ -49,7 +50,8 @@ int Compute(Command command) {
 int Main(int argc, char** argv) {
   CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
   app.allow_windows_style_options(false);  // a path may begin with a slash
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
+  app.footer("Without a command it opens the analyst's window.");
   app.set_version_flag("--version", VersionText(), "Print the version and the licence");
 
   RunOptions run;
@@ -78,6 +80,12 @@ int Main(int argc, char** argv) {
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
   ReportOptions report;
   const CLI::App* const reportCommand = AddReportCommand(app, report);
+
+  OpenOptions open;
+  CLI::App* const openCommand = app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
+  openCommand->add_option("FILE", open.File, "Project (.tarnwise), table (.csv) or model (.kst, .json)");
+  openCommand->add_option("--pictures", open.Pictures, "Take a picture of each page into this folder, and end")
+      ->type_name("FOLDER");
 
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
@@ -111,7 +119,8 @@ int Main(int argc, char** argv) {
   }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
-  return RunWizard(run, argc, argv);
+  if (runCommand->parsed()) return RunWizard(run, argc, argv);
+  return OpenWorkbench(open, argc, argv);
 }
 
 }  // namespace

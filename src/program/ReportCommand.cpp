@@ -3,7 +3,7 @@
 #include "dea/Watch.h"
 #include "modelfiles/WholeFile.h"
 #include "program/OutputFile.h"
-#include "program/Showing.h"
+#include "program/Watched.h"
 #include "project/ProjectFile.h"
 
 #include <CLI/CLI.hpp>
@@ -32,6 +32,15 @@ void CheckOutput(const ReportOptions& options) {
   RefuseSameFile(options.Output, options.Project);
 }
 
+Report MakeReport(const ReportOptions& options, const String& now, const Console& console) {
+  const Project project = ReadProject(options.Project);
+  try {
+    return ReportOf(project, EvaluateWatched(project, AskedOf(project, WishesOf(options.Wishes)), console), now);
+  } catch (const ModelFault& fault) {
+    throw ModelFault(options.Project + ": " + fault.what());
+  }
+}
+
 }  // namespace
 
 CLI::App* AddReportCommand(CLI::App& app, ReportOptions& options) {
@@ -47,8 +56,7 @@ int WriteReport(const ReportOptions& options, const String& now, const MakePdf& 
   try {
     CheckOutput(options);
     (void)WishesOf(options.Wishes);  // told before a file is read
-    const Project project = ReadProject(options.Project);
-    report = ReportOf(project, EvaluateShowing(project, options.Project, options.Wishes, console), now);
+    report = MakeReport(options, now, console);
   } catch (const ModelFault& fault) {
     console.Err << fault.what() << "\n";
     return kRefused;

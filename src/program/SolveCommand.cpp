@@ -3,7 +3,7 @@
 #include "dea/Watch.h"
 #include "modelfiles/WholeFile.h"
 #include "program/OutputFile.h"
-#include "program/Showing.h"
+#include "program/Watched.h"
 #include "project/ProjectFile.h"
 #include "project/ResultsTable.h"
 #include "project/ResultsText.h"
@@ -23,6 +23,14 @@ void CheckOutputs(const SolveOptions& options) {
   }
   for (const String& output : {options.Json, options.Csv}) {
     if (!output.empty()) RefuseSameFile(output, options.Project);
+  }
+}
+
+Evaluation Solve(const Project& project, const SolveOptions& options, const Console& console) {
+  try {
+    return EvaluateWatched(project, AskedOf(project, WishesOf(options.Wishes)), console);
+  } catch (const ModelFault& fault) {
+    throw ModelFault(options.Project + ": " + fault.what());
   }
 }
 
@@ -53,7 +61,7 @@ int SolveProject(const SolveOptions& options, const Console& console) {
     CheckOutputs(options);
     (void)WishesOf(options.Wishes);  // told before a file is read
     project = ReadProject(options.Project);
-    evaluation = EvaluateShowing(*project, options.Project, options.Wishes, console);
+    evaluation = Solve(*project, options, console);
   } catch (const ModelFault& fault) {
     console.Err << fault.what() << "\n";
     return kRefused;

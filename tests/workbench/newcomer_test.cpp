@@ -27,26 +27,20 @@ using Step = std::function<bool()>;
 // Works through the steps one by one, each as soon as it can be done.
 class WizardUser : public QObject {
  public:
-  explicit WizardUser(std::vector<Step> steps) : steps_(std::move(steps)) {
-    connect(&timer_, &QTimer::timeout, this, &WizardUser::Act);
-    timer_.start(20);
-  }
-  bool IsThrough() const { return next_ == steps_.size(); }
+  explicit WizardUser(std::vector<Step> steps) : steps_(std::move(steps)) { Act(); }
   std::size_t Next() const { return next_; }
 
  private:
+  // A click may run all steps of the wizard that follow inside itself, so the next act is arranged before.
   void Act() {
-    if (acting_ || IsThrough()) return;
-    acting_ = true;  // a click may run a whole step inside itself
+    QTimer::singleShot(20, this, &WizardUser::Act);
+    if (next_ == steps_.size()) return;
     const std::size_t at = next_++;
-    acting_ = false;
     if (!steps_[at]()) next_ = at;
   }
 
   std::vector<Step> steps_;
   std::size_t next_ = 0;
-  bool acting_ = false;
-  QTimer timer_;
 };
 
 Step Click(const QString& name) {

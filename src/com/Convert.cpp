@@ -1,6 +1,7 @@
 #include "com/Convert.h"
 
 #include "com/Errors.h"
+#include "runtime/windows/WideText.h"
 
 #include <climits>
 #include <new>
@@ -54,20 +55,14 @@ struct Filler {
 
 String FromBSTR(BSTR text) {
   const int length = CheckedLength(SysStringLen(text));
-  if (length == 0) return {};
-  const int size = WideCharToMultiByte(CP_UTF8, 0, text, length, nullptr, 0, nullptr, nullptr);
-  if (size <= 0) throw RuntimeError(13);
-  String bytes(static_cast<std::size_t>(size), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text, length, bytes.data(), size, nullptr, nullptr);
-  return bytes;
+  return length == 0 ? String() : Utf8(std::wstring(text, static_cast<std::size_t>(length)));
 }
 
 BSTR ToBSTR(const String& text) {
-  const int length = CheckedLength(text.size());
-  const int size = length == 0 ? 0 : MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0);
-  BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(size));
+  (void)CheckedLength(text.size());
+  const std::wstring units = Wide(text);
+  BSTR wide = SysAllocStringLen(units.data(), static_cast<UINT>(units.size()));
   if (wide == nullptr) throw std::bad_alloc();
-  if (size > 0) MultiByteToWideChar(CP_UTF8, 0, text.data(), length, wide, size);
   return wide;
 }
 

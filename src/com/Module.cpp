@@ -1,11 +1,10 @@
 #include "com/Module.h"
 
 #include "com/Errors.h"
+#include "runtime/windows/OwnModule.h"
 #include "view/win32/WinLifetime.h"
 
 #include <atomic>
-
-extern "C" IMAGE_DOS_HEADER __ImageBase;  // the linker's name for where this module begins
 
 namespace Tarnwise {
 
@@ -22,10 +21,9 @@ ModuleUse::~ModuleUse() { --uses; }
 void LockModule(bool lock) { uses += lock ? 1 : -1; }
 
 std::wstring ModulePath() {
-  const auto module = reinterpret_cast<HINSTANCE>(&__ImageBase);
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
+    const DWORD length = GetModuleFileNameW(OwnModule(), path.data(), static_cast<DWORD>(path.size()));
     if (length == 0) throw ComFailure(HRESULT_FROM_WIN32(GetLastError()), "The component's own file can't be found.");
     if (length < path.size()) {
       path.resize(length);

@@ -3,15 +3,10 @@
 #include "judging/NumberKeys.h"
 #include "model/mdTRNMain.h"
 #include "runtime/Text.h"
+#include "view/Keys.h"
 #include "view/Platform.h"
 
 namespace Tarnwise {
-
-namespace {
-
-enum Key { kBackspace = 8, kReturn = 13 };
-
-}  // namespace
 
 EntryBoxes::EntryBoxes(TextBox& lower, TextBox& upper, Control& away) : lower_(lower), upper_(upper), away_(away) {
   Connect(lower_, EntryBox::Lower);
@@ -35,14 +30,14 @@ void EntryBoxes::Show(const String& lower, const String& upper) {
 }
 
 void EntryBoxes::FilterEntryKey(TextBox& box, EntryBox which, KeyEvent& key) {
-  if (key.Code != kReturn) {
+  if (key.Code != kTypedReturn) {
     FilterNumberKey(box, key);
     return;
   }
   returning_ = true;
   box.Owner.Screen().SetFocus(away_);
   returning_ = false;
-  key.Code = kBackspace;
+  key.Code = kTypedBackspace;
   const String text = Trim(box.Text());
   box.SetText("");
   box.SetText(text);

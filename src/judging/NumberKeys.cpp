@@ -1,12 +1,12 @@
 #include "judging/NumberKeys.h"
 
+#include "view/Keys.h"
+
 namespace Tarnwise {
 
 bool IsNumeric(int character) { return (character >= '0' && character <= '9') || character == '.'; }
 
 void FilterNumberKey(TextBox& box, KeyEvent& key) {
-  constexpr int kCtrlV = 22;
-  constexpr int kBlank = 32;
   if (key.Code == kCtrlV) key.Code = 0;
   if (key.Code < kBlank) return;
   RemoveSecondPoint(box);
@@ -14,9 +14,7 @@ void FilterNumberKey(TextBox& box, KeyEvent& key) {
 }
 
 void DropPasting(KeyEvent& key) {
-  constexpr int kInsert = 45;
-  constexpr int kShift = 1;
-  if (key.Code == kInsert && (key.Shift & kShift) != 0) key.Code = 0;
+  if (key.Code == kKeyInsert && (key.Shift & kShift) != 0) key.Code = 0;
 }
 
 void RemoveSecondPoint(TextBox& box) {

@@ -1,5 +1,7 @@
 #include "modelfiles/ModelWriter.h"
 
+#include "runtime/Utf8.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -18,32 +20,20 @@ struct Place {
   String Text() const { return Of.empty() ? String(Field) : String(Field) + " of " + Of; }
 };
 
-std::size_t CharacterLength(unsigned char lead) {
-  if (lead >= 0xF0) return 4;
-  if (lead >= 0xE0) return 3;
-  return lead >= 0xC0 ? 2 : 1;
-}
-
-String CodePoint(std::string_view character) {
-  const auto lead = static_cast<unsigned char>(character[0]);
-  unsigned code = character.size() == 1 ? lead : lead & (0xFFU >> (character.size() + 1));
-  for (const char byte : character.substr(1)) code = (code << 6U) | (static_cast<unsigned char>(byte) & 0x3FU);
+String CodePoint(char32_t character) {
   std::array<char, 16> text{};
-  (void)std::snprintf(text.data(), text.size(), "U+%04X", code);
+  (void)std::snprintf(text.data(), text.size(), "U+%04X", static_cast<unsigned>(character));
   return text.data();
 }
 
 [[noreturn]] void RefuseText(std::string_view text, const Place& place, const CodePage& texts) {
   for (std::size_t i = 0; i < text.size();) {
-    const std::size_t length = CharacterLength(static_cast<unsigned char>(text[i]));
-    const std::string_view character = text.substr(i, length);
-    i += length;
-    if (texts.ToBytes(character)) continue;
-    const bool whole = length > 1 && character.size() == length &&
-                       std::all_of(character.begin() + 1, character.end(),
-                                   [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; });
-    if (!whole) break;
-    throw ModelFault(place.Text() + ": the character '" + String(character) + "' (" + CodePoint(character) +
+    const std::size_t first = i;
+    const auto character = NextCharacter(text, i);
+    if (!character) break;
+    const std::string_view bytes = text.substr(first, i - first);
+    if (texts.ToBytes(bytes)) continue;
+    throw ModelFault(place.Text() + ": the character '" + String(bytes) + "' (" + CodePoint(*character) +
                      ") is not in " + texts.Name);
   }
   throw ModelFault(place.Text() + ": the text is not valid UTF-8");

@@ -1,6 +1,6 @@
 #include "modelfiles/NamedCodePage.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 #include <iconv.h>
 

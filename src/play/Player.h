@@ -86,7 +86,7 @@ class Player {
   std::ostream& err_;
   const MakeHosted make_;
   std::unique_ptr<Hosted> dea_;
-  std::deque<int> typed_;  // characters that are still to come
+  std::deque<char32_t> typed_;  // characters that are still to come
   bool answers_ = true;
   bool stopped_ = false;
   int line_ = 0;

@@ -1,9 +1,11 @@
 // What a script's user does. Each action is tested first: could a person do it now?
 #include "play/Player.h"
 #include "play/ScriptLine.h"
+#include "runtime/Utf8.h"
 #include "view/Input.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
+#include "view/Rows.h"
 
 #include <map>
 #include <optional>
@@ -46,51 +48,38 @@ Spot NamedSpot(Control& named, Control& target, ControlPoint point) {
 }
 
 std::optional<KeyStroke> StrokeOf(const String& name) {
-  static const std::map<String, KeyStroke> strokes = {
-      {"Return", {13, 13, 0}},    {"Backspace", {8, 8, 0}},    {"Delete", {46, 0, 0}},   {"Left", {37, 0, 0}},
-      {"Right", {39, 0, 0}},      {"Up", {38, 0, 0}},          {"Down", {40, 0, 0}},     {"Home", {36, 0, 0}},
-      {"End", {35, 0, 0}},        {"Tab", {9, 9, 0}},          {"Shift+Tab", {9, 9, 1}}, {"Shift+Insert", {45, 0, 1}},
-      {"Ctrl+V", {86, 22, 2}},    {"Ctrl+A", {65, 1, 2}},      {"Escape", {27, 27, 0}},  {"Space", {32, 32, 0}},
-      {"Shift+Left", {37, 0, 1}}, {"Shift+Right", {39, 0, 1}}, {"Shift+Up", {38, 0, 1}}, {"Shift+Down", {40, 0, 1}}};
+  static const std::map<String, KeyStroke> strokes = {{"Return", {kKeyReturn, kTypedReturn, 0}},
+                                                      {"Backspace", {kKeyBackspace, kTypedBackspace, 0}},
+                                                      {"Delete", {kKeyDelete, 0, 0}},
+                                                      {"Left", {kKeyLeft, 0, 0}},
+                                                      {"Right", {kKeyRight, 0, 0}},
+                                                      {"Up", {kKeyUp, 0, 0}},
+                                                      {"Down", {kKeyDown, 0, 0}},
+                                                      {"Home", {kKeyHome, 0, 0}},
+                                                      {"End", {kKeyEnd, 0, 0}},
+                                                      {"Tab", {kKeyTab, kTypedTab, 0}},
+                                                      {"Shift+Tab", {kKeyTab, kTypedTab, kShift}},
+                                                      {"Shift+Insert", {kKeyInsert, 0, kShift}},
+                                                      {"Ctrl+V", {'V', kCtrlV, kControl}},
+                                                      {"Ctrl+A", {'A', kCtrlA, kControl}},
+                                                      {"Escape", {kKeyEscape, kTypedEscape, 0}},
+                                                      {"Space", {kKeySpace, kBlank, 0}},
+                                                      {"Shift+Left", {kKeyLeft, 0, kShift}},
+                                                      {"Shift+Right", {kKeyRight, 0, kShift}},
+                                                      {"Shift+Up", {kKeyUp, 0, kShift}},
+                                                      {"Shift+Down", {kKeyDown, 0, kShift}}};
   const auto found = strokes.find(name);
   return found == strokes.end() ? std::nullopt : std::optional<KeyStroke>(found->second);
 }
 
-int CodeOf(int character) {
-  if (character >= 'a' && character <= 'z') return character - 'a' + 'A';
+int CodeOf(char32_t character) {
+  if (character >= 'a' && character <= 'z') return static_cast<int>(character - 'a' + 'A');
   if ((character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9') || character == ' ') {
-    return character;
+    return static_cast<int>(character);
   }
-  if (character == '.') return 190;
-  if (character == ',') return 188;
-  if (character == '-') return 189;
-  return 231;  // a character that no key of its own types
-}
-
-std::vector<int> CharactersOf(const String& text) {
-  std::vector<int> characters;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80) {
-      characters.push_back(byte);
-    } else if (byte >= 0xC0) {
-      characters.push_back(byte >= 0xF0 ? byte & 0x07 : byte >= 0xE0 ? byte & 0x0F : byte & 0x1F);
-    } else if (!characters.empty()) {
-      characters.back() = characters.back() * 64 + (byte & 0x3F);
-    }
-  }
-  return characters;
-}
-
-// How many rows a list has and the number of its first one; nothing for a control that is no list.
-std::optional<std::pair<int, int>> RowsOf(const Control& control) {
-  switch (control.Type) {
-    case Kind::ListBox: return std::pair(static_cast<int>(static_cast<const ListBox&>(control).List().size()), 0);
-    case Kind::ComboBox: return std::pair(static_cast<int>(static_cast<const ComboBox&>(control).List().size()), 0);
-    case Kind::ImageCombo: return std::pair(static_cast<int>(static_cast<const ImageCombo&>(control).Items.size()), 1);
-    case Kind::TabStrip: return std::pair(static_cast<int>(static_cast<const TabStrip&>(control).Tabs.size()), 1);
-    default: return std::nullopt;
-  }
+  if (character == '.') return kKeyPeriod;
+  if (character == ',') return kKeyComma;
+  return character == '-' ? kKeyMinus : kKeyOther;
 }
 
 // What lies in the middle of a list, a bar or a toolbar is another thing on every screen.
@@ -100,11 +89,11 @@ bool HasOneMeaningToAClick(const Control& control) {
     case Kind::Timer:
     case Kind::VScrollBar:
     case Kind::Toolbar: return false;
-    default: return !RowsOf(control);
+    default: return !IsList(control);
   }
 }
 
-KeyStroke StrokeFor(int character) { return {CodeOf(character), character, 0}; }
+KeyStroke StrokeFor(char32_t character) { return {CodeOf(character), static_cast<int>(character), 0}; }
 
 }  // namespace
 
@@ -129,9 +118,8 @@ void Player::Click(const String& name) {
 void Player::Select(const String& name, int index) {
   RefuseDuringDrag();
   Control& list = Usable(name);
-  const auto rows = RowsOf(list);
-  if (!rows) throw Refused(name + ": has no rows to select");
-  if (index < rows->second || index >= rows->first + rows->second) throw Refused(name + ": has no such row");
+  if (!IsList(list)) throw Refused(name + ": has no rows to select");
+  if (!RowsOf(list).Has(index)) throw Refused(name + ": has no such row");
   driver_.Select(list, index);
 }
 
@@ -157,7 +145,7 @@ void Player::Stroke(const KeyStroke& key) {
   Form* const form = screen_->ActiveForm();
   if (form == nullptr) throw Refused("no form takes keys");
   const Control* const control = form->ActiveControl;
-  if (key.Code != 9) {
+  if (key.Code != kKeyTab) {
     if (control == nullptr) throw Refused("nothing has the focus");
     if (!IsOnScreen(*control)) throw Refused(control->FullName() + ": hidden");
     if (!IsUsable(*control)) throw Refused(control->FullName() + ": disabled");
@@ -169,7 +157,7 @@ void Player::Stroke(const KeyStroke& key) {
 // The first character belongs to the line. The others come one by one, each after the modal calls that the one before
 // has ended; what can't be typed any more is left.
 void Player::Type(const String& text) {
-  const std::vector<int> characters = CharactersOf(text);
+  const std::vector<char32_t> characters = CharactersOf(text);
   if (characters.empty()) return;
   Stroke(StrokeFor(characters.front()));
   typed_.assign(characters.begin() + 1, characters.end());
@@ -177,7 +165,7 @@ void Player::Type(const String& text) {
 
 bool Player::TypeOn() {
   if (typed_.empty()) return false;
-  const int character = typed_.front();
+  const char32_t character = typed_.front();
   typed_.pop_front();
   try {
     Stroke(StrokeFor(character));
@@ -224,6 +212,7 @@ void Player::Drag(const std::vector<String>& words) {
   try {
     Over(words, 2);
   } catch (...) {
+    screen_->Hand.CancelDrag();
     screen_->Drag.Cancel();
     throw;
   }

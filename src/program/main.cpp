@@ -2,14 +2,18 @@
 // projects, and works out their results.
 #include "dea/Watch.h"
 #include "program/Commands.h"
+#include "program/ExportCommand.h"
 #include "program/ImportCommand.h"
 #include "program/Interrupt.h"
 #include "program/JudgeCommand.h"
 #include "program/ModelCommands.h"
+#include "program/Pdf.h"
+#include "program/ReportCommand.h"
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
 #include "program/Workbench.h"
+#include "project/Evaluation.h"
 
 #include <CLI/CLI.hpp>
 
@@ -20,6 +24,12 @@
 namespace {
 
 using namespace Tarnwise;
+
+// With the solver inside, the program as a whole is under the solver's licence.
+String VersionText() {
+  const String licence = CanSolve() ? "GNU General Public License, version 3 or later; its own sources: MIT" : "MIT";
+  return "tarnwise " TARNWISE_VERSION "\nLicence: " + licence;
+}
 
 bool WantsColours() {
   const char* const no = std::getenv("NO_COLOR");
@@ -43,6 +53,7 @@ int Main(int argc, char** argv) {
   app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(0, 1);
   app.footer("Without a command it opens the analyst's window.");
+  app.set_version_flag("--version", VersionText(), "Print the version and the licence");
 
   RunOptions run;
   CLI::App* const runCommand = app.add_subcommand("run", "Show the wizard on a model; print the judgments as JSON");
@@ -68,9 +79,14 @@ int Main(int argc, char** argv) {
   const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
+  ReportOptions report;
+  const CLI::App* const reportCommand = AddReportCommand(app, report);
+  ExportOptions exported;
+  const CLI::App* const exportCommand = AddExportCommand(app, exported);
 
   OpenOptions open;
-  CLI::App* const openCommand = app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
+  CLI::App* const openCommand =
+      app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
   openCommand->add_option("FILE", open.File, "Project (.tarnwise), table (.csv) or model (.kst, .json)");
   openCommand->add_option("--pictures", open.Pictures, "Take a picture of each page into this folder, and end")
       ->type_name("FOLDER");
@@ -101,6 +117,12 @@ int Main(int argc, char** argv) {
   if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
+  }
+  if (reportCommand->parsed()) {
+    return Compute([&report](const Console& console) { return WriteReport(report, TimeNow(), PdfOf, console); });
+  }
+  if (exportCommand->parsed()) {
+    return Compute([&exported](const Console& console) { return ExportProject(exported, console); });
   }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);

@@ -1,6 +1,6 @@
 #include "project/Shown.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -14,8 +14,6 @@ namespace {
 
 constexpr std::size_t kLongest = 60;
 constexpr std::size_t kMostItems = 10;
-
-bool IsContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
 // Also the control characters from U+0080 on, which some terminals obey.
 bool IsControl(std::string_view text, std::size_t i) {
@@ -47,7 +45,7 @@ String WholeName(std::string_view name) {
 
 String ShownName(std::string_view name) {
   std::size_t size = std::min(name.size(), kLongest);
-  while (size < name.size() && size > 0 && IsContinuation(name[size])) --size;
+  while (size < name.size() && size > 0 && ContinuesCharacter(name[size])) --size;
   const String shown = WholeName(name.substr(0, size));
   return size < name.size() ? shown + "..." : shown;
 }

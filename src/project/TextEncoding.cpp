@@ -2,7 +2,7 @@
 
 #include "modelfiles/WholeFile.h"
 #include "runtime/AnsiText.h"
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -36,21 +36,6 @@ String Hexadecimal(const char* pattern, std::uint32_t number) {
   return text.data();
 }
 
-// How many bytes the character at i takes; 0 where they are no UTF-8.
-std::size_t CharacterSize(Bytes text, std::size_t i) {
-  const std::uint32_t lead = At(text, i);
-  if (lead < 0x80) return 1;
-  const std::size_t size = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() - i < size) return 0;
-  for (std::size_t k = 1; k < size; ++k) {
-    if ((At(text, i + k) & 0xC0U) != 0x80U) return 0;
-  }
-  const std::uint32_t second = At(text, i + 1);
-  const bool tooLong = (lead == 0xE0 && second < 0xA0) || (lead == 0xF0 && second < 0x90);
-  const bool noCharacter = (lead == 0xED && second > 0x9F) || (lead == 0xF4 && second > 0x8F);
-  return tooLong || noCharacter ? 0 : size;
-}
-
 // Where the bytes cease to be UTF-8, and whether a character beyond ASCII stands before that or behind.
 struct Utf8Finding {
   std::size_t Broken = Bytes::npos;
@@ -61,10 +46,10 @@ Utf8Finding FindUtf8(Bytes text) {
   Utf8Finding finding;
   if (IsAscii(text)) return finding;
   for (std::size_t i = 0; i < text.size();) {
-    const std::size_t size = CharacterSize(text, i);
-    if (size == 0 && finding.Broken == Bytes::npos) finding.Broken = i;
-    if (size > 1 && finding.Proof == Bytes::npos) finding.Proof = i;
-    i += std::max<std::size_t>(size, 1);
+    const std::size_t at = i;
+    if (!NextCharacter(text, i)) ++i;
+    if (i == at + 1 && At(text, at) >= 0x80 && finding.Broken == Bytes::npos) finding.Broken = at;
+    if (i > at + 1 && finding.Proof == Bytes::npos) finding.Proof = at;
   }
   return finding;
 }

@@ -1,6 +1,6 @@
 #include "runtime/AnsiText.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -16,35 +16,6 @@ constexpr std::array<char16_t, 32> kHigh = {0x20AC, 0x0081, 0x201A, 0x0192, 0x20
                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-// The next character of a UTF-8 text from position i on, moving i behind it; nothing where the text is malformed.
-std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i) {
-  const auto at = [&text](std::size_t k) -> std::uint32_t { return static_cast<unsigned char>(text[k]); };
-  const std::uint32_t lead = at(i);
-  std::size_t more = 0;
-  std::uint32_t c = lead;
-  if (lead >= 0xF0 && lead < 0xF8) {
-    more = 3;
-    c = lead & 0x07U;
-  } else if (lead >= 0xE0 && lead < 0xF0) {
-    more = 2;
-    c = lead & 0x0FU;
-  } else if (lead >= 0xC2 && lead < 0xE0) {
-    more = 1;
-    c = lead & 0x1FU;
-  } else if (lead >= 0x80) {
-    return std::nullopt;
-  }
-  if (text.size() - i <= more) return std::nullopt;
-  for (std::size_t k = 1; k <= more; ++k) {
-    if ((at(i + k) & 0xC0U) != 0x80U) return std::nullopt;
-    c = (c << 6U) | (at(i + k) & 0x3FU);
-  }
-  constexpr std::array<std::uint32_t, 4> kLeast = {0, 0x80, 0x800, 0x10000};
-  if (c < kLeast[more]) return std::nullopt;  // written longer than it need be
-  i += more + 1;
-  return c;
-}
 
 }  // namespace
 

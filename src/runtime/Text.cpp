@@ -190,29 +190,4 @@ String Trim(std::string_view text) {
 
 Double Int(Double x) { return std::floor(x); }
 
-int Length(std::string_view text) {
-  return static_cast<int>(
-      std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
-void AppendUtf8(String& text, char32_t character) {
-  const auto put = [&text](char32_t byte) { text += static_cast<char>(static_cast<unsigned char>(byte)); };
-  const auto follow = [&](unsigned shift) { put(0x80U | ((character >> shift) & 0x3FU)); };
-  if (character < 0x80) {
-    put(character);
-  } else if (character < 0x800) {
-    put(0xC0U | (character >> 6U));
-    follow(0);
-  } else if (character < 0x10000) {
-    put(0xE0U | (character >> 12U));
-    follow(6);
-    follow(0);
-  } else {
-    put(0xF0U | (character >> 18U));
-    follow(12);
-    follow(6);
-    follow(0);
-  }
-}
-
 }  // namespace Tarnwise

@@ -1,6 +1,8 @@
 // Numbers as text and text as numbers. The point is the decimal separator whatever the locale.
 #pragma once
 
+#include "runtime/Utf8.h"
+
 #include <tarnwise/Scalars.h>
 
 #include <string_view>
@@ -32,11 +34,5 @@ String Trim(std::string_view text);
 
 // The largest whole number that is not above x.
 Double Int(Double x);
-
-// The number of characters (not bytes) of a UTF-8 text.
-int Length(std::string_view text);
-
-// The character as UTF-8 behind the text.
-void AppendUtf8(String& text, char32_t character);
 
 }  // namespace Tarnwise

@@ -5,13 +5,13 @@
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
 #include "tradeoffs/TradeOffModel.h"
+#include "view/Keys.h"
 #include "view/Platform.h"
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr int kReturn = 13;
 constexpr Integer kYes = -1;
 
 String ScoreText(Double score) { return StripTrailingDot(Format(score, "0.##")); }
@@ -65,7 +65,7 @@ void ScoreEntry::ShowDifferences() {
 }
 
 void ScoreEntry::ScoreKey(KeyEvent& key, TextBox& box) {
-  if (key.Code == kReturn) {
+  if (key.Code == kTypedReturn) {
     key.Code = 0;
     CommitScores();
   } else {

@@ -1,6 +1,7 @@
 #include "view/Drag.h"
 
 #include "view/Dispatch.h"
+#include "view/Keys.h"
 #include "view/Reach.h"
 
 #include <algorithm>
@@ -8,8 +9,6 @@
 namespace Tarnwise {
 
 namespace {
-
-enum KeyCode { kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
 
 int DepthOf(const Control* control) {
   int depth = 0;
@@ -116,9 +115,9 @@ void DragSession::Cancel() {
 }
 
 bool DragSession::Key(int code, bool shift) {
-  const bool across = code == kLeft || code == kRight;
-  if (!across && code != kUp && code != kDown) return false;
-  const bool forward = code == kRight || code == kDown;
+  const bool across = code == kKeyLeft || code == kKeyRight;
+  if (!across && code != kKeyUp && code != kKeyDown) return false;
+  const bool forward = code == kKeyRight || code == kKeyDown;
   if (source_->KeyboardDrag == DragBy::Units) {
     const Single by = (forward ? 1.0F : -1.0F) * (shift ? 10.0F : 1.0F);
     Step(across ? by : 0.0F, across ? 0.0F : by);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "view/Form.h"
+#include "view/Keys.h"
 #include "view/Reach.h"
 
 #include <functional>
@@ -11,12 +12,6 @@
 namespace Tarnwise {
 
 class Platform;
-
-struct KeyStroke {
-  int Code = 0;       // virtual key
-  int Character = 0;  // what it types as a code point, 0: nothing. Ctrl+V is 22, Ctrl+A is 1
-  int Shift = 0;      // 1 Shift, 2 Ctrl
-};
 
 class Driver {
  public:

@@ -1,9 +1,8 @@
 #include "view/Form.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 #include "view/Dispatch.h"
 #include "view/Platform.h"
-#include "view/Utf8.h"
 
 #include <algorithm>
 
@@ -45,18 +44,9 @@ int Form::CountOf(const String& name) const {
   }));
 }
 
-std::size_t ByteOf(const String& text, int index) {
-  std::size_t byte = 0;
-  for (int passed = 0; byte < text.size(); ++byte) {
-    if ((static_cast<unsigned char>(text[byte]) & 0xC0U) == 0x80U) continue;
-    if (passed++ == index) return byte;
-  }
-  return text.size();
-}
-
 void TextBox::SetSelText(const String& text) {
-  const std::size_t from = ByteOf(Text, SelStart);
-  const std::size_t to = ByteOf(Text, SelStart() + SelLength());
+  const std::size_t from = ByteOf(Text(), SelStart);
+  const std::size_t to = ByteOf(Text(), SelStart() + SelLength());
   String now = Text;
   now.replace(from, to - from, text);
   SelStart = SelStart() + Length(text);

@@ -1,9 +1,11 @@
 #include "view/Input.h"
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 #include "view/Dispatch.h"
+#include "view/Keys.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
+#include "view/Rows.h"
 
 #include <algorithm>
 #include <cctype>
@@ -12,67 +14,24 @@ namespace Tarnwise::Input {
 
 namespace {
 
-constexpr int kReturn = 13;
-constexpr int kSpace = 32;
-constexpr int kEscape = 27;
-enum KeyCode { kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
-
-struct Rows {
-  int First = 0;
-  int Last = -1;
-  int Present = -1;
-};
-
-Rows RowsOf(const Control& list) {
-  switch (list.Type) {
-    case Kind::ListBox: {
-      const auto& box = static_cast<const ListBox&>(list);
-      return {0, static_cast<int>(box.List().size()) - 1, box.ListIndex};
-    }
-    case Kind::ComboBox: {
-      const auto& box = static_cast<const ComboBox&>(list);
-      return {0, static_cast<int>(box.List().size()) - 1, box.ListIndex};
-    }
-    case Kind::ImageCombo: {
-      const auto& box = static_cast<const ImageCombo&>(list);
-      return {1, static_cast<int>(box.Items.size()), box.SelectedItem};
-    }
-    case Kind::TabStrip: {
-      const auto& strip = static_cast<const TabStrip&>(list);
-      return {1, static_cast<int>(strip.Tabs.size()), strip.SelectedItem};
-    }
-    default: return {};
-  }
-}
-
 // Arrows, Home and End choose a row; a key that leads nowhere chooses nothing.
 bool RowKey(Control& list, int code) {
   const Rows rows = RowsOf(list);
-  int row = rows.Present;
-  if (code == kUp || code == kLeft)
+  int row = rows.Chosen;
+  if (code == kKeyUp || code == kKeyLeft)
     --row;
-  else if (code == kDown || code == kRight)
+  else if (code == kKeyDown || code == kKeyRight)
     ++row;
-  else if (code == kHome)
+  else if (code == kKeyHome)
     row = rows.First;
-  else if (code == kEnd)
-    row = rows.Last;
+  else if (code == kKeyEnd)
+    row = rows.Last();
   else
     return false;
-  if (rows.Last < rows.First) return true;
-  row = std::clamp(row, rows.First, rows.Last);
-  if (row != rows.Present) SelectRow(list, row);
+  if (rows.Count == 0) return true;
+  row = std::clamp(row, rows.First, rows.Last());
+  if (row != rows.Chosen) SelectRow(list, row);
   return true;
-}
-
-String RowText(const Control& list, int row) {
-  const auto at = static_cast<std::size_t>(row);
-  switch (list.Type) {
-    case Kind::ListBox: return static_cast<const ListBox&>(list).List()[at];
-    case Kind::ComboBox: return static_cast<const ComboBox&>(list).List()[at];
-    case Kind::ImageCombo: return static_cast<const ImageCombo&>(list).Items[at - 1].Text;
-    default: return {};
-  }
 }
 
 // Marks and blanks may stand before the letter that a row begins with. Letters beyond ASCII have no key here.
@@ -89,11 +48,10 @@ bool LetterKey(Control& list, int code) {
   const bool isLetterOrDigit = (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z');
   if (!isLetterOrDigit || list.Type == Kind::TabStrip) return false;
   const Rows rows = RowsOf(list);
-  const int count = rows.Last - rows.First + 1;
-  const int before = std::max(rows.Present - rows.First, -1);  // counted from 0; -1 where none is chosen
-  for (int step = 1; step <= count; ++step) {
-    const int row = rows.First + (before + step) % count;
-    if (row == rows.Present || !BeginsWith(RowText(list, row), code)) continue;
+  const int before = std::max(rows.Chosen - rows.First, -1);  // counted from 0; -1 where none is chosen
+  for (int step = 1; step <= rows.Count; ++step) {
+    const int row = rows.First + (before + step) % rows.Count;
+    if (row == rows.Chosen || !BeginsWith(RowText(list, row), code)) continue;
     SelectRow(list, row);
     break;
   }
@@ -102,14 +60,14 @@ bool LetterKey(Control& list, int code) {
 
 bool BarKey(VScrollBar& bar, int code) {
   switch (code) {
-    case kUp:
-    case kLeft: ScrollTo(bar, bar.Value - bar.SmallChange, false); return true;
-    case kDown:
-    case kRight: ScrollTo(bar, bar.Value + bar.SmallChange, false); return true;
-    case kPageUp: ScrollTo(bar, bar.Value - bar.LargeChange, false); return true;
-    case kPageDown: ScrollTo(bar, bar.Value + bar.LargeChange, false); return true;
-    case kHome: ScrollTo(bar, bar.Min, false); return true;
-    case kEnd: ScrollTo(bar, bar.Max, false); return true;
+    case kKeyUp:
+    case kKeyLeft: ScrollTo(bar, bar.Value - bar.SmallChange, false); return true;
+    case kKeyDown:
+    case kKeyRight: ScrollTo(bar, bar.Value + bar.SmallChange, false); return true;
+    case kKeyPageUp: ScrollTo(bar, bar.Value - bar.LargeChange, false); return true;
+    case kKeyPageDown: ScrollTo(bar, bar.Value + bar.LargeChange, false); return true;
+    case kKeyHome: ScrollTo(bar, bar.Min, false); return true;
+    case kKeyEnd: ScrollTo(bar, bar.Max, false); return true;
     default: return false;
   }
 }
@@ -117,12 +75,12 @@ bool BarKey(VScrollBar& bar, int code) {
 // The arrows choose one of the buttons, Space and Return press it.
 bool ToolbarKey(Toolbar& toolbar, int code) {
   const int count = static_cast<int>(toolbar.Buttons.size());
-  if (code >= kLeft && code <= kDown) {
-    const int step = code == kRight || code == kDown ? 1 : -1;
+  if (code >= kKeyLeft && code <= kKeyDown) {
+    const int step = code == kKeyRight || code == kKeyDown ? 1 : -1;
     toolbar.Current = std::max(1, std::min(count, toolbar.Current + step));
     return true;
   }
-  if ((code != kSpace && code != kReturn) || toolbar.Current > count) return false;
+  if ((code != kKeySpace && code != kKeyReturn) || toolbar.Current > count) return false;
   const Toolbar::Button& button = toolbar.Buttons[static_cast<std::size_t>(toolbar.Current()) - 1];
   if (button.Enabled) PressToolButton(toolbar, String(button.Key));
   return true;
@@ -261,20 +219,20 @@ void PutCaretAtEnd(Control& control) {
 bool ControlKey(Control& control, int code, int shift) {
   Platform& platform = control.Owner.Screen();
   if (platform.Drag.Active()) {
-    if (code == kSpace) {
+    if (code == kKeySpace) {
       platform.Drag.Drop();
-    } else if (code == kEscape) {
+    } else if (code == kKeyEscape) {
       platform.Drag.Cancel();
     } else {
-      return platform.Drag.Key(code, (shift & 1) != 0);
+      return platform.Drag.Key(code, (shift & kShift) != 0);
     }
     return true;
   }
-  if (code == kSpace && control.DragAutomatic) {
+  if (code == kKeySpace && control.DragAutomatic) {
     platform.Drag.Begin(control);
     return true;
   }
-  const bool pressed = code == kSpace || code == kReturn;
+  const bool pressed = code == kKeySpace || code == kKeyReturn;
   switch (control.Type) {
     case Kind::CommandButton:
       if (!pressed) return false;
@@ -282,7 +240,7 @@ bool ControlKey(Control& control, int code, int shift) {
       return true;
     case Kind::CheckBox:
     case Kind::OptionButton:
-      if (code != kSpace) return false;
+      if (code != kKeySpace) return false;
       Activate(control);
       return true;
     case Kind::ListBox:

@@ -1,8 +1,8 @@
 #include "view/headless/HeadlessToolkit.h"
 
-#include <tarnwise/TRN_DEA.h>
+#include <tarnwise/Platform.h>
 
-#include "runtime/Text.h"
+#include "runtime/Utf8.h"
 
 namespace Tarnwise {
 

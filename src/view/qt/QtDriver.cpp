@@ -4,6 +4,7 @@
 #include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
+#include "view/qt/QtKeys.h"
 #include "view/qt/QtToolkit.h"
 
 #include <QAbstractItemView>
@@ -17,26 +18,13 @@
 #include <QTabBar>
 #include <QTest>
 #include <QToolButton>
-#include <map>
 
 namespace Tarnwise {
 
 namespace {
 
-Qt::Key KeyOf(int code) {
-  static const std::map<int, Qt::Key> keys{
-      {8, Qt::Key_Backspace}, {9, Qt::Key_Tab},       {13, Qt::Key_Return}, {27, Qt::Key_Escape}, {32, Qt::Key_Space},
-      {33, Qt::Key_PageUp},   {34, Qt::Key_PageDown}, {35, Qt::Key_End},    {36, Qt::Key_Home},   {37, Qt::Key_Left},
-      {38, Qt::Key_Up},       {39, Qt::Key_Right},    {40, Qt::Key_Down},   {45, Qt::Key_Insert}, {46, Qt::Key_Delete},
-      {190, Qt::Key_Period},  {188, Qt::Key_Comma},   {189, Qt::Key_Minus}, {187, Qt::Key_Plus},
-  };
-  const auto found = keys.find(code);
-  if (found != keys.end()) return found->second;
-  return code >= '0' && code <= 'Z' ? static_cast<Qt::Key>(code) : Qt::Key_unknown;
-}
-
 QString TextOf(const KeyStroke& key) {
-  if (key.Character < 32) return {};
+  if (key.Character < kBlank) return {};
   const auto code = static_cast<char32_t>(key.Character);
   return QString::fromUcs4(&code, 1);
 }
@@ -91,9 +79,9 @@ class QtDriver : public Driver {
 
   void Key(Form& form, const KeyStroke& key) override {
     const auto held = form.shared_from_this();
-    const Qt::KeyboardModifiers modifiers = ((key.Shift & 1) != 0 ? Qt::ShiftModifier : Qt::NoModifier) |
-                                            ((key.Shift & 2) != 0 ? Qt::ControlModifier : Qt::NoModifier);
-    const Qt::Key code = KeyOf(key.Code);
+    const Qt::KeyboardModifiers modifiers = ((key.Shift & kShift) != 0 ? Qt::ShiftModifier : Qt::NoModifier) |
+                                            ((key.Shift & kControl) != 0 ? Qt::ControlModifier : Qt::NoModifier);
+    const Qt::Key code = QtKeyOf(key.Code);
     QWidget* widget = KeyboardOf(form);
     if (widget != nullptr) QTest::sendKeyEvent(QTest::Press, widget, code, TextOf(key), modifiers);
     widget = KeyboardOf(form);
@@ -104,7 +92,7 @@ class QtDriver : public Driver {
     grabbed_ = WidgetOf(source);
     if (grabbed_.isNull()) return;
     QTest::mousePress(grabbed_, Qt::LeftButton, Qt::NoModifier, grabbed_->rect().center());
-    toolkit_->Drag().Begin();  // the first move may be as near as it likes
+    screen_->Hand.BeginDrag();  // the first move may be as near as it likes
   }
 
   void Over(Control& target, ControlPoint at) override {

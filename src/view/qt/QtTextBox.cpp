@@ -30,12 +30,8 @@ QWidget* MakeTextBox(QtForm& form, Control& control, QWidget& parent) {
   edit->setDragEnabled(false);
   edit->setAcceptDrops(false);
   edit->setAttribute(Qt::WA_InputMethodEnabled, false);  // every character goes through the form's key events
-  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] {
-    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
-  });
-  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] {
-    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
-  });
+  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
+  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
   QObject::connect(edit, &QLineEdit::textChanged, &form, [&form, edit] { form.TextCame(*edit); });
   // The caret stands where the tree says until a person moves it.
   edit->setText(Text(static_cast<TextBox&>(control).Text));
@@ -61,33 +57,31 @@ void SyncTextBox(QtForm& /*form*/, Control& control, QWidget& widget) {
 
 }  // namespace
 
-void StoreCaret(TextBox& box, const QLineEdit& edit) {
-  // A text on its way into the tree is told by TextEdited, caret and all.
-  if (Text(edit.text()) != box.Text()) return;
-  const int start = SelectionStart(edit);
-  const int end = start + static_cast<int>(edit.selectedText().size());
-  box.SelStart = CharactersBefore(edit.text(), start);
-  box.SelLength = CharactersBefore(edit.text(), end) - box.SelStart;
+Entered EnteredInto(const QLineEdit& edit) {
+  const int from = SelectionStart(edit);
+  const int start = CharactersBefore(edit.text(), from);
+  const int end = CharactersBefore(edit.text(), from + static_cast<int>(edit.selectedText().size()));
+  return {Text(edit.text()), start, end - start, CharactersBefore(edit.text(), edit.cursorPosition())};
 }
 
 void TypeCharacter(QLineEdit& edit, int character) {
   switch (character) {
-    case 1: edit.selectAll(); break;
-    case 3: edit.copy(); break;
-    case kKeyBackspace: edit.backspace(); break;
-    case 22: edit.paste(); break;
-    case 24: edit.cut(); break;
-    case 26: edit.undo(); break;
+    case kCtrlA: edit.selectAll(); break;
+    case kCtrlC: edit.copy(); break;
+    case kTypedBackspace: edit.backspace(); break;
+    case kCtrlV: edit.paste(); break;
+    case kCtrlX: edit.cut(); break;
+    case kCtrlZ: edit.undo(); break;
     default:
-      if (character < 32 || character == 127) return;
+      if (character < kBlank || character == kRubOut) return;
       const auto code = static_cast<char32_t>(character);
       edit.insert(QString::fromUcs4(&code, 1));
   }
 }
 
 bool PressEditingKey(QLineEdit& edit, int code, int shift) {
-  const bool marks = (shift & 1) != 0;
-  const bool words = (shift & 2) != 0;
+  const bool marks = (shift & kShift) != 0;
+  const bool words = (shift & kControl) != 0;
   switch (code) {
     case kKeyDelete:
       if (marks)

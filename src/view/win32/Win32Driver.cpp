@@ -2,11 +2,11 @@
 #include "view/win32/Win32Driver.h"
 
 #include "view/Input.h"
+#include "view/Lifetime.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
-#include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"
 #include "view/win32/WinToolkit.h"
 #include "view/win32/WindowPicture.h"
@@ -55,8 +55,8 @@ class Held {
   explicit Held(int shift) {
     GetKeyboardState(former_.data());
     std::array<BYTE, 256> now = former_;
-    now[VK_SHIFT] = (shift & 1) != 0 ? kDown : kUp;
-    now[VK_CONTROL] = (shift & 2) != 0 ? kDown : kUp;
+    now[VK_SHIFT] = (shift & kShift) != 0 ? kDown : kUp;
+    now[VK_CONTROL] = (shift & kControl) != 0 ? kDown : kUp;
     now[VK_MENU] = kUp;
     SetKeyboardState(now.data());
   }
@@ -124,7 +124,7 @@ class Win32Driver : public Driver {
 
   void Focus(Control& control) override {
     const auto held = Ready(control);
-    const WinEntry entry(control.Owner);
+    const Entry entry(control.Owner);
     if (Input::MoveFocus(control)) Input::PutCaretAtEnd(control);
     screen_->SyncAll();
   }
@@ -135,7 +135,7 @@ class Win32Driver : public Driver {
     const auto code = static_cast<WPARAM>(key.Code);
     if (const HWND window = KeyboardOf(form)) SendMessageW(window, WM_KEYDOWN, code, 1);
     if (key.Character != 0) {
-      for (const wchar_t unit : UnitsOf(key.Character)) {
+      for (const wchar_t unit : WideCharacter(static_cast<char32_t>(key.Character))) {
         if (const HWND window = KeyboardOf(form)) SendMessageW(window, WM_CHAR, unit, 1);
       }
     }
@@ -147,14 +147,14 @@ class Win32Driver : public Driver {
     grabbed_ = WindowOf(source);
     if (grabbed_ == nullptr) return;
     PressAt(grabbed_, MiddleOf(grabbed_));
-    toolkit_.Drag().Begin();  // the first move may be as near as it likes
+    screen_->Hand.BeginDrag();  // the first move may be as near as it likes
   }
 
   void Over(Control& target, ControlPoint at) override {
     const FormPoint onForm = OnForm(target, at);
     WinForm* const shown = toolkit_.FormOf(target.Owner);
     if (grabbed_ == nullptr || shown == nullptr || DragTargetAt(target.Owner, onForm) != &target) {
-      const WinEntry entry(target.Owner);
+      const Entry entry(target.Owner);
       screen_->Drag.Over(target, at.X, at.Y);  // clipped by a viewport, or another one of the row stands in front
       return;
     }
@@ -164,11 +164,11 @@ class Win32Driver : public Driver {
     if (pixelX == pixel.x && pixelY == pixel.y)
       SendMessageW(shown->Window(), WM_MOUSEMOVE, MK_LBUTTON, At(pixel));
     else
-      toolkit_.Drag().Move(pixelX, pixelY);  // no mouse can point between two pixels
+      screen_->Hand.MoveDrag(onForm);  // no mouse can point between two pixels
   }
 
   void OverNothing() override {
-    const WinEntry entry(screen_->Drag.Source()->Owner);
+    const Entry entry(screen_->Drag.Source()->Owner);
     screen_->Drag.OverNothing();
   }
 
@@ -193,7 +193,7 @@ class Win32Driver : public Driver {
 
   void Tick(Timer& timer) override {
     const auto held = timer.Owner.shared_from_this();
-    const WinEntry entry(timer.Owner);
+    const Entry entry(timer.Owner);
     Input::Tick(timer);
   }
 
@@ -226,12 +226,6 @@ class Win32Driver : public Driver {
     const Control* const active = form.Released ? nullptr : form.ActiveControl;
     const HWND window = active != nullptr ? WindowOf(*active) : nullptr;
     return window != nullptr ? window : WindowOf(form);
-  }
-
-  static std::wstring UnitsOf(int character) {
-    if (character < 0x10000) return {static_cast<wchar_t>(character)};
-    return {static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10)),
-            static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF))};
   }
 
   // Opens the list by a press and goes to the row by keys.

@@ -1,8 +1,8 @@
 #include "view/win32/WinKinds.h"
 
+#include "runtime/windows/OwnModule.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
-#include "view/win32/WinLifetime.h"
 
 namespace Tarnwise {
 

@@ -1,4 +1,4 @@
-// Texts of windows, and carets in them.
+// Texts of windows.
 #pragma once
 
 #include "runtime/windows/WideText.h"
@@ -10,9 +10,5 @@ namespace Tarnwise {
 
 std::wstring TextOf(HWND window);
 void SetText(HWND window, const std::wstring& text);  // only where it differs
-
-// Carets are counted in characters by the tree, in UTF-16 units by Windows.
-int CharactersBefore(const std::wstring& text, int units);
-int UnitsBefore(const std::wstring& text, int characters);
 
 }  // namespace Tarnwise

@@ -1,4 +1,5 @@
 // Text boxes and scroll bars.
+#include "view/Keys.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
@@ -11,8 +12,6 @@
 namespace Tarnwise {
 
 namespace {
-
-enum Character { kCtrlA = 1, kBackspace = 8, kReturn = 13, kEscape = 27, kBlank = 32, kRubOut = 127 };
 
 struct Selection {
   int From = 0;
@@ -113,30 +112,21 @@ LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam) {
   return answer;
 }
 
-void StoreCaret(TextBox& box, HWND edit) {
-  // A text on its way into the tree is told by TextEdited, caret and all.
+Entered EnteredInto(HWND edit) {
   const std::wstring text = TextOf(edit);
-  if (Utf8(text) != box.Text()) return;
   const Selection selection = SelectionOf(edit);
-  box.SelStart = CharactersBefore(text, selection.From);
-  box.SelLength = CharactersBefore(text, selection.To) - box.SelStart;
+  const int start = CharactersBefore(text, selection.From);
+  const int end = CharactersBefore(text, selection.To);
+  return {Utf8(text), start, end - start, end};
 }
-
-int CaretOf(HWND edit) { return SelectionOf(edit).To; }
 
 void TypeCharacter(HWND edit, int character) {
   if (character == kCtrlA) {
     SendMessageW(edit, EM_SETSEL, 0, -1);
   } else if (character >= kBlank && character != kRubOut) {
-    std::wstring typed;
-    if (character >= 0x10000) {
-      typed += static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10));
-      typed += static_cast<wchar_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
-    } else {
-      typed += static_cast<wchar_t>(character);
-    }
+    const std::wstring typed = WideCharacter(static_cast<char32_t>(character));
     SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(typed.c_str()));
-  } else if (character != kReturn && character != kEscape && character < kBlank) {
+  } else if (character != kTypedReturn && character != kTypedEscape && character < kBlank) {
     DefSubclassProc(edit, WM_CHAR, static_cast<WPARAM>(character), 0);  // backspace, the clipboard, undo
   }
 }

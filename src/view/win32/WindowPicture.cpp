@@ -1,20 +1,13 @@
 #include "view/win32/WindowPicture.h"
 
+#include "runtime/windows/ComRef.h"
 #include "view/win32/WinPaint.h"
 
 #include <wincodec.h>
 
-#include <memory>
-
 namespace Tarnwise {
 
 namespace {
-
-struct LetGo {
-  void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Interface>
-using Held = std::unique_ptr<Interface, LetGo>;
 
 // The window's place as the screen shows it, the children's pixels included.
 Bitmap PixelsOf(HWND window, int width, int height) {
@@ -31,35 +24,30 @@ Bitmap PixelsOf(HWND window, int width, int height) {
 }
 
 bool WriteFrame(IWICImagingFactory& factory, IWICBitmapEncoder& encoder, HBITMAP bitmap, int width, int height) {
-  IWICBitmap* made = nullptr;
-  if (FAILED(factory.CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, &made))) return false;
-  const Held<IWICBitmap> source(made);
-  IWICBitmapFrameEncode* frameMade = nullptr;
-  if (FAILED(encoder.CreateNewFrame(&frameMade, nullptr))) return false;
-  const Held<IWICBitmapFrameEncode> frame(frameMade);
+  ComRef<IWICBitmap> source;
+  if (FAILED(factory.CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, source.Receive()))) return false;
+  ComRef<IWICBitmapFrameEncode> frame;
+  if (FAILED(encoder.CreateNewFrame(frame.Receive(), nullptr))) return false;
   WICPixelFormatGUID format = GUID_WICPixelFormat24bppBGR;
   return SUCCEEDED(frame->Initialize(nullptr)) &&
          SUCCEEDED(frame->SetSize(static_cast<UINT>(width), static_cast<UINT>(height))) &&
-         SUCCEEDED(frame->SetPixelFormat(&format)) && SUCCEEDED(frame->WriteSource(source.get(), nullptr)) &&
+         SUCCEEDED(frame->SetPixelFormat(&format)) && SUCCEEDED(frame->WriteSource(source.Get(), nullptr)) &&
          SUCCEEDED(frame->Commit()) && SUCCEEDED(encoder.Commit());
 }
 
 bool WritePng(HBITMAP bitmap, int width, int height, const std::wstring& path) {
-  IWICImagingFactory* factoryMade = nullptr;
+  ComRef<IWICImagingFactory> factory;
   if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                              reinterpret_cast<void**>(&factoryMade)))) {
+                              reinterpret_cast<void**>(factory.Receive())))) {
     return false;
   }
-  const Held<IWICImagingFactory> factory(factoryMade);
-  IWICStream* streamMade = nullptr;
-  if (FAILED(factory->CreateStream(&streamMade))) return false;
-  const Held<IWICStream> stream(streamMade);
+  ComRef<IWICStream> stream;
+  if (FAILED(factory->CreateStream(stream.Receive()))) return false;
   if (FAILED(stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE))) return false;
-  IWICBitmapEncoder* encoderMade = nullptr;
-  if (FAILED(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, &encoderMade))) return false;
-  const Held<IWICBitmapEncoder> encoder(encoderMade);
-  return SUCCEEDED(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)) &&
-         WriteFrame(*factory, *encoder, bitmap, width, height);
+  ComRef<IWICBitmapEncoder> encoder;
+  if (FAILED(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.Receive()))) return false;
+  return SUCCEEDED(encoder->Initialize(stream.Get(), WICBitmapEncoderNoCache)) &&
+         WriteFrame(*factory.Get(), *encoder.Get(), bitmap, width, height);
 }
 
 }  // namespace

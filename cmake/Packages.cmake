@@ -14,7 +14,9 @@ function(packed_text in out)
 endfunction()
 
 if(TARGET tarnwise)
-  foreach(name tarnwise tarnwise-import tarnwise-model tarnwise-play tarnwise-report tarnwise-run tarnwise-solve)
+  set(manuals tarnwise tarnwise-export tarnwise-import tarnwise-judge tarnwise-model tarnwise-open tarnwise-play
+    tarnwise-report tarnwise-run tarnwise-solve)
+  foreach(name ${manuals})
     packed_text(${packaging}/man/${name}.1 ${packed}/man/${name}.1)
     install(FILES ${packed}/man/${name}.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
   endforeach()
@@ -27,7 +29,11 @@ if(TARGET tarnwise)
   if(TARGET tarnwise_qt)
     install(FILES ${packaging}/desktop/org.tarnwise.Wizard.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
       COMPONENT program)
-    install(FILES ${packaging}/desktop/org.tarnwise.Wizard.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+  endif()
+  if(TARGET tarnwise_workbench)
+    install(FILES ${packaging}/desktop/org.tarnwise.Tarnwise.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
+      COMPONENT program)
+    install(FILES ${packaging}/desktop/org.tarnwise.Tarnwise.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
       COMPONENT program)
   endif()
   set(documents ${CMAKE_INSTALL_DATADIR}/doc/tarnwise)
@@ -78,7 +84,8 @@ the person who decides: attributes are ranked, compared with a reference each,
 and judged as an interval of weight ratios, on a chart or by trading off two
 alternatives. The efficiencies are then worked out with what was judged.
 
-This package holds the program, with the wizard and the analyst's commands.")
+This package holds the program, with the wizard, the analyst's window and
+its commands.")
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME libtarnwise-dev)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_DEPENDS "qt6-base-dev")

@@ -47,7 +47,7 @@ void TellBefore(const SessionModel& model, std::ostream& err) {
 
 void TellAfter(const JudgeOptions& options, std::size_t session, std::ostream& out) {
   const Project project = ReadProject(options.Project);
-  out << options.Project << ": " << SessionTitle(project, session) << " is stored\n";
+  out << options.Project << ": stored as " << SessionTitle(project, session) << "\n";
   for (const String& line : JudgmentLines(project, session)) out << line << "\n";
   const std::vector<String> notJudged = NotJudged(project, session);
   try {

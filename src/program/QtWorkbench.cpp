@@ -60,7 +60,8 @@ int OpenWorkbench(const OpenOptions& options, int& argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("Tarnwise"));
   MainWindow window;
   window.show();
-  if (!options.File.empty() && !window.Open(QString::fromStdString(options.File)) && !options.Pictures.empty()) return 2;
+  if (!options.File.empty() && !window.Open(QString::fromStdString(options.File)) && !options.Pictures.empty())
+    return 2;
   if (!options.Pictures.empty()) return TakePictures(window, options.Pictures);
   return QApplication::exec();
 }

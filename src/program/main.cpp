@@ -2,10 +2,13 @@
 // projects, and works out their results.
 #include "dea/Watch.h"
 #include "program/Commands.h"
+#include "program/ExportCommand.h"
 #include "program/ImportCommand.h"
 #include "program/Interrupt.h"
 #include "program/JudgeCommand.h"
 #include "program/ModelCommands.h"
+#include "program/Pdf.h"
+#include "program/ReportCommand.h"
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
@@ -76,9 +79,14 @@ int Main(int argc, char** argv) {
   const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
+  ReportOptions report;
+  const CLI::App* const reportCommand = AddReportCommand(app, report);
+  ExportOptions exported;
+  const CLI::App* const exportCommand = AddExportCommand(app, exported);
 
   OpenOptions open;
-  CLI::App* const openCommand = app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
+  CLI::App* const openCommand =
+      app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
   openCommand->add_option("FILE", open.File, "Project (.tarnwise), table (.csv) or model (.kst, .json)");
   openCommand->add_option("--pictures", open.Pictures, "Take a picture of each page into this folder, and end")
       ->type_name("FOLDER");
@@ -109,6 +117,12 @@ int Main(int argc, char** argv) {
   if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
+  }
+  if (reportCommand->parsed()) {
+    return Compute([&report](const Console& console) { return WriteReport(report, TimeNow(), PdfOf, console); });
+  }
+  if (exportCommand->parsed()) {
+    return Compute([&exported](const Console& console) { return ExportProject(exported, console); });
   }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);

@@ -23,20 +23,6 @@ constexpr const char* kCost = "1";
 
 std::size_t At(int attribute) { return static_cast<std::size_t>(attribute); }
 
-// The text in the code page, with a question mark for each character that it lacks.
-String InCodePage(const String& text, const CodePage& texts) {
-  if (texts.ToBytes(text)) return text;
-  String kept;
-  for (std::size_t i = 0; i < text.size();) {
-    std::size_t size = 1;
-    while (i + size < text.size() && (static_cast<unsigned char>(text[i + size]) & 0xC0U) == 0x80U) ++size;
-    const String character = text.substr(i, size);
-    kept += texts.ToBytes(character) ? character : String("?");
-    i += size;
-  }
-  return kept;
-}
-
 // Names that lost letters may be the same; people have to tell them apart.
 String Distinct(const String& name, std::set<String>& taken) {
   String distinct = name;
@@ -176,6 +162,19 @@ SessionCross CrossOf(const Variant& ratio) {
 }
 
 }  // namespace
+
+String InCodePage(const String& text, const CodePage& texts) {
+  if (texts.ToBytes(text)) return text;
+  String kept;
+  for (std::size_t i = 0; i < text.size();) {
+    std::size_t size = 1;
+    while (i + size < text.size() && (static_cast<unsigned char>(text[i + size]) & 0xC0U) == 0x80U) ++size;
+    const String character = text.substr(i, size);
+    kept += texts.ToBytes(character) ? character : String("?");
+    i += size;
+  }
+  return kept;
+}
 
 SessionModel SessionModelOf(const Project& project, const Beginning& beginning, const CodePage& texts) {
   const std::size_t inputs = ColumnsIn(project, Role::Input).size();

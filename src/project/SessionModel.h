@@ -44,4 +44,7 @@ SessionModel SessionModelOf(const Project& project, const Beginning& beginning, 
 // as it was handed over without a judgment, counts as not judged. `made`, `by` and `note` are the caller's to set.
 JudgmentSession SessionOf(const SessionModel& model, const Judgments& judgments, const WizardData& after);
 
+// The text with a question mark for each character that the code page lacks.
+String InCodePage(const String& text, const CodePage& texts);
+
 }  // namespace Tarnwise

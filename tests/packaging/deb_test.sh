@@ -98,7 +98,7 @@ check_contents "$program_deb" tarnwise.contents
 check_contents "$library_deb" libtarnwise-dev.contents
 diff <(cd "$source/samples" && find . -path ./com -prune -o -type f -print | LC_ALL=C sort) \
   <(cd "$unpacked/usr/share/doc/tarnwise/examples" && find . -type f | LC_ALL=C sort) || wrong "samples are missing"
-for library in libc6 libglpk40 libqt6core6 libqt6gui6 libqt6widgets6 libstdc++6; do
+for library in libc6 libglpk40 libqcustomplot2.1 libqt6core6 libqt6gui6 libqt6widgets6 libstdc++6; do
   field "$program_deb" Depends | grep -qF "$library" || wrong "the program's package does not depend on $library"
 done
 field "$library_deb" Depends | grep -qw qt6-base-dev || wrong "the library's package does not depend on Qt's headers"

@@ -73,16 +73,22 @@ inside sh -euc '
   done
   tarnwise model show $samples/hospitals.kst >/dev/null
   QT_QPA_PLATFORM=offscreen tarnwise play --toolkit qt --shots /tmp/shots $samples/hospitals.session >played.txt
+  QT_QPA_PLATFORM=offscreen tarnwise open --pictures /tmp/pages hospitals.tarnwise >/dev/null
+  tarnwise report hospitals.tarnwise report.html
+  tarnwise report hospitals.tarnwise report.pdf
   man tarnwise-solve >/dev/null
 ' 2>>"$log" || fail "the program does not work there, see $log"
 grep -q '^Hospital C *0.883 ' "$root/tmp/solved.txt" || fail "solve gives something else: $(cat "$root/tmp/solved.txt")"
-grep -q '"step"\|"ok"\|{' "$root/tmp/played.txt" || fail "play prints nothing"
+grep -q '^{' "$root/tmp/played.txt" || fail "play prints nothing"
+ls "$root"/tmp/pages/*.png >/dev/null || fail "the window takes no pictures of its pages"
+[ "$(head -c 5 "$root/tmp/report.pdf")" = %PDF- ] || fail "the report is no PDF"
 
 type_of() { inside sh -c "grep -h '$1' /usr/share/mime/globs2 | cut -d : -f 2"; }
 [ "$(type_of '\*\.tarnwise$')" = application/x-tarnwise ] || fail "the desktop does not know projects"
 [ "$(type_of '\*\.kst$')" = application/x-tarnwise-model ] || fail "the desktop does not know models"
-grep -q '^application/x-tarnwise-model=' "$root/usr/share/applications/mimeinfo.cache" ||
-  fail "the desktop does not know what opens models"
+for type in application/x-tarnwise application/x-tarnwise-model; do
+  grep -q "^$type=" "$root/usr/share/applications/mimeinfo.cache" || fail "the desktop does not know what opens $type"
+done
 
 mkdir "$root/tmp/guide"
 cp "$source/tests/install/host_guide_test.sh" "$source/docs/host-guide.md" "$root/tmp/guide"

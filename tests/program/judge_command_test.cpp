@@ -115,7 +115,7 @@ TEST_F(JudgeCommand, TheSessionIsInTheFileWhileTheEventIsStillRaised) {
 TEST_F(JudgeCommand, SaysWhatWasJudgedAndWhatWasNot) {
   JudgeRaising([](Raised& wizard) { wizard.Export("DEA_DIRECT", static_cast<Integer>(1)); });
   EXPECT_EQ(out.str(), options.Project +
-                           ": session 0, made 2024-05-17T09:30:00Z is stored\n"
+                           ": stored as session 0, made 2024-05-17T09:30:00Z\n"
                            "Staff 3.0000 .. 4.0900 times Rooms\n"
                            "Tests not judged\n"
                            "1 Staff = 13.333 .. 18.178 Rooms\n"

@@ -212,6 +212,7 @@ void Player::Drag(const std::vector<String>& words) {
   try {
     Over(words, 2);
   } catch (...) {
+    screen_->Hand.CancelDrag();
     screen_->Drag.Cancel();
     throw;
   }

@@ -52,9 +52,6 @@ class DragSession {
   String icon_;
 };
 
-// Pixels of the design: a mouse's pointer would cover the letter of an icon under it, so that hangs beside it.
-constexpr int kIconBesidePointer = 10;
-
 // The shape of the pointer over a control while nothing is dragged. A drag may leave its no-drop shape with the source,
 // where it says nothing any more.
 int PointerOver(const Control& control);

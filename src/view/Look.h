@@ -49,6 +49,13 @@ struct LabelLook {
 };
 LabelLook LookOf(const Label& label, const Palette& palette);
 
+// Sizes, in pixels of the design.
+constexpr int kSidePadding = 6;         // beside a button's caption
+constexpr int kIndicatorRoom = 24;      // of a check box or an option button
+constexpr int kCarriedSide = 28;        // the picture that stands for what is dragged
+constexpr int kCarriedOpacity = 70;     // percent
+constexpr int kIconBesidePointer = 10;  // a mouse's pointer would cover the letter of an icon under it
+
 enum class Pressed { No, Hover, Down };
 struct ButtonLook {
   Colour Face = 0;

@@ -309,6 +309,15 @@ const Picture* FindPicture(const String& name) {
   return found == AllPictures().end() ? nullptr : &found->second;
 }
 
+String PictureNameOf(const String& path) {
+  const std::size_t slash = path.find_last_of("\\/");
+  String name = slash == String::npos ? path : path.substr(slash + 1);
+  name = name.substr(0, name.rfind('.'));
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return name;
+}
+
 std::vector<String> PictureNames() {
   std::vector<String> names;
   for (const auto& [name, picture] : AllPictures()) names.push_back(name);

@@ -26,6 +26,9 @@ struct Picture {
 // Null when there is no picture of that name.
 const Picture* FindPicture(const String& name);
 
+// The picture of the same name as a file, however that is written.
+String PictureNameOf(const String& path);
+
 std::vector<String> PictureNames();
 
 }  // namespace Tarnwise

@@ -101,6 +101,7 @@ void Platform::Hide(Form& form) {
   if (Drag.Active() && &Drag.Source()->Owner == &form) Drag.Forget(*Drag.Source());
   if (Trace.Hidden) Trace.Hidden(form);
   toolkit_->Hide(form);
+  Hand.CancelDrag();
 }
 
 void Platform::Release(Form& form) {
@@ -207,6 +208,7 @@ void Platform::SyncAll() {
 
 void Platform::Forget(Control& control) {
   Drag.Forget(control);
+  Hand.Forget(control);
   toolkit_->ControlUnloaded(control);
 }
 

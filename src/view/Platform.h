@@ -4,6 +4,7 @@
 
 #include "view/Drag.h"
 #include "view/Form.h"
+#include "view/Gesture.h"
 
 #include <tarnwise/Platform.h>
 
@@ -20,6 +21,10 @@ enum class Showing { Modeless, Modal, Blocked };
 class Toolkit {
  public:
   virtual ~Toolkit() = default;
+
+  // For a script player: it pushes what comes instead of a person.
+  std::function<bool()> Pump;  // the next thing while a modal form is up, false when nothing comes any more
+  bool RealTimers = true;      // false: a form's timers wait for the script
 
   virtual void Show(Form& form, Showing how) = 0;  // one that is shown already comes to the front
   virtual void Hide(Form& form) = 0;
@@ -98,6 +103,8 @@ class Platform {
 
   // The drag that is under way, if any (view/Drag.h).
   DragSession Drag;
+  // What a person's hand does, one for all forms.
+  Gesture Hand{*this};
 
   // Bookkeeping of view/Dispatch.h and view/Input.h.
   int HandlerDepth = 0;

@@ -5,6 +5,7 @@
 #include "project/Shown.h"
 #include "workbench/DataModel.h"
 #include "workbench/Edits.h"
+#include "workbench/Tables.h"
 #include "workbench/Texts.h"
 #include "workbench/charts/CurveChart.h"
 
@@ -49,9 +50,8 @@ AttributesPage::AttributesPage(Document& document, QWidget* parent) : QWidget(pa
   splitter->addWidget(MakeList());
   splitter->addWidget(MakeCurve());
   splitter->addWidget(MakeFields());
-  splitter->setStretchFactor(0, 2);
-  splitter->setStretchFactor(1, 6);
-  splitter->setStretchFactor(2, 3);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({190, 640, 330});
   splitter->setChildrenCollapsible(false);
   layout->addWidget(splitter);
   connect(&document_, &Document::Changed, this, &AttributesPage::ShowColumns);
@@ -126,6 +126,8 @@ QWidget* AttributesPage::MakeFields() {
   points_->setSelectionBehavior(QAbstractItemView::SelectRows);
   points_->setSelectionMode(QAbstractItemView::SingleSelection);
   points_->setTabKeyNavigation(false);
+  points_->horizontalHeader()->setHighlightSections(false);
+  SetCompactRows(*points_);
   title->setBuddy(points_);
   layout->addWidget(title);
   layout->addWidget(points_, 1);

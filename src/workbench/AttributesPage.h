@@ -5,8 +5,10 @@
 
 #include <QWidget>
 
+class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QLayout;
 class QListWidget;
 class QTableWidget;
 
@@ -26,7 +28,7 @@ class AttributesPage : public QWidget {
   QWidget* MakeList();
   QWidget* MakeCurve();
   QWidget* MakeFields();
-  QLineEdit* AddField(class QFormLayout& form, const char* name, const QString& title);
+  QLineEdit* AddField(QFormLayout& form, const char* name, const QString& title);
   QLayout* MakePointButtons();
 
   void ShowColumns();

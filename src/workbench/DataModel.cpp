@@ -121,7 +121,7 @@ QVariant DataModel::headerData(int section, Qt::Orientation orientation, int rol
 }
 
 Qt::ItemFlags DataModel::flags(const QModelIndex& index) const {
-  return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsEditable : Qt::NoItemFlags;
 }
 
 bool DataModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -204,7 +204,7 @@ QVariant ColumnsModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 Qt::ItemFlags ColumnsModel::flags(const QModelIndex& index) const {
-  return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsEditable : Qt::NoItemFlags;
 }
 
 bool ColumnsModel::SetNumber(std::size_t column, int field, const QString& text) {

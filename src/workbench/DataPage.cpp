@@ -1,6 +1,7 @@
 #include "workbench/DataPage.h"
 
 #include "workbench/Edits.h"
+#include "workbench/Tables.h"
 #include "workbench/Texts.h"
 
 #include <QtWidgets>
@@ -52,8 +53,8 @@ DataPage::DataPage(Document& document, QWidget* parent)
   filled_ = splitter;
   splitter->addWidget(MakeTable());
   splitter->addWidget(MakeColumns());
-  splitter->setStretchFactor(0, 3);
-  splitter->setStretchFactor(1, 2);
+  splitter->setStretchFactor(0, 1);
+  splitter->setSizes({690, 470});
   splitter->setChildrenCollapsible(false);
   invitation_ = MakeInvitation();
   layout->addWidget(invitation_);
@@ -91,8 +92,7 @@ QWidget* DataPage::MakeTable() {
   table_->setModel(data_);
   table_->setTabKeyNavigation(false);
   table_->setWordWrap(false);
-  table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+  SetCompactRows(*table_);
   table_->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
   layout->addWidget(table_, 1);
   explained_ = Named(new QLabel, "cellExplained", tr("What the chosen cell means"));
@@ -149,6 +149,8 @@ QWidget* DataPage::MakeColumns() {
   columnsTable_->setTabKeyNavigation(false);
   columnsTable_->setEditTriggers(QAbstractItemView::AllEditTriggers);
   columnsTable_->verticalHeader()->hide();
+  columnsTable_->horizontalHeader()->setHighlightSections(false);
+  SetCompactRows(*columnsTable_);
   columnsTable_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   columnsTable_->horizontalHeader()->setStretchLastSection(true);
   layout->addWidget(columnsTable_, 1);

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableView;
@@ -27,7 +28,7 @@ class DataPage : public QWidget {
   QWidget* MakeTable();
   QWidget* MakeColumns();
   QWidget* MakeInvitation();
-  void AddButtons(class QBoxLayout& layout);
+  void AddButtons(QBoxLayout& layout);
   void ShowState();
   void Explain();
   void Copy() const;

@@ -148,7 +148,8 @@ bool FileActions::SaveTo(const QString& path) {
 }
 
 void FileActions::LookAtFile() {
-  if (asking_ || document_.Path().isEmpty() || document_.IsGone() || !document_.IsChangedOutside()) return;
+  const bool busy = asking_ || QApplication::activeModalWidget() != nullptr;
+  if (busy || document_.Path().isEmpty() || document_.IsGone() || !document_.IsChangedOutside()) return;
   asking_ = true;
   const QString text = document_.IsChanged()
                            ? tr("%1 was changed by another program. Reading it anew loses the changes made here.")

@@ -3,6 +3,7 @@
 #include "modelfiles/WholeFile.h"
 #include "project/Sentences.h"
 #include "project/Shown.h"
+#include "workbench/Tables.h"
 #include "workbench/Texts.h"
 #include "workbench/charts/BarChart.h"
 
@@ -14,7 +15,7 @@ namespace Tarnwise {
 
 namespace {
 
-QString RatioText(double ratio) { return FromText(SignificantText(ratio, 4)); }
+QString RatioText(double ratio) { return QString::number(ratio, 'g', 5); }
 
 QString IntervalText(const std::optional<double>& low, const std::optional<double>& high) {
   if (!low) return JudgmentsPage::tr("at most %1").arg(RatioText(*high));
@@ -129,8 +130,8 @@ JudgmentsPage::JudgmentsPage(Document& document, QWidget* parent) : QWidget(pare
   auto* const splitter = new QSplitter;
   splitter->addWidget(MakeSessions());
   splitter->addWidget(MakeJudgments());
-  splitter->setStretchFactor(0, 2);
-  splitter->setStretchFactor(1, 5);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({280, 880});
   splitter->setChildrenCollapsible(false);
   layout->addWidget(splitter, 1);
   connect(&document_, &Document::Changed, this, &JudgmentsPage::ShowSessions);
@@ -209,6 +210,8 @@ QWidget* JudgmentsPage::MakeJudgments() {
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
   table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
+  table_->horizontalHeader()->setHighlightSections(false);
+  SetCompactRows(*table_);
   table_->horizontalHeader()->setStretchLastSection(true);
   layout->addWidget(table_, 1);
   cross_ = Named(new QLabel, "cross", tr("Ratio of the two references"));
@@ -289,7 +292,7 @@ void JudgmentsPage::ShowTable(const std::vector<JudgmentLine>& lines) {
     for (int c = 0; c < 3; ++c) {
       auto* const item = new QTableWidgetItem(texts[c]);
       item->setToolTip(texts[c]);
-      if (!line.IsJudged) item->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+      if (!line.IsJudged) item->setForeground(InkFor(palette()).Faint);
       table_->setItem(row, c, item);
     }
   }

@@ -36,7 +36,13 @@ MainWindow::MainWindow() : files_(new FileActions(document_, this)) {
   ShowState();
 }
 
-MainWindow::~MainWindow() { disconnect(&document_, nullptr, nullptr, nullptr); }
+// The pages know the document, and they go before it.
+MainWindow::~MainWindow() {
+  hide();
+  delete wizard_;
+  disconnect(&document_, nullptr, nullptr, nullptr);
+  delete takeCentralWidget();
+}
 
 QWidget* MainWindow::MakeAdvice() {
   auto* const line = Named(new QFrame, "adviceLine", tr("What is missing"));
@@ -72,6 +78,7 @@ void MainWindow::MakePages() {
     auto* const shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + tabs_->count())), this);
     connect(shortcut, &QShortcut::activated, this, [this, page] { tabs_->setCurrentWidget(page); });
   }
+  connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::ShowState);
   connect(data_, &DataPage::OpenWanted, files_, &FileActions::AskAndOpen);
   connect(data_, &DataPage::PasteWanted, files_, &FileActions::PasteTable);
   connect(judgments_, &JudgmentsPage::ElicitWanted, this, &MainWindow::Elicit);
@@ -135,6 +142,7 @@ void MainWindow::ShowState() {
   const Advice advice = AdviceFor(document_.Data());
   const bool open = wizard_ != nullptr;
   advice_->setText((advice.IsMissing ? tr("Missing: ") : QString()) + advice.Text);
+  go_->setVisible(tabs_->currentIndex() != static_cast<int>(advice.Where));
   go_->setText(tr("&Go to %1").arg(tabs_->widget(static_cast<int>(advice.Where))->accessibleName()));
   const QString name = document_.Path().isEmpty() ? FromText(document_.Data().Name) : QFileInfo(document_.Path()).fileName();
   setWindowTitle((name.isEmpty() ? tr("New project") : name) + "[*] – " + tr("Tarnwise"));

@@ -6,6 +6,7 @@
 
 #include <QMainWindow>
 
+class QAction;
 class QLabel;
 class QPushButton;
 class QTabWidget;

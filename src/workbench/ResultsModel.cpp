@@ -49,11 +49,15 @@ QString RanksText(const Dea::UnitResult& unit) {
   return sure == seen ? sure : ResultsModel::tr("%1, seen %2").arg(sure, seen);
 }
 
+QString BoundOf(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
+  return FromText(BoundText(evaluation, bound)).replace(QLatin1String(">="), "≥").replace(QLatin1String("<="), "≤");
+}
+
 QString HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   QStringList bounds;
   for (const Dea::HeldBackBy& bound : unit.HeldBackBy) {
     if (bounds.size() == kMostBounds) break;
-    bounds += FromText(BoundText(evaluation, bound));
+    bounds += BoundOf(evaluation, bound);
   }
   const auto more = static_cast<qsizetype>(unit.HeldBackBy.size()) - bounds.size();
   return bounds.join(QStringLiteral(", ")) + (more > 0 ? ResultsModel::tr(" and %1 more").arg(more) : QString());
@@ -110,7 +114,9 @@ QString RangeSentence(const Evaluation& evaluation, const Dea::UnitResult& unit)
   if (!evaluation.How.Session || !unit.Max) {
     return ResultsModel::tr("%1 is %2 efficient without judgments.").arg(name, ScoreText(unit.Free));
   }
-  const QString range = unit.Min ? ResultsModel::tr("between %1 and %2").arg(ScoreText(unit.Min), ScoreText(unit.Max))
+  const bool isPoint = unit.Min && ScoreText(unit.Min) == ScoreText(unit.Max);
+  const QString range = isPoint ? ScoreText(unit.Max)
+                        : unit.Min ? ResultsModel::tr("between %1 and %2").arg(ScoreText(unit.Min), ScoreText(unit.Max))
                                  : ResultsModel::tr("at best %1").arg(ScoreText(unit.Max));
   QString sentence = ResultsModel::tr("With these judgments %1 is %2 efficient (without: %3)")
                          .arg(name, range, ScoreText(unit.Free));
@@ -123,7 +129,7 @@ QString BoundsList(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   if (unit.HeldBackBy.empty()) return "<p>" + ResultsModel::tr("No single bound holds it back.") + "</p>";
   QString list = "<p>" + ResultsModel::tr("Held back by these bounds; in brackets what it would gain without:") + " ";
   QStringList bounds;
-  for (const Dea::HeldBackBy& bound : unit.HeldBackBy) bounds += Escaped(FromText(BoundText(evaluation, bound)));
+  for (const Dea::HeldBackBy& bound : unit.HeldBackBy) bounds += Escaped(BoundOf(evaluation, bound));
   return list + bounds.join(QStringLiteral(", ")) + "</p>";
 }
 
@@ -225,8 +231,8 @@ QVariant ResultsModel::headerData(int section, Qt::Orientation orientation, int 
   switch (fields_[static_cast<std::size_t>(section)]) {
     case ResultField::Unit: return tr("Unit");
     case ResultField::Free: return judged ? tr("No judgments") : tr("Efficiency");
-    case ResultField::Min: return out ? tr("Judged, worst") : tr("Judged, least");
-    case ResultField::Max: return out ? tr("Judged, best") : tr("Judged, greatest");
+    case ResultField::Min: return out ? tr("Worst") : tr("Least");
+    case ResultField::Max: return out ? tr("Best") : tr("Greatest");
     case ResultField::Super: return tr("Without itself");
     case ResultField::ValueLow: return tr("Value, least");
     case ResultField::ValueHigh: return tr("Value, greatest");

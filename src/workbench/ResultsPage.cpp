@@ -5,6 +5,7 @@
 #include "project/ProjectChecks.h"
 #include "workbench/JudgmentsPage.h"
 #include "workbench/Solver.h"
+#include "workbench/Tables.h"
 #include "workbench/Texts.h"
 #include "workbench/charts/BarChart.h"
 
@@ -166,22 +167,23 @@ QWidget* ResultsPage::MakeTables() {
   table_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   table_->verticalHeader()->hide();
-  table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 10);
+  table_->horizontalHeader()->setHighlightSections(false);
+  SetCompactRows(*table_);
   table_->horizontalHeader()->setStretchLastSection(true);
   chart_ = Named(new BarChart(above), "rangeChart", tr("Ranges of the units"));
   above->addWidget(table_);
   above->addWidget(chart_);
   above->setStretchFactor(0, 3);
   above->setStretchFactor(1, 2);
+  above->setSizes({790, 370});
   above->setChildrenCollapsible(false);
   details_ = Named(new QTextBrowser, "details", tr("The chosen unit"));
   details_->setTabChangesFocus(true);
   auto* const splitter = new QSplitter(Qt::Vertical);
   splitter->addWidget(above);
   splitter->addWidget(details_);
-  splitter->setStretchFactor(0, 3);
-  splitter->setStretchFactor(1, 2);
+  splitter->setStretchFactor(0, 1);
+  splitter->setSizes({390, 190});
   splitter->setChildrenCollapsible(false);
   const auto showChart = [this] { ShowChart(); };
   connect(filter_, &QAbstractItemModel::layoutChanged, this, showChart);

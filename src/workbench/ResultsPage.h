@@ -6,9 +6,11 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QProgressBar;
 class QPushButton;

@@ -62,7 +62,7 @@ run_host() {  # PROGRAM
   host=$!
   trap "kill -KILL $host 2>/dev/null || true" EXIT
   prompt="Select a method to make value judgments between the attributes."
-  for _ in $(seq 100); do
+  for _ in $(seq 1200); do
     grep -qxF "$prompt" "$work/out.txt" && break
     kill -0 $host 2>/dev/null || break
     sleep 0.1

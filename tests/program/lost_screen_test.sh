@@ -34,7 +34,7 @@ open_wizard() {
 lose_screen() {  # lose_screen SIGNAL: the server ends, and what has to hold is looked at
   kill "-$1" "$server"
   wait "$server" 2>/dev/null || true
-  for _ in $(seq 100); do kill -0 "$wizard" 2>/dev/null || break; sleep 0.1; done
+  for _ in $(seq 1200); do kill -0 "$wizard" 2>/dev/null || break; sleep 0.1; done
   kill -0 "$wizard" 2>/dev/null && fail "the program hangs"
   local status=0
   wait "$wizard" || status=$?

@@ -4,7 +4,7 @@
 # Waits for a window by a part of its title, and gives it the keyboard.
 window() {
   local id=
-  for _ in $(seq 100); do
+  for _ in $(seq 1200); do
     id=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) && [ -n "$id" ] && break
     kill -0 "$wizard" 2>/dev/null || fail "the program ended before \"$1\""
     sleep 0.1

@@ -39,7 +39,7 @@ keys alt+n
 sleep 0.3
 keys alt+f
 
-for _ in $(seq 100); do kill -0 $wizard 2>/dev/null || break; sleep 0.1; done
+for _ in $(seq 1200); do kill -0 $wizard 2>/dev/null || break; sleep 0.1; done
 kill -0 $wizard 2>/dev/null && fail "the wizard is still open"
 status=0
 wait $wizard || status=$?

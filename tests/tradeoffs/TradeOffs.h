@@ -42,6 +42,13 @@ inline WizardData TradeOffData(const std::vector<RankedAtt>& atts, int benefitRe
 // Costs 5 to 7: 6 is the reference on rank 2, 5 is better, 7 shares its rank.
 inline WizardData Ward() { return TradeOffData({B(1), B(2), B(3), B(3), B(2), C(1), C(2), C(2)}, 1, 6); }
 
+// All judged, by an earlier run of that approach.
+inline WizardData Judged(WizardData data, const char* type) {
+  data.SavedJudgments.RJType = type;
+  for (int i = 0; i < data.NumAtts(); ++i) data.WeightDone[i] = true;
+  return data;
+}
+
 inline ABPoint PointsAt(Single ax, Single ay, Single bx, Single by) {
   ABPoint p;
   p.AX = ax;

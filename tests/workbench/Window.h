@@ -15,12 +15,13 @@
 
 namespace Tarnwise {
 
-// The twelve hospitals: two inputs, two outputs.
+// The twelve hospitals: two inputs, two outputs, the ranges from the worst of them to the best.
 inline Project HospitalsFromTable() {
   TableOptions options;
   options.Unit = "Hospital";
   options.Inputs = {"Doctors,Nurses"};
   options.Outputs = {"Outpatients,Inpatients"};
+  options.Ranges = {{"Doctors", 55.0, 19.0}, {"Nurses", 306.0, 131.0}, {"Outpatients", 94.0, 260.0}, {"Inpatients", 50.0, 147.0}};
   Project project = ImportTable(FileBytes(TARNWISE_SAMPLES "/hospitals.csv"), options).Project;
   project.Name = "Hospitals";
   return project;

@@ -1,7 +1,8 @@
-#include "view/Dispatch.h"
 #include "view/Driver.h"
+#include "view/Gesture.h"
 #include "view/Input.h"
 #include "view/Platform.h"
+#include "view/headless/HeadlessMirror.h"
 #include "view/headless/HeadlessToolkit.h"
 
 namespace Tarnwise {
@@ -15,19 +16,29 @@ class HeadlessDriver : public Driver {
 
   void Click(Control& control) override {
     const auto held = control.Owner.shared_from_this();
-    if (!Input::Press(control)) return;
-    Input::PutCaretAtEnd(control);
-    Input::Activate(control);
+    HeadlessMirror mirror(control.Owner);
+    if (mirror.Press(control)) mirror.LetGo(control);
   }
 
   void Select(Control& list, int index) override {
     const auto held = list.Owner.shared_from_this();
-    if (Input::Press(list)) Input::SelectRow(list, index);
+    HeadlessMirror mirror(list.Owner, index);
+    if (!mirror.Press(list)) return;
+    if (HasRows(list))
+      mirror.LetGo(list);
+    else
+      mirror.Hand().RowChosen(mirror, list, index);
   }
 
   void PressTool(Toolbar& toolbar, const String& key) override {
     const auto held = toolbar.Owner.shared_from_this();
-    if (Input::Press(toolbar)) Input::PressToolButton(toolbar, key);
+    HeadlessMirror mirror(toolbar.Owner);
+    for (std::size_t i = 0; i < toolbar.Buttons.size(); ++i) {
+      if (toolbar.Buttons[i].Key == key && mirror.Press(toolbar)) {
+        mirror.Hand().ToolPressed(mirror, toolbar, i);
+        break;
+      }
+    }
   }
 
   void Focus(Control& control) override {
@@ -37,24 +48,38 @@ class HeadlessDriver : public Driver {
 
   void Key(Form& form, const KeyStroke& key) override { TypeKey(form, key.Code, key.Character, key.Shift); }
 
-  void Grab(Control& source) override { screen_->Drag.Begin(source); }
+  void Grab(Control& source) override {
+    held_ = std::make_unique<HeadlessMirror>(source.Owner);
+    held_->Press(source);
+    screen_->Hand.BeginDrag();
+  }
   void Over(Control& target, ControlPoint at) override { screen_->Drag.Over(target, at.X, at.Y); }
   void OverNothing() override { screen_->Drag.OverNothing(); }
-  void Drop() override { screen_->Drag.Drop(); }
+  void Drop() override {
+    if (const auto mirror = std::move(held_))
+      mirror->LetGo(*screen_->Drag.Source());
+    else
+      screen_->Drag.Drop();
+  }
 
   void Scroll(VScrollBar& bar, int value) override {
     const auto held = bar.Owner.shared_from_this();
-    if (Input::Press(bar)) Input::ScrollTo(bar, value, false);
+    HeadlessMirror mirror(bar.Owner);
+    if (mirror.Press(bar)) mirror.Hand().Scrolled(mirror, bar, value, false);
   }
 
   void Tick(Timer& timer) override { Input::Tick(timer); }
-  void Close(Form& form) override { Input::CloseForm(form); }
+  void Close(Form& form) override {
+    HeadlessMirror mirror(form);
+    screen_->Hand.CloseWanted(mirror);
+  }
   bool TakesPictures() const override { return false; }
   bool Shot(Form& /*form*/, const String& /*path*/) override { return false; }
 
  private:
   std::shared_ptr<HeadlessToolkit> toolkit_ = std::make_shared<HeadlessToolkit>();
   std::shared_ptr<Platform> screen_ = std::make_shared<Platform>(toolkit_);
+  std::unique_ptr<HeadlessMirror> held_;  // shows the source of a drag
 };
 
 }  // namespace

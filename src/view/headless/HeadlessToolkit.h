@@ -7,9 +7,6 @@ namespace Tarnwise {
 
 class HeadlessToolkit : public Toolkit {
  public:
-  // Does the next thing that a user would do while a modal form is up; false when nothing comes any more.
-  std::function<bool()> Pump;
-
   void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
   void Release(Form& form) override;

@@ -1,9 +1,11 @@
 #include "view/headless/HeadlessToolkit.h"
 
 #include "runtime/Utf8.h"
+#include "view/Gesture.h"
 #include "view/Input.h"
 #include "view/Keys.h"
 #include "view/Platform.h"
+#include "view/headless/HeadlessMirror.h"
 
 #include <algorithm>
 
@@ -52,37 +54,31 @@ void CharacterAction(TextBox& box, int character) {
   }
 }
 
-void TypeIntoBox(TextBox& box, int code, int character, int shift) {
-  KeyEvent down{code, shift};
-  const bool passes = Input::KeyDown(box, down);
-  if (passes && character == 0) KeyAction(box, down.Code);
-  if (passes && character != 0) {
-    KeyEvent press{character, shift};
-    if (Input::KeyPress(box, press)) CharacterAction(box, press.Code);
+void TypeIntoBox(HeadlessMirror& mirror, TextBox& box, const KeyStroke& key) {
+  Gesture& hand = mirror.Hand();
+  KeyEvent down{key.Code, key.Shift};
+  if (!hand.BoxKeyDown(mirror, box, down)) return;
+  if (key.Character == 0) {
+    KeyAction(box, down.Code);
+    return;
   }
-  // Where the focus has gone elsewhere meanwhile, the key comes up there.
-  Control* const now = box.Owner.ActiveControl;
-  if (now == &box)
-    Input::KeyUp(box, {code, shift});
-  else if (now != nullptr && now->Type == Kind::TextBox)
-    Input::KeyUp(*static_cast<TextBox*>(now), {code, shift});
+  KeyEvent press{key.Character, key.Shift};
+  if (hand.BoxKeyPress(mirror, box, press)) CharacterAction(box, press.Code);
 }
 
 }  // namespace
 
 void TypeKey(Form& form, int code, int character, int shift) {
   const std::shared_ptr<Form> held = form.shared_from_this();
-  if (code == kKeyTab) {
-    Input::TabKey(form, (shift & kShift) != 0);
-    return;
+  if (form.ActiveControl == nullptr && code != kKeyTab) return;
+  HeadlessMirror mirror(form);
+  Gesture& hand = mirror.Hand();
+  const Control& at = form.ActiveControl != nullptr ? *form.ActiveControl : form;
+  if (hand.KeyDown(mirror, at, {code, shift}) == KeyGoes::ToBox) {
+    TypeIntoBox(mirror, *static_cast<TextBox*>(form.ActiveControl), {code, character, shift});
   }
-  Control* const control = form.ActiveControl;
-  if (control == nullptr) return;
-  if (control->Type == Kind::TextBox) {
-    TypeIntoBox(*static_cast<TextBox*>(control), code, character, shift);
-  } else {
-    Input::ControlKey(*control, code, shift);
-  }
+  // Where the focus has gone elsewhere meanwhile, the key comes up there.
+  hand.KeyUp(mirror, {code, shift});
 }
 
 }  // namespace Tarnwise

@@ -3,7 +3,6 @@
 #include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
-#include "view/qt/QtLifetime.h"
 #include "view/qt/QtPaint.h"
 #include "view/qt/QtPictureBox.h"
 
@@ -75,17 +74,11 @@ class AxisInterface : public QAccessibleInterface, public QAccessibleValueInterf
 
 void AxisInterface::setCurrentValue(const QVariant& value) {
   Control* const source = Source();
-  if (source == nullptr || !Refusal(*source).empty()) return;
-  const QtEntry entry(source->Owner);
-  Control& area = *source->Parent;
-  DragSession& drag = source->Owner.Screen().Drag;
-  if (drag.Active() || !area.TakesDrags()) return;
+  if (source == nullptr) return;
   const Single to = value.toFloat();
   const Single x = axis_ == Axis::Across ? to : MiddleOf(*source, Axis::Across);
   const Single y = axis_ == Axis::Down ? to : MiddleOf(*source, Axis::Down);
-  drag.Begin(*source);
-  drag.Over(area, x, y);
-  drag.Drop();
+  source->Owner.Screen().Hand.CarriedTo(*source, x, y);
 }
 
 class SourceInterface : public QAccessibleWidget {

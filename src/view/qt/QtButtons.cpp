@@ -17,7 +17,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kSidePadding = 6;
 constexpr double kRounding = 4.0;
 
 // A push button in the platform's look, or a flat one where the form gives it a colour of its own.
@@ -102,8 +101,6 @@ void Check(QAbstractButton& button, bool on) {
   if (button.isChecked() != on) button.setChecked(on);
 }
 
-constexpr int kIndicatorRoom = 24;
-
 void SetInk(const QtForm& form, QWidget& widget, const Control& control) {
   const QColor ink = ToQColor(TextOn(GroundOf(control, form.Colours()), form.Colours()));
   QPalette palette = widget.palette();
@@ -144,7 +141,8 @@ void SyncCheck(QtForm& form, Control& control, QWidget& widget) {
 
 QWidget* MakeToolbar(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new QWidget(&parent); }
 
-void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button& button) {
+void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, std::size_t place) {
+  const Toolbar::Button& button = bar.Buttons[place];
   auto* const tool = new QToolButton(&widget);
   tool->setObjectName(Text(button.Key));
   tool->setAutoRaise(false);
@@ -154,8 +152,7 @@ void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, const Toolbar::Button&
   if (FindPicture(button.Picture) == nullptr) tool->setText(Text(button.Key));
   tool->show();
   form.Watch(*tool, bar);
-  QObject::connect(tool, &QToolButton::clicked, &form,
-                   [&form, &widget, key = button.Key] { form.ToolPressed(widget, key); });
+  QObject::connect(tool, &QToolButton::clicked, &form, [&form, &widget, place] { form.ToolPressed(widget, place); });
 }
 
 QList<QToolButton*> ToolsOf(const QWidget& widget) {
@@ -173,7 +170,7 @@ void SetPicture(QToolButton& tool, const String& name, Colour ground) {
 void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
   auto& bar = static_cast<Toolbar&>(control);
   for (std::size_t i = static_cast<std::size_t>(ToolsOf(widget).size()); i < bar.Buttons.size(); ++i) {
-    AddTool(form, bar, widget, bar.Buttons[i]);
+    AddTool(form, bar, widget, i);
   }
   const auto tools = ToolsOf(widget);
   const bool upright = widget.height() > widget.width();

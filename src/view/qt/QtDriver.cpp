@@ -92,7 +92,7 @@ class QtDriver : public Driver {
     grabbed_ = WidgetOf(source);
     if (grabbed_.isNull()) return;
     QTest::mousePress(grabbed_, Qt::LeftButton, Qt::NoModifier, grabbed_->rect().center());
-    toolkit_->Drag().Begin();  // the first move may be as near as it likes
+    screen_->Hand.BeginDrag();  // the first move may be as near as it likes
   }
 
   void Over(Control& target, ControlPoint at) override {

@@ -1,18 +1,18 @@
 #include "view/qt/QtForm.h"
 
+#include "view/Gesture.h"
+#include "view/Lifetime.h"
 #include "view/Platform.h"
-#include "view/Reach.h"
 #include "view/Speech.h"
 #include "view/qt/QtKinds.h"
-#include "view/qt/QtLifetime.h"
 #include "view/qt/QtPaint.h"
 #include "view/qt/QtPictureBox.h"
+#include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
-#include <algorithm>
 
 namespace Tarnwise {
 
@@ -64,13 +64,12 @@ bool HasOutline(const Control& control) {
 }
 
 void SetCursorOf(QWidget& widget, const Control& control) {
-  const int pointer = PointerOver(control);
-  if (pointer == 0 && !control.DragAutomatic) {
-    if (widget.testAttribute(Qt::WA_SetCursor) && control.Type != Kind::TextBox) widget.unsetCursor();
-    return;
+  const int pointer = ShownPointer(control);
+  if (pointer == kDefaultPointer) {
+    if (widget.testAttribute(Qt::WA_SetCursor)) widget.unsetCursor();
+  } else if (widget.cursor().shape() != CursorFor(pointer)) {
+    widget.setCursor(CursorFor(pointer));
   }
-  const Qt::CursorShape shape = pointer == 0 ? Qt::OpenHandCursor : CursorFor(pointer);
-  if (widget.cursor().shape() != shape) widget.setCursor(shape);
 }
 
 }  // namespace
@@ -81,15 +80,14 @@ void SetFullText(QWidget& widget, const Control& control, const QString& text, b
 }
 
 QtForm::QtForm(Form& form, QtToolkit& toolkit)
-    : form_(&form), toolkit_(toolkit), window_(std::make_unique<FormWindow>(*this)) {
+    : Mirror(form), toolkit_(toolkit), window_(std::make_unique<FormWindow>(*this)) {
   window_->setObjectName(Text(form.Name));
   window_->setFont(BaseFont());
   window_->setWindowIcon(WindowIcon());
   TakeColours();
   window_->setFocus();
   Watch(*window_, form);
-  SyncWindow();
-  for (Control* control : form.Controls()) SyncControl(*control);
+  SyncAll();
   // Labels once more, as those that they stand for are there now.
   for (Control* control : form.Controls()) {
     if (control->Type == Kind::Label) SyncControl(*control);
@@ -100,7 +98,7 @@ QtForm::QtForm(Form& form, QtToolkit& toolkit)
 QtForm::~QtForm() = default;
 
 QWidget* QtForm::WidgetOf(const Control& control) const {
-  if (form_ != nullptr && &control == form_) return window_.get();
+  if (Tree() != nullptr && &control == Tree()) return window_.get();
   const auto found = widgets_.find(&control);
   return found == widgets_.end() ? nullptr : found->second.data();
 }
@@ -115,59 +113,24 @@ void QtForm::Watch(QObject& object, Control& control) {
   object.installEventFilter(this);
 }
 
-void QtForm::Make(Control& control) {
+bool QtForm::Create(Control& control) {
   const QtKind* const kind = KindOf(control);
-  if (kind == nullptr) return;
-  QWidget* parent = WidgetOf(*control.Parent);
-  if (parent == nullptr) {
-    SyncControl(*control.Parent);
-    parent = WidgetOf(*control.Parent);
-  }
-  QWidget* const widget = kind->Make(*this, control, *parent);
+  if (kind == nullptr) return false;
+  QWidget* const widget = kind->Make(*this, control, *WidgetOf(*control.Parent));
   widget->setObjectName(Text(control.FullName()));
   widgets_[&control] = widget;
   Watch(*widget, control);
   if (TakesFocus(control)) widget->setFocusPolicy(Qt::TabFocus);  // a press moves the focus the tree's way
-  SyncPlace(control, *widget);
-  kind->Sync(*this, control, *widget);
-  SyncLook(control, *widget);
-  restack_.push_back(control.Parent);
+  return true;
 }
 
-void QtForm::Sync() {
-  if (form_ == nullptr) return;
-  for (Control* control : std::vector<Control*>(form_->ChangedControls)) SyncControl(*control);
-  for (const Control* container : std::exchange(restack_, {})) Restack(*container);
-  FocusTree();
+void QtForm::PutAt(Control& control, const PixelRect& place) {
+  if (WidgetOf(control)->geometry() != ToQRect(place)) WidgetOf(control)->setGeometry(ToQRect(place));
 }
 
-void QtForm::SyncControl(Control& control) {
-  if (&control == form_) {
-    SyncWindow();
-  } else if (control.Type == Kind::Timer) {
-    SyncTimer(control);
-  } else if (IsPainted(control)) {
-    SyncPainted(control);
-  } else if (QWidget* const widget = WidgetOf(control)) {
-    SyncPlace(control, *widget);
-    KindOf(control)->Sync(*this, control, *widget);
-    SyncLook(control, *widget);
-  } else {
-    Make(control);
-  }
-}
-
-void QtForm::SyncPlace(Control& control, QWidget& widget) {
-  QRect place = PixelPlace(control);
-  if (IsHandle(control)) place.adjust(-kGrabMargin, -kGrabMargin, kGrabMargin, kGrabMargin);
-  if (widget.geometry() != place) widget.setGeometry(place);
-  int& order = orders_[&control];
-  if (order == control.Order) return;
-  order = control.Order;
-  if (std::find(restack_.begin(), restack_.end(), control.Parent) == restack_.end()) restack_.push_back(control.Parent);
-}
-
-void QtForm::SyncLook(Control& control, QWidget& widget) {
+void QtForm::Apply(Control& control) {
+  QWidget& widget = *WidgetOf(control);
+  KindOf(control)->Sync(*this, control, widget);
   if (!HasCaption(control)) SetFullText(widget, control, {}, false);
   SetName(widget, control);
   if (HasOutline(control)) ShowOutline(widget, colours_);
@@ -176,10 +139,10 @@ void QtForm::SyncLook(Control& control, QWidget& widget) {
   if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
 }
 
-void QtForm::SyncWindow() {
-  const QString title = Text(form_->Caption);
+void QtForm::ApplyForm() {
+  const QString title = Text(Tree()->Caption);
   if (window_->windowTitle() != title) window_->setWindowTitle(title);
-  const QRect place = PixelPlace(*form_);
+  const QRect place = ToQRect(PixelPlace(*Tree(), Scale()));
   if (window_->size() != place.size()) window_->setFixedSize(place.size());
   if (place.topLeft() != placed_) {
     placed_ = place.topLeft();
@@ -195,87 +158,71 @@ void QtForm::TakeColours() {
 }
 
 void QtForm::PaletteCame(const Control& control) {
-  if (&control != form_) return;
+  if (&control != Tree()) return;
   TakeColours();
-  for (Control* each : form_->Controls()) SyncControl(*each);
+  SyncAll();
 }
 
-void QtForm::SyncPainted(const Control& control) {
-  QWidget* const container = WidgetOf(*control.Parent);
-  if (container == nullptr) return;
-  QRect& place = painted_[&control];
-  container->update(place);
-  place = PaintedPlace(control);
-  container->update(place);
-}
+void QtForm::Repaint(const Control& container, const PixelRect& area) { WidgetOf(container)->update(ToQRect(area)); }
 
-void QtForm::SyncTimer(Control& control) {
-  QTimer*& timer = timers_[&control];
+void QtForm::RunTimer(Timer& record, int interval) {
+  QTimer*& timer = timers_[&record];
   if (timer == nullptr) {
     timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this, &control] { Ticked(control); });
+    connect(timer, &QTimer::timeout, this, [this, &record] {
+      if (timers_.count(&record) != 0) Hand().Ticked(*this, record);
+    });
   }
-  const auto& record = static_cast<const Timer&>(control);
-  const bool runs = record.Interval > 0 && record.Enabled && toolkit_.RealTimers;
-  if (!runs)
+  if (interval == 0)
     timer->stop();
-  else if (!timer->isActive() || timer->interval() != record.Interval)
-    timer->start(record.Interval);
+  else if (!timer->isActive() || timer->interval() != interval)
+    timer->start(interval);
 }
 
-void QtForm::StopTimer(const Control& control) {
-  const auto found = timers_.find(&control);
-  if (found == timers_.end()) return;
-  found->second->stop();
-  Bury(found->second);
-  timers_.erase(found);
-}
+void QtForm::ToFront(const Control& control) { WidgetOf(control)->raise(); }
 
-void QtForm::Restack(const Control& container) {
-  if (form_ == nullptr) return;
-  QWidget* const around = WidgetOf(container);
-  if (around == nullptr) return;
-  for (const Control* child : ChildrenOf(*form_, &container)) {
-    if (QWidget* const widget = WidgetOf(*child)) widget->raise();
+void QtForm::BorderToFront(const Control& container) {
+  if (auto* const border = WidgetOf(container)->findChild<QWidget*>("border", Qt::FindDirectChildrenOnly)) {
+    border->raise();
   }
-  if (auto* const border = around->findChild<QWidget*>("border", Qt::FindDirectChildrenOnly)) border->raise();
 }
 
 void QtForm::FocusTree() {
-  if (form_ == nullptr) return;
-  const Control* const active = form_->ActiveControl;
+  if (Tree() == nullptr) return;
+  const Control* const active = Tree()->ActiveControl;
   QWidget* widget = active != nullptr && IsUsable(*active) ? WidgetOf(*active) : nullptr;
   if (widget == nullptr) widget = window_.get();
   if (window_->focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 
-void QtForm::Forget(const Control& control) {
-  StopTimer(control);
-  orders_.erase(&control);
-  const auto painted = painted_.find(&control);
-  if (painted != painted_.end()) {
-    if (QWidget* const container = WidgetOf(*control.Parent)) container->update(painted->second);
-    painted_.erase(painted);
+Entered QtForm::EnteredIn(const TextBox& box) const { return EnteredInto(static_cast<QLineEdit&>(*WidgetOf(box))); }
+
+void QtForm::ShowCarried(const Carried& carried) { toolkit_.Seen().Show(*this, carried); }
+
+void QtForm::HideCarried() { toolkit_.Seen().Hide(); }
+
+void QtForm::Destroy(const Control& control) {
+  const auto timer = timers_.find(&control);
+  if (timer != timers_.end()) {
+    timer->second->stop();
+    timer->second->deleteLater();
+    timers_.erase(timer);
   }
-  std::erase(restack_, &control);
   std::erase_if(controls_, [&control](const auto& entry) { return entry.second == &control; });
-  if (press_.On == &control) press_ = {nullptr, -1, true, false};
   const auto found = widgets_.find(&control);
   if (found == widgets_.end()) return;
   if (QWidget* const widget = found->second) {
     widget->hide();
-    Bury(widget);
+    Bury([gone = QPointer<QWidget>(widget)] { delete gone.data(); });
   }
   widgets_.erase(found);
 }
 
-void QtForm::Release() {
-  form_ = nullptr;
+void QtForm::DestroyAll() {
   for (const auto& [control, timer] : timers_) timer->stop();
   timers_.clear();
   controls_.clear();
   widgets_.clear();
-  press_ = {};
   window_->hide();
 }
 

@@ -2,103 +2,87 @@
 #pragma once
 
 #include "view/Look.h"
+#include "view/Mirror.h"
 
 #include <QObject>
+#include <QPointF>
 #include <QPointer>
-#include <QRectF>
 #include <QTimer>
 #include <QWidget>
 #include <map>
 #include <memory>
-#include <vector>
 
 class QKeyEvent;
 class QMouseEvent;
 class QShortcutEvent;
-class QWheelEvent;
 
 namespace Tarnwise {
 
 class QtToolkit;
 
-// The left button is down.
-struct QtPress {
-  Control* On = nullptr;
-  int Row = -1;          // of a list or a tab strip
-  bool Refused = false;  // the rest of it is nobody's
-  bool Native = false;   // the widget follows it itself
-};
-
-class QtForm : public QObject {
+class QtForm : public QObject, public Mirror {
  public:
   QtForm(Form& form, QtToolkit& toolkit);
   ~QtForm() override;
 
-  Form* Tree() const { return form_; }  // null once it is released
-  QtToolkit& Tools() const { return toolkit_; }
   QWidget& Window() const { return *window_; }
   const Palette& Colours() const { return colours_; }  // the platform's, every text readable on its ground
+  static QPointF InPixels(FormPoint at);               // of the window
 
   QWidget* WidgetOf(const Control& control) const;
   Control* ControlOf(const QObject* object) const;  // null when the control has gone
   // Events of this object are the control's: of its widget, and of parts of it.
   void Watch(QObject& object, Control& control);
 
-  void Sync();  // what the tree has marked
-  void SyncControl(Control& control);
-  void FocusTree();  // the keyboard goes to the widget of the tree's active control, or to the bare window
-  void Forget(const Control& control);
-  void Release();
-
   // What widgets tell, all of it by a person's hand.
   void Clicked(QWidget& widget);             // a button's release, or a screen reader's press
   void RowChosen(QWidget& widget, int row);  // in the control's own numbers
-  void ToolPressed(QWidget& widget, const String& key);
+  void ToolPressed(QWidget& widget, std::size_t button);
   void Scrolled(QWidget& widget, int value, bool dragging);
-  void TextCame(const QWidget& widget);  // into a box, by none of its keys
+  void CaretMoved(const QWidget& widget);
+  void TextCame(const QWidget& widget);  // into a box, by none of its keys: it shows again what the tree has
   void CloseWanted();
-  void Ticked(const Control& timer);
 
   bool eventFilter(QObject* object, QEvent* event) override;
 
- private:
-  void Make(Control& control);
-  void SyncPlace(Control& control, QWidget& widget);
-  void SyncLook(Control& control, QWidget& widget);
-  void SyncWindow();
-  void TakeColours();
-  void SyncPainted(const Control& control);
-  void SyncTimer(Control& control);
-  void StopTimer(const Control& control);
-  void Restack(const Control& container);
+  bool HasWindow(const Control& control) const override { return WidgetOf(control) != nullptr; }
+  void FocusTree() override;
+  Touch TouchOf(const Control& control, FormPoint at) const override;
+  bool IsFar(FormPoint from, FormPoint to) const override;
+  Entered EnteredIn(const TextBox& box) const override;
+  void ShowCarried(const Carried& carried) override;
+  void HideCarried() override;
 
-  bool Press(const QObject& object, Control& control, const QMouseEvent& event);
-  bool Move(const QObject& object, const QMouseEvent& event);
-  bool LetGo(QObject& object, const Control& control, QMouseEvent& event);
-  void FinishPress(const QtPress& press, const QWidget& widget, const QMouseEvent& event);
-  void Settle(Control* control);
-  bool Wheel(Control& control, const QWheelEvent& event);
+ protected:
+  bool Create(Control& control) override;
+  void PutAt(Control& control, const PixelRect& place) override;
+  void Apply(Control& control) override;
+  void ApplyForm() override;
+  void Destroy(const Control& control) override;
+  void DestroyAll() override;
+  void Repaint(const Control& container, const PixelRect& area) override;
+  void ToFront(const Control& control) override;
+  void BorderToFront(const Control& container) override;
+  void RunTimer(Timer& timer, int interval) override;
+
+ private:
+  void TakeColours();
+  bool Mouse(QObject& object, Control& control, QMouseEvent& event);
   bool Mnemonic(const Control& control, const QShortcutEvent& event);
-  bool KeyDown(Control& control, QKeyEvent& event);
-  bool BoxKey(TextBox& box, QKeyEvent& event);
-  bool Commit(Control& control, const QString& text);
+  bool KeyDown(const Control& control, const QKeyEvent& event);
+  void BoxKey(TextBox& box, KeyEvent down, int character);
+  bool Commit(const Control& control, const QString& text);
   bool KeyUp(const QKeyEvent& event);
-  void FocusCame(QObject& object, Control& control, int reason);
+  void FocusCame(QObject& object, const Control& control, int reason);
   void PaletteCame(const Control& control);
 
-  Form* form_;
   QtToolkit& toolkit_;
   std::unique_ptr<QWidget> window_;
   Palette colours_;
   std::map<const Control*, QPointer<QWidget>> widgets_;
   std::map<const QObject*, Control*> controls_;
   std::map<const Control*, QTimer*> timers_;
-  std::map<const Control*, int> orders_;     // as the widgets are stacked now
-  std::map<const Control*, QRect> painted_;  // where lines and shapes are seen now
-  std::vector<const Control*> restack_;      // containers whose children changed their order
-  QPoint placed_;                            // where the tree last wanted the window
-  QtPress press_;
-  int typing_ = 0;  // key that went down in a text box and has not come up
+  QPoint placed_;  // where the tree last wanted the window
 };
 
 }  // namespace Tarnwise

@@ -69,7 +69,7 @@ int CharacterOf(const QKeyEvent& event) {
 
 int ShiftOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers();
-  return (modifiers.testFlag(Qt::ShiftModifier) ? kShift : 0) |
+  return (modifiers.testFlag(Qt::ShiftModifier) || event.key() == Qt::Key_Backtab ? kShift : 0) |
          (modifiers.testFlag(Qt::ControlModifier) ? kControl : 0) | (modifiers.testFlag(Qt::AltModifier) ? kAlt : 0);
 }
 

@@ -18,8 +18,6 @@ struct QtKind {
 // Null for kinds without a widget of their own: timers, lines, and shapes that only stand there.
 const QtKind* KindOf(const Control& control);
 
-bool IsPainted(const Control& control);  // drawn by its container
-
 extern const QtKind kQtLabel;
 extern const QtKind kQtImage;
 extern const QtKind kQtFrame;

@@ -1,6 +1,5 @@
 // Message boxes and help.
 #include "view/qt/QtForm.h"
-#include "view/qt/QtLifetime.h"
 #include "view/qt/QtPaint.h"
 #include "view/qt/QtToolkit.h"
 
@@ -49,8 +48,8 @@ void QtToolkit::MessageBox(Form* over, const String& text, int style, const Stri
   if (shown != nullptr && over->Visible) PutOver(box, *shown);
   if (AutoAnswer)
     QTimer::singleShot(0, &box, [this, &box] { AutoAnswer(box); });
-  else
-    drag_.Cancel();  // the release goes to the box
+  else if (over != nullptr)
+    over->Screen().Hand.CancelDrag();  // the release goes to the box
   box.exec();
 }
 

@@ -1,8 +1,8 @@
 #include "view/qt/QtPaint.h"
 
 #include "view/Captions.h"
+#include "view/Gesture.h"
 #include "view/Pictures.h"
-#include "view/Reach.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -42,16 +42,6 @@ void DrawShape(QPainter& painter, const PictureShape& shape, Colour ground) {
 QString Caption(const String& caption) { return Text(MarkedCaption(caption)); }
 
 QString PlainCaption(const String& caption) { return Text(UnmarkedCaption(caption)); }
-
-double PixelsPerUnit(const Control& container) { return UnitOf(container) / static_cast<double>(kTwipsPerPixel); }
-
-QRect PixelPlace(const Control& control) {
-  const double unit = control.Parent == nullptr ? 1.0 / 15.0 : PixelsPerUnit(*control.Parent);
-  const auto edge = [unit](Single at) { return static_cast<int>(std::lround(static_cast<double>(at) * unit)); };
-  const int left = edge(control.Left);
-  const int top = edge(control.Top);
-  return {left, top, edge(control.Left + control.Width) - left, edge(control.Top + control.Height) - top};
-}
 
 QColor ToQColor(Colour colour) {
   return QColor(static_cast<int>(colour & 0xFFU), static_cast<int>((colour >> 8U) & 0xFFU),
@@ -158,6 +148,8 @@ Qt::CursorShape CursorFor(int mousePointer) {
     case 12: return Qt::ForbiddenCursor;
     case 13: return Qt::BusyCursor;
     case 14: return Qt::WhatsThisCursor;
+    case kGrabPointer: return Qt::OpenHandCursor;
+    case kCarryPointer: return Qt::ClosedHandCursor;
     default: return Qt::ArrowCursor;
   }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "view/Look.h"
+#include "view/Pixels.h"
 
 #include <QColor>
 #include <QCursor>
@@ -21,8 +22,7 @@ inline String Text(const QString& text) { return text.toStdString(); }
 QString Caption(const String& caption);
 QString PlainCaption(const String& caption);  // without marks, for what is read aloud or shown in a tool tip
 
-double PixelsPerUnit(const Control& container);  // logical pixels in a unit of its scale
-QRect PixelPlace(const Control& control);        // in its container, edges on whole pixels
+inline QRect ToQRect(const PixelRect& place) { return {place.Left, place.Top, place.Width(), place.Height()}; }
 
 QColor ToQColor(Colour colour);  // a number, not one of the platform's names
 Palette ColoursOf(const QPalette& palette);

@@ -15,7 +15,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kHandleSide = 16;        // pixels: a drag source up to this size is a handle
 constexpr double kHandleRadius = 5.0;  // as drawn, whatever its size in the tree
 constexpr double kSlantedLine = 1.6;   // pixels
 
@@ -74,7 +73,7 @@ QPointF EndOf(Single x, Single y, double unit) {
 }
 
 void PaintLine(QPainter& painter, const Line& line, const Palette& palette) {
-  const double unit = PixelsPerUnit(*line.Parent);
+  const double unit = PixelsPerUnit(*line.Parent, 1.0);
   DrawLine(painter, EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit), ToQColor(InkOf(line, palette)), 1.0);
 }
 
@@ -117,32 +116,14 @@ void SyncShape(QtForm& /*form*/, Control& /*control*/, QWidget& widget) { widget
 
 }  // namespace
 
-bool IsHandle(const Control& control) {
-  if (!control.DragAutomatic || (control.Type != Kind::PictureBox && control.Type != Kind::Shape)) return false;
-  const QRect place = PixelPlace(control);
-  return place.width() <= kHandleSide && place.height() <= kHandleSide;
-}
-
-bool IsPainted(const Control& control) {
-  return control.Type == Kind::Line ||
-         (control.Type == Kind::Shape && !control.DragAutomatic && !control.TakesDrags() && !control.Click);
-}
-
-QRect PaintedPlace(const Control& control) {
-  if (control.Type != Kind::Line) return PixelPlace(control).adjusted(-1, -1, 1, 1);
-  const auto& line = static_cast<const Line&>(control);
-  const double unit = PixelsPerUnit(*control.Parent);
-  const QRectF between(EndOf(line.X1, line.Y1, unit), EndOf(line.X2, line.Y2, unit));
-  return between.normalized().adjusted(-2, -2, 2, 2).toAlignedRect();
-}
-
 void PaintChildren(QPainter& painter, const QtForm& form, const Control& container, const QRect& area) {
   for (const Control* control : ChildrenOf(container.Owner, &container)) {
-    if (!IsPainted(*control) || !control->Visible || !PaintedPlace(*control).intersects(area)) continue;
+    if (!IsPainted(*control) || !control->Visible || !ToQRect(PaintedPlace(*control, 1.0)).intersects(area)) continue;
     if (control->Type == Kind::Line)
       PaintLine(painter, static_cast<const Line&>(*control), form.Colours());
     else
-      DrawShapeControl(painter, static_cast<const Shape&>(*control), QRectF(PixelPlace(*control)), form.Colours());
+      DrawShapeControl(painter, static_cast<const Shape&>(*control), QRectF(ToQRect(PixelPlace(*control, 1.0))),
+                       form.Colours());
   }
 }
 
@@ -170,7 +151,7 @@ void QtBox::PaintBox(QPainter& painter, const PictureBox& box) {
   const Colour ground = FillOf(box, form_.Colours());
   painter.fillRect(rect(), ToQColor(ground));
   DrawPicture(painter, box.Picture, QRectF(rect()).adjusted(6, 6, -6, -6), ground);
-  for (const Drawn& drawn : box.Drawing) PaintDrawn(painter, drawn, PixelsPerUnit(box), ground);
+  for (const Drawn& drawn : box.Drawing) PaintDrawn(painter, drawn, PixelsPerUnit(box, 1.0), ground);
   if (hasFocus() && box.DragAutomatic) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));

@@ -10,11 +10,6 @@ namespace Tarnwise {
 
 class QtForm;
 
-constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
-
-// A small drag source: drawn as a handle.
-bool IsHandle(const Control& control);
-
 class QtBox : public QWidget {
  public:
   QtBox(QtForm& form, Control& control, QWidget& parent);
@@ -36,6 +31,5 @@ class QtBox : public QWidget {
 
 // Lines and shapes of a container, back to front.
 void PaintChildren(QPainter& painter, const QtForm& form, const Control& container, const QRect& area);
-QRect PaintedPlace(const Control& control);  // of a line or a shape in its container
 
 }  // namespace Tarnwise

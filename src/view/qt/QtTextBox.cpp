@@ -30,12 +30,8 @@ QWidget* MakeTextBox(QtForm& form, Control& control, QWidget& parent) {
   edit->setDragEnabled(false);
   edit->setAcceptDrops(false);
   edit->setAttribute(Qt::WA_InputMethodEnabled, false);  // every character goes through the form's key events
-  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] {
-    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
-  });
-  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] {
-    if (auto* const box = static_cast<TextBox*>(form.ControlOf(edit))) StoreCaret(*box, *edit);
-  });
+  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
+  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
   QObject::connect(edit, &QLineEdit::textChanged, &form, [&form, edit] { form.TextCame(*edit); });
   // The caret stands where the tree says until a person moves it.
   edit->setText(Text(static_cast<TextBox&>(control).Text));
@@ -61,13 +57,11 @@ void SyncTextBox(QtForm& /*form*/, Control& control, QWidget& widget) {
 
 }  // namespace
 
-void StoreCaret(TextBox& box, const QLineEdit& edit) {
-  // A text on its way into the tree is told by TextEdited, caret and all.
-  if (Text(edit.text()) != box.Text()) return;
-  const int start = SelectionStart(edit);
-  const int end = start + static_cast<int>(edit.selectedText().size());
-  box.SelStart = CharactersBefore(edit.text(), start);
-  box.SelLength = CharactersBefore(edit.text(), end) - box.SelStart;
+Entered EnteredInto(const QLineEdit& edit) {
+  const int from = SelectionStart(edit);
+  const int start = CharactersBefore(edit.text(), from);
+  const int end = CharactersBefore(edit.text(), from + static_cast<int>(edit.selectedText().size()));
+  return {Text(edit.text()), start, end - start, CharactersBefore(edit.text(), edit.cursorPosition())};
 }
 
 void TypeCharacter(QLineEdit& edit, int character) {

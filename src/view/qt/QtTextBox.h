@@ -1,16 +1,13 @@
 // Text boxes: the line edit and the tree's caret and selection.
 #pragma once
 
-#include "view/Controls.h"
+#include "view/Mirror.h"
 
 #include <QLineEdit>
 
 namespace Tarnwise {
 
-class QtForm;
-
-// Keeps the tree's SelStart and SelLength equal to what the person sees.
-void StoreCaret(TextBox& box, const QLineEdit& edit);
+Entered EnteredInto(const QLineEdit& edit);
 
 // What the character does in the box by itself: types, removes, selects all, uses the clipboard.
 void TypeCharacter(QLineEdit& edit, int character);

@@ -1,14 +1,15 @@
 #include "view/qt/QtToolkit.h"
 
+#include "view/Lifetime.h"
 #include "view/qt/QtAccessible.h"
 #include "view/qt/QtForm.h"
-#include "view/qt/QtLifetime.h"
 #include "view/qt/QtPaint.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QFontMetricsF>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 
@@ -16,17 +17,31 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr double kTwips = 15.0;  // in a logical pixel
+void DigSoon() {
+  static bool digging = false;
+  if (digging || qApp == nullptr) return;
+  digging = true;
+  const auto dig = [] {
+    digging = false;
+    qRemovePostRoutine(DigAll);
+    Dig();
+  };
+  qAddPostRoutine(DigAll);  // the application may end before an event loop could do it
+  QTimer::singleShot(0, qApp, dig);
+}
 
 }  // namespace
 
-QtToolkit::QtToolkit() { InstallAccessibility(); }
+QtToolkit::QtToolkit() {
+  DigBy(DigSoon, false);
+  InstallAccessibility();
+}
 
 QtToolkit::~QtToolkit() {
   SetPointer(0);
   for (auto& [form, window] : forms_) {
-    window->Release();
-    Bury(window.release());
+    window->Orphan();
+    Bury([gone = QPointer<QtForm>(window.release())] { delete gone.data(); });
   }
 }
 
@@ -62,7 +77,6 @@ void QtToolkit::Show(Form& form, Showing how) {
 
 void QtToolkit::Hide(Form& form) {
   if (QtForm* const shown = FormOf(form)) shown->Window().hide();
-  drag_.Cancel();
   Wake(form);
 }
 
@@ -70,7 +84,7 @@ void QtToolkit::Release(Form& form) {
   const auto found = forms_.find(&form);
   if (found != forms_.end()) {
     found->second->Release();
-    Bury(found->second.release());
+    Bury([gone = QPointer<QtForm>(found->second.release())] { delete gone.data(); });
     forms_.erase(found);
   }
   Wake(form);
@@ -85,7 +99,6 @@ void QtToolkit::Wake(const Form& form) {
 }
 
 void QtToolkit::ControlUnloaded(Control& control) {
-  drag_.Forget(control);
   if (QtForm* const shown = FormOf(control.Owner)) shown->Forget(control);
 }
 
@@ -131,15 +144,15 @@ void QtToolkit::AnnounceChange(Label& label) {
 }
 
 Single QtToolkit::TextWidth(const String& text) {
-  return static_cast<Single>(QFontMetricsF(BaseFont()).horizontalAdvance(Text(text)) * kTwips);
+  return static_cast<Single>(QFontMetricsF(BaseFont()).horizontalAdvance(Text(text)) * kTwipsPerDesignPixel);
 }
 
 Single QtToolkit::ScreenWidth() {
-  return static_cast<Single>(QApplication::primaryScreen()->geometry().width() * kTwips);
+  return static_cast<Single>(QApplication::primaryScreen()->geometry().width() * kTwipsPerDesignPixel);
 }
 
 Single QtToolkit::ScreenHeight() {
-  return static_cast<Single>(QApplication::primaryScreen()->geometry().height() * kTwips);
+  return static_cast<Single>(QApplication::primaryScreen()->geometry().height() * kTwipsPerDesignPixel);
 }
 
 }  // namespace Tarnwise

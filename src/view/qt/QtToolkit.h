@@ -2,7 +2,7 @@
 #pragma once
 
 #include "view/Platform.h"
-#include "view/qt/QtDrag.h"
+#include "view/qt/QtCarried.h"
 
 #include <functional>
 #include <map>
@@ -21,10 +21,7 @@ class QtToolkit : public Toolkit {
   QtToolkit();
   ~QtToolkit() override;
 
-  // For a script player: it pushes what comes instead of a person.
-  std::function<bool()> Pump;                    // the next thing while a modal form is up, false when nothing comes
-  std::function<void(QMessageBox&)> AutoAnswer;  // answers a message box that has come up
-  bool RealTimers = true;                        // false: a form's timers wait for the script
+  std::function<void(QMessageBox&)> AutoAnswer;  // for a script player: answers a message box that has come up
 
   void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
@@ -44,7 +41,7 @@ class QtToolkit : public Toolkit {
   Single ScreenHeight() override;
 
   QtForm* FormOf(const Form& form) const;  // null while it has no window
-  QtDrag& Drag() { return drag_; }
+  QtCarried& Seen() { return seen_; }
 
  private:
   struct ModalCall {
@@ -58,7 +55,7 @@ class QtToolkit : public Toolkit {
 
   std::map<const Form*, std::unique_ptr<QtForm>> forms_;
   std::vector<ModalCall*> calls_;
-  QtDrag drag_;
+  QtCarried seen_;
   bool waiting_ = false;  // the pointer says so
 };
 

@@ -2,11 +2,11 @@
 #include "view/win32/Win32Driver.h"
 
 #include "view/Input.h"
+#include "view/Lifetime.h"
 #include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
-#include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"
 #include "view/win32/WinToolkit.h"
 #include "view/win32/WindowPicture.h"
@@ -124,7 +124,7 @@ class Win32Driver : public Driver {
 
   void Focus(Control& control) override {
     const auto held = Ready(control);
-    const WinEntry entry(control.Owner);
+    const Entry entry(control.Owner);
     if (Input::MoveFocus(control)) Input::PutCaretAtEnd(control);
     screen_->SyncAll();
   }
@@ -147,14 +147,14 @@ class Win32Driver : public Driver {
     grabbed_ = WindowOf(source);
     if (grabbed_ == nullptr) return;
     PressAt(grabbed_, MiddleOf(grabbed_));
-    toolkit_.Drag().Begin();  // the first move may be as near as it likes
+    screen_->Hand.BeginDrag();  // the first move may be as near as it likes
   }
 
   void Over(Control& target, ControlPoint at) override {
     const FormPoint onForm = OnForm(target, at);
     WinForm* const shown = toolkit_.FormOf(target.Owner);
     if (grabbed_ == nullptr || shown == nullptr || DragTargetAt(target.Owner, onForm) != &target) {
-      const WinEntry entry(target.Owner);
+      const Entry entry(target.Owner);
       screen_->Drag.Over(target, at.X, at.Y);  // clipped by a viewport, or another one of the row stands in front
       return;
     }
@@ -164,11 +164,11 @@ class Win32Driver : public Driver {
     if (pixelX == pixel.x && pixelY == pixel.y)
       SendMessageW(shown->Window(), WM_MOUSEMOVE, MK_LBUTTON, At(pixel));
     else
-      toolkit_.Drag().Move(pixelX, pixelY);  // no mouse can point between two pixels
+      screen_->Hand.MoveDrag(onForm);  // no mouse can point between two pixels
   }
 
   void OverNothing() override {
-    const WinEntry entry(screen_->Drag.Source()->Owner);
+    const Entry entry(screen_->Drag.Source()->Owner);
     screen_->Drag.OverNothing();
   }
 
@@ -193,7 +193,7 @@ class Win32Driver : public Driver {
 
   void Tick(Timer& timer) override {
     const auto held = timer.Owner.shared_from_this();
-    const WinEntry entry(timer.Owner);
+    const Entry entry(timer.Owner);
     Input::Tick(timer);
   }
 

@@ -5,7 +5,6 @@
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
-#include "view/win32/WinLifetime.h"
 #include "view/win32/WinPaint.h"
 #include "view/win32/WinText.h"
 
@@ -16,7 +15,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kHandleSide = 16;        // pixels of the design: a drag source up to this size is a handle
 constexpr double kHandleRadius = 5.0;  // as drawn, whatever its size in the tree
 constexpr double kSlantedLine = 1.6;   // pixels of the design
 constexpr int kTitleLeft = 12;
@@ -126,7 +124,7 @@ void DrawBody(const Onto& onto, double left, double top, double right, double bo
 }
 
 void PaintShape(const Onto& onto, const Shape& shape) {
-  const RECT place = PixelPlace(shape, onto.Scale);
+  const RECT place = ToRect(PixelPlace(shape, onto.Scale));
   const ShapeLook look = LookOf(shape, onto.Colours);
   const double inset = 0.75 * onto.Scale;
   DrawBody(onto, place.left + inset, place.top + inset, place.right - inset, place.bottom - inset, shape.Round,
@@ -137,7 +135,7 @@ void PaintChildren(const Onto& onto, const Control& container) {
   for (const Control* control : ChildrenOf(container.Owner, &container)) {
     if (!IsPainted(*control) || !control->Visible) continue;
     RECT common{};
-    const RECT place = PaintedPlace(*control, onto.Scale);
+    const RECT place = ToRect(PaintedPlace(*control, onto.Scale));
     if (IntersectRect(&common, &place, &onto.Area) == 0) continue;
     if (control->Type == Kind::Line) {
       const auto& line = static_cast<const Line&>(*control);
@@ -259,34 +257,6 @@ bool IsOpaque(const Control& control) {
 }
 
 }  // namespace
-
-bool IsHandle(const Control& control) {
-  if (!control.DragAutomatic || (control.Type != Kind::PictureBox && control.Type != Kind::Shape)) return false;
-  const RECT place = PixelPlace(control, 1.0);
-  return WidthOf(place) <= kHandleSide && HeightOf(place) <= kHandleSide;
-}
-
-bool IsPainted(const Control& control) {
-  return control.Type == Kind::Line ||
-         (control.Type == Kind::Shape && !control.DragAutomatic && !control.TakesDrags() && !control.Click);
-}
-
-RECT PaintedPlace(const Control& control, double scale) {
-  if (control.Type != Kind::Line) {
-    RECT place = PixelPlace(control, scale);
-    InflateRect(&place, 1, 1);
-    return place;
-  }
-  const auto& line = static_cast<const Line&>(control);
-  const double unit = PixelsPerUnit(*control.Parent, scale);
-  const Spot a = EndOf(line.X1, line.Y1, unit);
-  const Spot b = EndOf(line.X2, line.Y2, unit);
-  const int margin = Scaled(2, scale) + 1;
-  return {static_cast<LONG>(std::floor(std::min(a.X, b.X))) - margin,
-          static_cast<LONG>(std::floor(std::min(a.Y, b.Y))) - margin,
-          static_cast<LONG>(std::ceil(std::max(a.X, b.X))) + margin,
-          static_cast<LONG>(std::ceil(std::max(a.Y, b.Y))) + margin};
-}
 
 int FineFor(const Control& container) {
   if (container.Type == Kind::PictureBox) {

@@ -13,8 +13,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kSidePadding = 6;
-constexpr int kIndicatorRoom = 24;
 constexpr int kSmooth = 3;
 
 void SetCaption(WinForm& form, HWND window, const Control& control, const String& caption, int padding) {

@@ -1,8 +1,8 @@
 #include "view/win32/WinForm.h"
 
 #include "runtime/windows/OwnModule.h"
+#include "view/Lifetime.h"
 #include "view/Platform.h"
-#include "view/Reach.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinNames.h"
@@ -83,17 +83,17 @@ const wchar_t* FormClass() {
 
 }  // namespace
 
-WinForm::WinForm(Form& form, WinToolkit& toolkit) : form_(&form), toolkit_(toolkit) {}
+WinForm::WinForm(Form& form, WinToolkit& toolkit) : Mirror(form), toolkit_(toolkit) {}
 
 WinForm::~WinForm() {
-  form_ = nullptr;
+  Orphan();
   if (window_ != nullptr) DestroyWindow(window_);
 }
 
 void WinForm::MakeWindow() {
   if (window_ != nullptr) return;
   const OwnLook look;
-  window_ = CreateWindowExW(kFormExStyle, FormClass(), Wide(form_->Caption).c_str(), kFormStyle, 0, 0, 100, 100,
+  window_ = CreateWindowExW(kFormExStyle, FormClass(), Wide(Tree()->Caption).c_str(), kFormStyle, 0, 0, 100, 100,
                             nullptr, nullptr, OwnModule(), nullptr);
   if (window_ == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
   tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0,
@@ -103,16 +103,14 @@ void WinForm::MakeWindow() {
                reinterpret_cast<LPARAM>(toolkit_.WindowIcon(GetSystemMetrics(SM_CXSMICON))));
   SendMessageW(window_, WM_SETICON, ICON_BIG,
                reinterpret_cast<LPARAM>(toolkit_.WindowIcon(GetSystemMetrics(SM_CXICON))));
-  scale_ = FittingScale(*form_, DpiOf(window_) / 96.0, WorkAreaOf(window_));
-  Watch(window_, *form_);
-  SyncFormWindow();
-  for (Control* control : form_->Controls()) SyncControl(*control);
-  for (const Control* container : std::exchange(restack_, {})) Restack(*container);
+  scale_ = FittingScale(*Tree(), DpiOf(window_) / 96.0, WorkAreaOf(window_));
+  Watch(window_, *Tree());
+  SyncAll();
   SendMessageW(window_, WM_UPDATEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS), 0);
 }
 
 HWND WinForm::WindowOf(const Control& control) const {
-  if (form_ != nullptr && &control == form_) return window_;
+  if (Tree() != nullptr && &control == Tree()) return window_;
   const auto found = windows_.find(&control);
   return found == windows_.end() ? nullptr : found->second;
 }
@@ -167,66 +165,38 @@ void WinForm::Show(Showing how, HWND behind) {
   FocusTree();
 }
 
-void WinForm::Make(Control& control) {
+bool WinForm::Create(Control& control) {
   const WinKind* const kind = KindOf(control);
-  if (kind == nullptr) return;
-  if (WindowOf(*control.Parent) == nullptr) SyncControl(*control.Parent);
+  if (kind == nullptr) return false;
   const HWND window = kind->Make(*this, control, WindowOf(*control.Parent));
   if (window == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
   windows_[&control] = window;
   Watch(window, control);
   UseFittingStyle(window, colours_);
-  SyncPlace(control, window);
-  kind->Sync(*this, control, window);
-  SyncLook(control, window);
-  restack_.push_back(control.Parent);
+  return true;
 }
 
 void WinForm::Sync() {
-  if (form_ == nullptr || window_ == nullptr) return;
   const OwnLook look;
-  for (Control* control : std::vector<Control*>(form_->ChangedControls)) SyncControl(*control);
-  for (const Control* container : std::exchange(restack_, {})) Restack(*container);
-  FocusTree();
+  Mirror::Sync();
 }
 
-void WinForm::SyncControl(Control& control) {
-  if (window_ == nullptr) return;
-  if (&control == form_) {
-    SyncFormWindow();
-  } else if (control.Type == Kind::Timer) {
-    SyncTimer(control);
-  } else if (IsPainted(control)) {
-    SyncPainted(control);
-  } else if (const HWND window = WindowOf(control)) {
-    SyncPlace(control, window);
-    KindOf(control)->Sync(*this, control, window);
-    SyncLook(control, window);
-  } else {
-    Make(control);
-  }
-}
-
-void WinForm::SyncPlace(Control& control, HWND window) {
-  RECT place = PixelPlace(control, scale_);
-  const int margin = Scaled(kGrabMargin, scale_);
-  if (IsHandle(control)) InflateRect(&place, margin, margin);
+void WinForm::PutAt(Control& control, const PixelRect& place) {
+  const HWND window = WindowOf(control);
   // A drop list is as high as its list when it is open.
   const bool combo = control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo;
-  if (combo) place.bottom += Scaled(320, scale_);
   RECT now{};
   GetWindowRect(window, &now);
   MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&now), 2);
-  const bool same = now.left == place.left && now.top == place.top && now.right == place.right &&
-                    (combo || now.bottom == place.bottom);
-  if (!same) MoveWindow(window, place.left, place.top, WidthOf(place), HeightOf(place), TRUE);
-  int& order = orders_[&control];
-  if (order == control.Order) return;
-  order = control.Order;
-  if (std::find(restack_.begin(), restack_.end(), control.Parent) == restack_.end()) restack_.push_back(control.Parent);
+  const bool same = now.left == place.Left && now.top == place.Top && now.right == place.Right &&
+                    (combo || now.bottom == place.Bottom);
+  const int list = combo ? Scaled(320, scale_) : 0;
+  if (!same) MoveWindow(window, place.Left, place.Top, place.Width(), place.Height() + list, TRUE);
 }
 
-void WinForm::SyncLook(Control& control, HWND window) {
+void WinForm::Apply(Control& control) {
+  const HWND window = WindowOf(control);
+  KindOf(control)->Sync(*this, control, window);
   if (HasOwnText(control) && !control.AccessibleName().empty()) {
     const std::wstring name = Wide(control.AccessibleName);
     NameWindow(window, name);
@@ -243,18 +213,18 @@ void WinForm::SyncLook(Control& control, HWND window) {
   if (shown != control.Visible) ShowWindow(window, control.Visible ? SW_SHOWNA : SW_HIDE);
 }
 
-void WinForm::SyncFormWindow() {
-  SetText(window_, Wide(form_->Caption));
-  const RECT place = PixelPlace(*form_, scale_);
-  const SIZE outer = OuterSize({WidthOf(place), HeightOf(place)}, DpiOf(window_) / 96.0);
+void WinForm::ApplyForm() {
+  SetText(window_, Wide(Tree()->Caption));
+  const PixelRect place = PixelPlace(*Tree(), scale_);
+  const SIZE outer = OuterSize({place.Width(), place.Height()}, DpiOf(window_) / 96.0);
   RECT now{};
   GetWindowRect(window_, &now);
   if (WidthOf(now) != outer.cx || HeightOf(now) != outer.cy) {
     SetWindowPos(window_, nullptr, 0, 0, outer.cx, outer.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
-  if (moved_ && place.left == placed_.x && place.top == placed_.y) return;
+  if (moved_ && place.Left == placed_.x && place.Top == placed_.y) return;
   moved_ = true;
-  placed_ = {place.left, place.top};
+  placed_ = {place.Left, place.Top};
   const RECT area = WorkAreaOf(window_);
   // The tree's place is that of a form of its full size; a frame and a small screen may need it moved.
   const auto within = [](LONG at, LONG size, LONG from, LONG to) { return std::max(from, std::min(at, to - size)); };
@@ -265,45 +235,38 @@ void WinForm::SyncFormWindow() {
                within(top, outer.cy, area.top, area.bottom), 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void WinForm::SyncPainted(const Control& control) {
-  const HWND container = WindowOf(*control.Parent);
-  if (container == nullptr) return;
-  RECT& place = painted_[&control];
-  RedrawWindow(container, &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-  place = PaintedPlace(control, scale_);
-  RedrawWindow(container, &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+void WinForm::Repaint(const Control& container, const PixelRect& area) {
+  const RECT place = ToRect(area);
+  RedrawWindow(WindowOf(container), &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-void WinForm::SyncTimer(Control& control) {
-  const auto& record = static_cast<const Timer&>(control);
-  UINT_PTR& id = timers_[&control];
+void WinForm::RunTimer(Timer& timer, int interval) {
+  UINT_PTR& id = timers_[&timer];
   if (id == 0) id = nextTimer_++;
-  if (record.Interval > 0 && record.Enabled && toolkit_.RealTimers)
-    SetTimer(window_, id, static_cast<UINT>(record.Interval()), nullptr);
+  if (interval > 0)
+    SetTimer(window_, id, static_cast<UINT>(interval), nullptr);
   else
     KillTimer(window_, id);
 }
 
-void WinForm::StopTimer(const Control& control) {
-  const auto found = timers_.find(&control);
-  if (found == timers_.end()) return;
-  KillTimer(window_, found->second);
-  timers_.erase(found);
+void WinForm::ToFront(const Control& control) {
+  SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
-void WinForm::Restack(const Control& container) {
-  if (form_ == nullptr) return;
-  for (const Control* child : ChildrenOf(*form_, &container)) {
-    const HWND window = WindowOf(*child);
-    if (window != nullptr) SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  }
+void WinForm::BorderToFront(const Control& container) {
   const HWND border = GetDlgItem(WindowOf(container), kBorderId);
   if (border != nullptr) SetWindowPos(border, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
+Entered WinForm::EnteredIn(const TextBox& box) const { return EnteredInto(WindowOf(box)); }
+
+void WinForm::ShowCarried(const Carried& carried) { toolkit_.Seen().Show(*this, carried); }
+
+void WinForm::HideCarried() { toolkit_.Seen().Hide(); }
+
 void WinForm::FocusTree() {
-  if (form_ == nullptr || window_ == nullptr || GetActiveWindow() != window_) return;
-  const Control* const active = form_->ActiveControl;
+  if (Tree() == nullptr || window_ == nullptr || GetActiveWindow() != window_) return;
+  const Control* const active = Tree()->ActiveControl;
   HWND wanted = active != nullptr && IsUsable(*active) ? WindowOf(*active) : nullptr;
   if (wanted == nullptr) wanted = window_;
   const HWND now = GetFocus();
@@ -314,40 +277,30 @@ void WinForm::FocusTree() {
 }
 
 void WinForm::Rescale(double scale) {
-  if (form_ == nullptr) return;
-  scale_ = FittingScale(*form_, scale, WorkAreaOf(window_));
+  if (Tree() == nullptr) return;
+  scale_ = FittingScale(*Tree(), scale, WorkAreaOf(window_));
   moved_ = true;
-  placed_ = {PixelPlace(*form_, scale_).left, PixelPlace(*form_, scale_).top};
-  SyncFormWindow();
-  for (Control* control : form_->Controls()) SyncControl(*control);
+  placed_ = {PixelPlace(*Tree(), scale_).Left, PixelPlace(*Tree(), scale_).Top};
+  SyncAll();
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
 // The person has chosen other colours. Windows tells the form alone.
 void WinForm::Recolour() {
-  if (form_ == nullptr) return;
+  if (Tree() == nullptr) return;
   colours_ = SystemColours();
   for (const auto& [control, window] : windows_) {
     UseFittingStyle(window, colours_);
     SendMessageW(window, WM_SYSCOLORCHANGE, 0, 0);
   }
-  for (Control* control : form_->Controls()) SyncControl(*control);
+  SyncAll();
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
-void WinForm::Forget(const Control& control) {
-  StopTimer(control);
-  orders_.erase(&control);
-  const auto painted = painted_.find(&control);
-  if (painted != painted_.end()) {
-    if (const HWND container = WindowOf(*control.Parent)) {
-      RedrawWindow(container, &painted->second, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-    }
-    painted_.erase(painted);
-  }
-  std::erase(restack_, &control);
+void WinForm::Destroy(const Control& control) {
+  std::erase_if(timers_,
+                [&](const auto& timer) { return timer.first == &control && KillTimer(window_, timer.second); });
   std::erase_if(controls_, [&control](const auto& entry) { return entry.second == &control; });
-  if (press_.On == &control) press_ = {nullptr, -1, true, false};
   const auto found = windows_.find(&control);
   if (found == windows_.end()) return;
   const HWND window = found->second;
@@ -355,16 +308,14 @@ void WinForm::Forget(const Control& control) {
   SetTip(window, {});
   tipTexts_.erase(window);
   ShowWindow(window, SW_HIDE);
-  Bury(window);
+  Bury([window] { DestroyWindow(window); });
 }
 
-void WinForm::Release() {
-  form_ = nullptr;
-  for (const auto& [control, timer] : timers_) KillTimer(window_, timer);
+void WinForm::DestroyAll() {
+  for (const auto& [timer, id] : timers_) KillTimer(window_, id);
   timers_.clear();
   controls_.clear();
   windows_.clear();
-  press_ = {};
   if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
 }
 
@@ -379,9 +330,9 @@ void WinForm::Lost(HWND window) {
   std::erase_if(windows_, [window](const auto& entry) { return entry.second == window; });
   if (window != window_) return;
   window_ = nullptr;
-  if (form_ == nullptr) return;
-  const WinEntry entry(*form_);
-  form_->Screen().Hide(*form_);
+  if (Tree() == nullptr) return;
+  const Entry entry(*Tree());
+  Tree()->Screen().Hide(*Tree());
 }
 
 }  // namespace Tarnwise

@@ -1,18 +1,13 @@
 // Keys on their way from Windows to the tree.
-#include "view/Input.h"
+#include "view/Gesture.h"
 #include "view/Keys.h"
-#include "view/Mnemonics.h"
 #include "view/Platform.h"
-#include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
-#include "view/win32/WinLifetime.h"
-#include "view/win32/WinText.h"
-#include "view/win32/WinToolkit.h"
 
 #include <commctrl.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace Tarnwise {
 
@@ -33,91 +28,61 @@ bool IsOpen(const Control& control, HWND window) {
   return SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
+int CharacterOf(wchar_t high, wchar_t low) { return 0x10000 + ((high & 0x3FF) << 10) + (low & 0x3FF); }
+
 }  // namespace
 
 std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto held = shared_from_this();
-  if (form_->Screen().IsBlocked(*form_)) return 0;
+  if (Tree()->Screen().IsBlocked(*Tree())) return 0;
   bool taken = false;
   switch (message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN: taken = KeyDown(window, control, message, wParam, lParam); break;
     case WM_CHAR: taken = Character(window, wParam); break;
-    case WM_SYSCHAR: taken = Mnemonic(wParam); break;
-    case WM_KEYUP: KeyUp(static_cast<int>(wParam)); break;
+    case WM_SYSCHAR: taken = Hand().Mnemonic(*this, static_cast<int>(wParam)); break;
+    case WM_KEYUP: Hand().KeyUp(*this, {static_cast<int>(wParam), ShiftNow()}); break;
     default: break;
   }
   if (taken) return 0;
   if (control.Type != Kind::ListBox || (message != WM_KEYDOWN && message != WM_CHAR)) return std::nullopt;
   // A list box finds its rows by letters and pages; the tree hears of the row it has gone to.
   const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
-  if (ChosenRow(control, window) != static_cast<ListBox&>(control).ListIndex) RowChosen(control);
+  const int row = ChosenRow(control, window);
+  if (row != static_cast<ListBox&>(control).ListIndex) Hand().RowChosen(*this, control, row);
   return answer;
 }
 
 // True: the window itself must not see it.
 bool WinForm::KeyDown(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam) {
   if (IsModifier(wParam)) return false;
-  const int code = static_cast<int>(wParam);
-  const int shift = ShiftNow();
-  const WinEntry entry(*form_);
   dropCharacter_ = false;
-  if (toolkit_.Drag().ByMouse()) {
-    if (code == VK_ESCAPE) {
-      press_.Refused = true;  // where the button comes up now is no click
-      toolkit_.Drag().Cancel();
-    }
-    dropCharacter_ = true;
-    Settle(nullptr);
-    return true;
-  }
-  if (message == WM_SYSKEYDOWN) return false;  // its character may be a mnemonic
-  Control* const active = form_->ActiveControl;
+  const Control* const active = Tree()->ActiveControl;
   if (active != nullptr && WindowOf(*active) != nullptr && IsOpen(*active, WindowOf(*active))) return false;
-  if (code == VK_TAB && (shift & 6) == 0) {
+  // What comes as a key of the system's, F10 too, is for its menus.
+  const int shift = message == WM_SYSKEYDOWN ? kAlt : ShiftNow();
+  KeyEvent key{static_cast<int>(wParam), shift};
+  switch (Hand().KeyDown(*this, control, key)) {
+    case KeyGoes::ToMenu:  // its character may be a mnemonic
+    case KeyGoes::ToNative: return false;
+    case KeyGoes::ToBox: break;
+    case KeyGoes::Nowhere: dropCharacter_ = true; return true;
+  }
+  auto& box = static_cast<TextBox&>(*Tree()->ActiveControl);
+  if (!Hand().BoxKeyDown(*this, box, key)) {
     dropCharacter_ = true;
-    Input::TabKey(*form_, (shift & 1) != 0);
-    Settle(nullptr);
     return true;
   }
-  // Keys of a control that can't answer now go nowhere.
-  if (active == nullptr || !IsUsable(*active)) {
-    dropCharacter_ = true;
-    return true;
-  }
-  if (active->Type == Kind::TextBox) {
-    auto& box = static_cast<TextBox&>(*active);
-    const HWND edit = WindowOf(box);
-    typing_ = code;
-    StoreCaret(box, edit);
-    KeyEvent down{code, shift};
-    const bool passes = Input::KeyDown(box, down);
-    if (form_ == nullptr || ControlOf(edit) != &box || !passes) {
-      dropCharacter_ = true;
-      Settle(nullptr);
-      return true;
-    }
-    SyncControl(box);
-    if (edit != window) return true;
-    typingNow_ = true;
-    DefSubclassProc(window, message, static_cast<WPARAM>(down.Code), lParam);
-    typingNow_ = false;
-    TakeText(box, edit);
-    return true;
-  }
-  if ((shift & 2) == 0 && Input::ControlKey(*active, code, shift)) {
-    dropCharacter_ = true;
-    Settle(form_ != nullptr ? form_->ActiveControl : nullptr);
-    return true;
-  }
-  if (AnswersKeys(control)) return false;
-  dropCharacter_ = true;
+  if (WindowOf(box) != window) return true;
+  typingNow_ = true;
+  DefSubclassProc(window, message, static_cast<WPARAM>(key.Code), lParam);
+  typingNow_ = false;
+  Hand().BoxChanged(*this, box);
   return true;
 }
 
 // What a key types; the form's key press event may drop it or put another in its place.
 bool WinForm::Character(HWND window, WPARAM unit) {
-  Control* const active = form_->ActiveControl;
+  Control* const active = Tree()->ActiveControl;
   const bool high = unit >= 0xD800 && unit <= 0xDBFF;
   const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
   if (dropCharacter_) {
@@ -127,58 +92,20 @@ bool WinForm::Character(HWND window, WPARAM unit) {
   if (active == nullptr || active->Type != Kind::TextBox || !IsUsable(*active)) {
     return ControlOf(window) == nullptr || !AnswersKeys(*ControlOf(window));
   }
-  int character = static_cast<int>(unit);
   if (high) {
     highSurrogate_ = static_cast<wchar_t>(unit);
     return true;
   }
-  if (low) {
-    if (highSurrogate_ == 0) return true;
-    character = 0x10000 + ((highSurrogate_ & 0x3FF) << 10) + (character & 0x3FF);
-    highSurrogate_ = 0;
-  }
+  if (low && highSurrogate_ == 0) return true;
+  const int character =
+      low ? CharacterOf(std::exchange(highSurrogate_, L'\0'), static_cast<wchar_t>(unit)) : static_cast<int>(unit);
   auto& box = static_cast<TextBox&>(*active);
-  const HWND edit = WindowOf(box);
-  const WinEntry entry(*form_);
-  StoreCaret(box, edit);
   KeyEvent press{character, ShiftNow()};
-  const bool types = Input::KeyPress(box, press);
-  if (form_ == nullptr || ControlOf(edit) != &box) {
-    Settle(nullptr);
-    return true;
-  }
-  SyncControl(box);
+  if (!Hand().BoxKeyPress(*this, box, press)) return true;
   typingNow_ = true;
-  if (types) TypeCharacter(edit, press.Code);
+  if (press.Code != 0) TypeCharacter(WindowOf(box), press.Code);
   typingNow_ = false;
-  TakeText(box, edit);
-  return true;
-}
-
-// What a key left in the native box.
-void WinForm::TakeText(TextBox& box, HWND edit) {
-  const std::wstring text = TextOf(edit);
-  if (Utf8(text) != box.Text())
-    Input::TextEdited(box, Utf8(text), CharactersBefore(text, CaretOf(edit)));
-  else
-    StoreCaret(box, edit);
-  Settle(form_ != nullptr ? ControlOf(edit) : nullptr);
-}
-
-void WinForm::KeyUp(int code) {
-  if (typing_ != code || form_ == nullptr) return;
-  typing_ = 0;
-  const WinEntry entry(*form_);
-  Control* const active = form_->ActiveControl;
-  if (active == nullptr || active->Type != Kind::TextBox) return;
-  Input::KeyUp(static_cast<TextBox&>(*active), {code, ShiftNow()});
-  Settle(nullptr);
-}
-
-bool WinForm::Mnemonic(WPARAM character) {
-  const WinEntry entry(*form_);
-  if (!Input::Mnemonic(*form_, static_cast<int>(character))) return false;
-  Settle(nullptr);
+  Hand().BoxChanged(*this, box);
   return true;
 }
 

@@ -3,7 +3,6 @@
 #include "runtime/windows/OwnModule.h"
 #include "view/Reach.h"
 #include "view/win32/WinForm.h"
-#include "view/win32/WinLifetime.h"
 
 namespace Tarnwise {
 

@@ -2,7 +2,7 @@
 // leaves that to us. Programmatic changes raise nothing.
 #pragma once
 
-#include "view/Controls.h"
+#include "view/Mirror.h"
 
 #include "view/win32/WinApi.h"
 
@@ -24,8 +24,7 @@ struct WinKind {
 // Null for kinds without a window of their own: timers, lines, and shapes that only stand there.
 const WinKind* KindOf(const Control& control);
 
-bool IsPainted(const Control& control);  // drawn by its container
-bool IsBox(const Control& control);      // a window of our own class, drawn by PaintBoxWindow
+bool IsBox(const Control& control);  // a window of our own class, drawn by PaintBoxWindow
 bool IsContainer(const Control& control);
 
 extern const WinKind kWinLabel;
@@ -52,9 +51,8 @@ void UseBaseFont(const WinForm& form, HWND window);
 int ChosenRow(const Control& control, HWND window);
 int RowAt(const Control& control, HWND window, POINT at);  // of a list box or a tab strip; -1 where there is none
 
-// Text boxes: keeps the tree's SelStart and SelLength equal to what the person sees.
-void StoreCaret(TextBox& box, HWND edit);
-int CaretOf(HWND edit);  // in UTF-16 units
+// Text boxes.
+Entered EnteredInto(HWND edit);
 void TypeCharacter(HWND edit, int character);
 LRESULT NarrowEdit(HWND edit, WPARAM wParam, LPARAM lParam);       // WM_NCCALCSIZE
 LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam);  // WM_NCPAINT
@@ -71,12 +69,7 @@ void SpreadColumns(const Grid& grid, HWND list, double scale);
 
 // --- what boxes and containers paint ---
 
-constexpr int kGrabMargin = 5;  // pixels around a small handle that can be pressed too
-
 constexpr int kBorderId = 1;  // the child window that is a bordered box's frame
-
-bool IsHandle(const Control& control);                    // a small drag source: drawn as a handle
-RECT PaintedPlace(const Control& control, double scale);  // of a line or a shape in its container
 
 // The area (pixels of the container) of what the container itself shows: ground, picture, drawing, lines and shapes.
 void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area);

@@ -125,8 +125,7 @@ HWND MakeComboBox(WinForm& form, Control& /*control*/, HWND parent) {
 
 // The closed part is as high as the record says.
 void SetClosedHeight(HWND combo, const Control& control, double scale) {
-  const RECT place = PixelPlace(control, scale);
-  const int height = std::max(HeightOf(place) - Scaled(6, scale), 8);
+  const int height = std::max(PixelPlace(control, scale).Height() - Scaled(6, scale), 8);
   if (Tell(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)) != height) {
     Tell(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
   }

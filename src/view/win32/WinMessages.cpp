@@ -42,7 +42,7 @@ void WinToolkit::MessageBox(Form* over, const String& text, int style, const Str
   const WinForm* const shown = over != nullptr ? FormOf(*over) : nullptr;
   const std::shared_ptr<Form> held = over != nullptr ? over->shared_from_this() : nullptr;
   const HWND owner = shown != nullptr && over->Visible ? shown->Window() : GetActiveWindow();
-  if (!AutoAnswer) drag_.Cancel();  // the release goes to the box
+  if (!AutoAnswer && over != nullptr) over->Screen().Hand.CancelDrag();  // the release goes to the box
   if (GetCapture() != nullptr) ReleaseCapture();
   const Answers answers(AutoAnswer);
   const OwnLook look;

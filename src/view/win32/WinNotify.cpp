@@ -1,53 +1,15 @@
 // What native controls tell the window around them: presses, choices, scrolling, and wishes to be painted.
-#include "view/Dispatch.h"
-#include "view/Input.h"
-#include "view/Reach.h"
+#include "view/Gesture.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
-#include "view/win32/WinLifetime.h"
-#include "view/win32/WinToolkit.h"
 
 namespace Tarnwise {
 
-// A native control says that it was pressed: by the mouse, whose press the tree knows, or without it, by a screen
-// reader.
-bool WinForm::Pressed(Control& control) {
-  if (press_.On != &control || press_.Refused) return Refusal(control).empty() && Input::Press(control);
-  press_ = {};
-  return true;
-}
-
-void WinForm::Clicked(Control& control) {
-  const WinEntry entry(*form_);
-  if (Pressed(control)) Input::Activate(control);
-  Settle(nullptr);
-}
-
-void WinForm::RowChosen(Control& control) {
-  const HWND window = WindowOf(control);
-  if (window == nullptr) return;
-  const WinEntry entry(*form_);
-  if (Refusal(control).empty()) Input::SelectRow(control, ChosenRow(control, window));
-  Settle(ControlOf(window));
-}
-
-void WinForm::Scrolled(Control& control, HWND bar, int code) {
-  const WinEntry entry(*form_);
-  auto& record = static_cast<VScrollBar&>(control);
-  if (code == SB_ENDSCROLL) {
-    Settle(&control);
-    return;
-  }
-  const bool dragging = code == SB_THUMBTRACK;
-  const bool dragged = code == SB_THUMBPOSITION;
-  const int value = ScrolledValue(record, bar, code);
-  // What was dragged has told each step by Scroll; its end is a change, too.
-  if (dragged && value == record.Value && record.Change) {
-    Dispatch(record, "Change", [&record] { record.Change(); });
-  } else {
-    Input::ScrollTo(record, value, dragging);
-  }
-  Settle(dragging ? nullptr : ControlOf(bar));
+void WinForm::Scrolled(VScrollBar& record, HWND bar, int code) {
+  if (code == SB_ENDSCROLL)
+    Settle(&record);
+  else
+    Hand().Scrolled(*this, record, ScrolledValue(record, bar, code), code == SB_THUMBTRACK);
 }
 
 // Messages that children send to what contains them.
@@ -57,8 +19,7 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     case WM_VSCROLL: {
       Control* const bar = ControlOf(reinterpret_cast<HWND>(lParam));
       if (bar == nullptr || bar->Type != Kind::VScrollBar) return std::nullopt;
-      const auto held = shared_from_this();
-      Scrolled(*bar, reinterpret_cast<HWND>(lParam), LOWORD(wParam));
+      Scrolled(static_cast<VScrollBar&>(*bar), reinterpret_cast<HWND>(lParam), LOWORD(wParam));
       return 0;
     }
     case WM_NOTIFY: {
@@ -66,8 +27,7 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       Control* const from = ControlOf(notice.hwndFrom);
       if (from == nullptr || notice.hwndFrom != WindowOf(*from)) return std::nullopt;
       if (from->Type == Kind::TabStrip && notice.code == TCN_SELCHANGE) {
-        const auto held = shared_from_this();
-        RowChosen(*from);
+        Hand().RowChosen(*this, *from, ChosenRow(*from, notice.hwndFrom));
         return 0;
       }
       if (from->Type == Kind::Grid) return AnswerGrid(*this, notice);
@@ -101,16 +61,16 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
 std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
   Control* const control = ControlOf(from);
   if (control == nullptr) return std::nullopt;
-  const auto held = shared_from_this();
   const int code = HIWORD(wParam);
   switch (control->Type) {
     case Kind::CommandButton:
     case Kind::OptionButton:
     case Kind::CheckBox:
-      if (code == BN_CLICKED && !focusing_) Clicked(*control);  // an option button tells its focus so, too
+      if (code == BN_CLICKED && !focusing_)
+        Hand().Clicked(*this, *control);  // an option button tells its focus so, too
       return 0;
     case Kind::ListBox:
-      if (code == LBN_SELCHANGE) RowChosen(*control);
+      if (code == LBN_SELCHANGE) Hand().RowChosen(*this, *control, ChosenRow(*control, from));
       return 0;
     case Kind::ComboBox:
     case Kind::ImageCombo:
@@ -121,16 +81,9 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
       // A text that came by none of its keys is put back: the box shows what the tree has.
       if (code == EN_CHANGE && !typingNow_) SyncControl(*control);
       return 0;
-    case Kind::Toolbar: {
-      const auto& bar = static_cast<Toolbar&>(*control);
-      const std::size_t button = LOWORD(wParam);
-      if (button == 0 || button > bar.Buttons.size() || !bar.Buttons[button - 1].Enabled) return 0;
-      const WinEntry entry(*form_);
-      if (Pressed(*control))
-        Input::PressToolButton(static_cast<Toolbar&>(*control), String(bar.Buttons[button - 1].Key));
-      Settle(nullptr);
+    case Kind::Toolbar:
+      if (LOWORD(wParam) != 0) Hand().ToolPressed(*this, static_cast<Toolbar&>(*control), LOWORD(wParam) - 1U);
       return 0;
-    }
     default: return std::nullopt;
   }
 }

@@ -1,8 +1,8 @@
 #include "view/win32/WinPaint.h"
 
 #include "runtime/PerThread.h"
+#include "view/Gesture.h"
 #include "view/Pictures.h"
-#include "view/Reach.h"
 
 #include <uxtheme.h>
 
@@ -76,20 +76,6 @@ void DrawShape(HDC dc, const PictureShape& shape, Colour ground, double scale, d
 
 }  // namespace
 
-double PixelsPerUnit(const Control& container, double scale) {
-  return UnitOf(container) / static_cast<double>(kTwipsPerPixel) * scale;
-}
-
-RECT PixelPlace(const Control& control, double scale) {
-  const double unit = control.Parent == nullptr ? scale / 15.0 : PixelsPerUnit(*control.Parent, scale);
-  const auto edge = [unit](Single at) { return static_cast<LONG>(std::lround(static_cast<double>(at) * unit)); };
-  return {edge(control.Left), edge(control.Top), edge(control.Left + control.Width),
-          edge(control.Top + control.Height)};
-}
-
-int Scaled(int pixels, double scale) { return static_cast<int>(std::lround(pixels * scale)); }
-
-// A form's own ground is the dialog's, whatever a theme makes of buttons.
 Palette SystemColours() {
   return Readable({GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT), GetSysColor(COLOR_WINDOW),
                    GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_BTNFACE), GetSysColor(COLOR_BTNTEXT),
@@ -259,6 +245,8 @@ HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity) 
 HCURSOR CursorFor(int mousePointer) {
   LPCWSTR name = IDC_ARROW;
   switch (mousePointer) {
+    case kGrabPointer:
+    case kCarryPointer: name = IDC_HAND; break;
     case 2: name = IDC_CROSS; break;
     case 3: name = IDC_IBEAM; break;
     case 5:

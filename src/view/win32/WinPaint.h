@@ -3,6 +3,7 @@
 #pragma once
 
 #include "view/Look.h"
+#include "view/Pixels.h"
 
 #include "view/win32/WinApi.h"
 
@@ -34,10 +35,7 @@ class Selected {
   HGDIOBJ former_;
 };
 
-double PixelsPerUnit(const Control& container, double scale);
-RECT PixelPlace(const Control& control, double scale);  // in its container, edges on whole pixels
-int Scaled(int pixels, double scale);
-
+inline RECT ToRect(const PixelRect& place) { return {place.Left, place.Top, place.Right, place.Bottom}; }
 inline int WidthOf(const RECT& r) { return r.right - r.left; }
 inline int HeightOf(const RECT& r) { return r.bottom - r.top; }
 

@@ -112,16 +112,13 @@ LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam) {
   return answer;
 }
 
-void StoreCaret(TextBox& box, HWND edit) {
-  // A text on its way into the tree is told by TextEdited, caret and all.
+Entered EnteredInto(HWND edit) {
   const std::wstring text = TextOf(edit);
-  if (Utf8(text) != box.Text()) return;
   const Selection selection = SelectionOf(edit);
-  box.SelStart = CharactersBefore(text, selection.From);
-  box.SelLength = CharactersBefore(text, selection.To) - box.SelStart;
+  const int start = CharactersBefore(text, selection.From);
+  const int end = CharactersBefore(text, selection.To);
+  return {Utf8(text), start, end - start, end};
 }
-
-int CaretOf(HWND edit) { return SelectionOf(edit).To; }
 
 void TypeCharacter(HWND edit, int character) {
   if (character == kCtrlA) {

@@ -67,11 +67,11 @@ void AddButtons(const Toolbar& bar, HWND window) {
 
 void SyncToolbar(WinForm& form, Control& control, HWND window) {
   const auto& bar = static_cast<const Toolbar&>(control);
-  const RECT place = PixelPlace(control, form.Scale());
-  const bool upright = HeightOf(place) > WidthOf(place);
+  const PixelRect place = PixelPlace(control, form.Scale());
+  const bool upright = place.Height() > place.Width();
   const int count = std::max(static_cast<int>(bar.Buttons.size()), 1);
   const int side =
-      std::min(upright ? WidthOf(place) : HeightOf(place), (upright ? HeightOf(place) : WidthOf(place)) / count);
+      std::min(upright ? place.Width() : place.Height(), (upright ? place.Height() : place.Width()) / count);
   const bool fresh = Tell(window, TB_BUTTONCOUNT) == 0;
   const auto ground = reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(GroundOf(control, form.Colours()) + 1));
   if (fresh || LOWORD(Tell(window, TB_GETBUTTONSIZE)) != side || GetPropW(window, kGround) != ground) {

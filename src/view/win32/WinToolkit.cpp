@@ -1,5 +1,6 @@
 #include "view/win32/WinToolkit.h"
 
+#include "view/Lifetime.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinPaint.h"
@@ -95,12 +96,15 @@ void AdjustForDpi(RECT& client, DWORD style, DWORD exStyle, UINT dpi) {
   }
 }
 
-WinToolkit::WinToolkit() { UseCommonControls(); }
+WinToolkit::WinToolkit() {
+  BuryOnThisThread();
+  UseCommonControls();
+}
 
 WinToolkit::~WinToolkit() {
   for (auto& [form, window] : forms_) {
-    window->Release();
-    Bury(std::move(window));
+    window->Orphan();
+    Bury([kept = std::move(window)] { (void)kept; });
   }
   for (const auto& [side, icon] : icons_) DestroyIcon(icon);
 }
@@ -133,7 +137,6 @@ void WinToolkit::Hide(Form& form) {
   // A handler may run inside a message that another thread has sent: the loop has to look again.
   if (!modal_.empty()) PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
   if (WinForm* const shown = FormOf(form)) ShowWindow(shown->Window(), SW_HIDE);
-  drag_.Cancel();
 }
 
 void WinToolkit::Release(Form& form) {
@@ -141,13 +144,11 @@ void WinToolkit::Release(Form& form) {
   if (found == forms_.end()) return;
   const std::shared_ptr<WinForm> window = std::move(found->second);
   forms_.erase(found);
-  drag_.Forget(*window);
   window->Release();
-  Bury(window);
+  Bury([window] { (void)window; });
 }
 
 void WinToolkit::ControlUnloaded(Control& control) {
-  drag_.Forget(control);
   if (WinForm* const shown = FormOf(control.Owner)) shown->Forget(control);
 }
 

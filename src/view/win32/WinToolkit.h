@@ -2,7 +2,7 @@
 #pragma once
 
 #include "view/Platform.h"
-#include "view/win32/WinDrag.h"
+#include "view/win32/WinCarried.h"
 
 #include "view/win32/WinApi.h"
 
@@ -25,10 +25,7 @@ class WinToolkit : public Toolkit {
   WinToolkit();
   ~WinToolkit() override;
 
-  // For a script player: it pushes what comes instead of a person.
-  std::function<bool()> Pump;  // the next thing while a modal form is up, false when nothing comes
-  bool RealTimers = true;      // false: a form's timers wait for the script
-  bool AutoAnswer = false;     // message boxes are answered as soon as they are up, help is not opened
+  bool AutoAnswer = false;  // for a script player: boxes are answered as soon as they are up, help is not opened
 
   void Show(Form& form, Showing how) override;
   void Hide(Form& form) override;
@@ -48,7 +45,7 @@ class WinToolkit : public Toolkit {
   Single ScreenHeight() override;
 
   WinForm* FormOf(const Form& form) const;  // null while it has no window
-  WinDrag& Drag() { return drag_; }
+  WinCarried& Seen() { return seen_; }
   int Pointer() const { return pointer_; }
   HICON WindowIcon(int side);
   static void TakeMessages();  // what is waiting, without waiting for more
@@ -57,7 +54,7 @@ class WinToolkit : public Toolkit {
   std::map<const Form*, std::shared_ptr<WinForm>> forms_;
   std::map<int, HICON> icons_;
   std::vector<OthersDisabled*> modal_;  // of the modal calls that run, the innermost last
-  WinDrag drag_;
+  WinCarried seen_;
   int pointer_ = 0;
 };
 

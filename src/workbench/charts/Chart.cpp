@@ -41,7 +41,7 @@ ChartInk InkFor(const QPalette& palette) {
           dark ? QColor(0xf0, 0xb0, 0x40) : QColor(0xc8, 0x70, 0x00),
           dark ? QColor(0xff, 0x8a, 0x70) : QColor(0xb8, 0x30, 0x10),
           text,
-          Mixed(paper, text, 0.5),
+          Mixed(paper, text, 0.6),
           paper,
           Mixed(paper, text, 0.05)};
 }

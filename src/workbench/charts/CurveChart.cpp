@@ -64,6 +64,7 @@ CurveChart::CurveChart(QWidget* parent) : Chart(parent) {
   units_->setLineStyle(QCPGraph::lsNone);
   points_->setLineStyle(QCPGraph::lsNone);
   chosen_->setLineStyle(QCPGraph::lsNone);
+  units_->setAdaptiveSampling(false);
   curve_->setName(tr("curve"));
   chord_->setName(tr("its chord"));
   units_->setName(tr("units"));
@@ -71,7 +72,7 @@ CurveChart::CurveChart(QWidget* parent) : Chart(parent) {
   points_->setName(tr("points"));
   chosen_->removeFromLegend();
   legend->setVisible(true);
-  axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignRight | Qt::AlignBottom);
+  axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignLeft | Qt::AlignTop);
   setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
   yAxis->setLabel(tr("value"));
 }

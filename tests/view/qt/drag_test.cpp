@@ -161,11 +161,11 @@ TEST_F(QtDragging, ASourceThatGoesEndsTheDrag) {
   platform->SyncAll();
   QWidget* const widget = WidgetOf(extra[0]);
   QTest::mousePress(widget, Qt::LeftButton);
-  toolkit->Drag().Begin();
+  platform->Hand.BeginDrag();
   EXPECT_TRUE(platform->Drag.Active());
   extra.Unload(0);
   EXPECT_FALSE(platform->Drag.Active());
-  EXPECT_FALSE(toolkit->Drag().ByMouse());
+  EXPECT_FALSE(platform->Hand.DragsByMouse());
 }
 
 TEST_F(QtDragging, AHandleCanBePressedBesideItself) {

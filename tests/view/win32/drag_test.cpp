@@ -258,7 +258,7 @@ TEST_F(WinDragging, ASourceThatGoesEndsTheDrag) {
   EXPECT_TRUE(platform->Drag.Active());
   extra.Unload(0);
   EXPECT_FALSE(platform->Drag.Active());
-  EXPECT_FALSE(toolkit->Drag().ByMouse());
+  EXPECT_FALSE(platform->Hand.DragsByMouse());
   EXPECT_EQ(Ghost(), nullptr);
   MoveTo(3315, 525);
   LetGo(3315, 525);

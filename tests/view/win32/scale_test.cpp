@@ -21,7 +21,7 @@ class WinScale : public WinFormTest {
       RECT place{};
       GetWindowRect(window, &place);
       MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&place), 2);
-      const RECT wanted = PixelPlace(*control, Scale());
+      const RECT wanted = ToRect(PixelPlace(*control, Scale()));
       EXPECT_EQ(place.left, wanted.left) << control->FullName();
       EXPECT_EQ(place.top, wanted.top) << control->FullName();
       EXPECT_EQ(place.right, wanted.right) << control->FullName();
@@ -49,8 +49,8 @@ TEST_F(WinScale, AScreenOfTwiceTheResolutionHasEverythingTwiceAsLarge) {
   ExpectPlaces();
   RECT client{};
   GetClientRect(Window(), &client);
-  EXPECT_EQ(client.right, WidthOf(PixelPlace(*form, 2.0)));
-  EXPECT_EQ(client.bottom, HeightOf(PixelPlace(*form, 2.0)));
+  EXPECT_EQ(client.right, PixelPlace(*form, 2.0).Width());
+  EXPECT_EQ(client.bottom, PixelPlace(*form, 2.0).Height());
   ChangeDpi(96);
   EXPECT_EQ(Scale(), 1.0);
   ExpectPlaces();

@@ -139,7 +139,7 @@ Drawing RatiosChart(const String& reference, const std::vector<ChartedRatio>& ra
   return drawing;
 }
 
-Drawing CurveChart(const String& name, const Dea::Scale& scale, const std::vector<double>& scores) {
+Drawing ValueCurveChart(const String& name, const Dea::Scale& scale, const std::vector<double>& scores) {
   constexpr double kLeft = 40.0;
   constexpr double kRight = 275.0;
   constexpr double kTop = 12.0;

@@ -1,6 +1,6 @@
 #include "workbench/ResultsModel.h"
 
-#include "project/ResultsTable.h"
+#include "project/ResultsWords.h"
 #include "project/Shown.h"
 #include "workbench/Texts.h"
 

@@ -3,6 +3,8 @@
 #include "dea/Equivalences.h"
 #include "dea/Forms.h"
 
+#include <algorithm>
+
 namespace Tarnwise::Dea {
 
 namespace {
@@ -30,6 +32,18 @@ Results Evaluate(const Problem& problem, const Watch& watch) {
   }
   watch.Report(1.0);
   return results;
+}
+
+std::vector<int> DominatorsOf(const Problem& problem, int unit) {
+  if (!problem.Session) return {};
+  const Checked checked = Check(problem);
+  const auto own = std::find(checked.Units.begin(), checked.Units.end(), unit);
+  if (own == checked.Units.end()) return {};
+  const int place = static_cast<int>(own - checked.Units.begin());
+  std::vector<int> places = problem.Options.Form == Form::Ratio ? RatioDominators(problem, checked, place)
+                                                                : ValueDominators(problem, checked, place);
+  for (int& k : places) k = checked.Units[At(k)];
+  return places;
 }
 
 }  // namespace Tarnwise::Dea

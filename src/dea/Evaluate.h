@@ -10,4 +10,8 @@ namespace Tarnwise::Dea {
 // SolverFault when no answer of the solver stands the check. On the caller's thread, whichever that is.
 Results Evaluate(const Problem& problem, const Watch& watch = {});
 
+// The units that are better than this one at all weights the judgments allow, by their indices into Problem::Units.
+// None without a session, for a unit that is left out, and in the ratio form with other than constant returns.
+std::vector<int> DominatorsOf(const Problem& problem, int unit);
+
 }  // namespace Tarnwise::Dea

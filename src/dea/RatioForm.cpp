@@ -261,6 +261,14 @@ void TakeJudged(Evaluation& evaluation, const Watch& watch) {
 
 }  // namespace
 
+std::vector<int> RatioDominators(const Problem& problem, const Checked& checked, int unit) {
+  if (problem.Options.Returns != Returns::Constant) return {};
+  const Attributes made = AttributesOf(problem, checked);
+  const RatioRegion region = RegionOf(checked, made, BoundsOf(problem, checked, made), -1);
+  return WinnersOver(unit, made.Data.Units,
+                     [&](int winner, int loser) { return DominatesSurely(made.Data, region, winner, loser); });
+}
+
 void EvaluateRatios(const Problem& problem, const Checked& checked, const Watch& watch, Results& results) {
   Evaluation evaluation{problem, checked, AttributesOf(problem, checked), {}, {}, results};
   evaluation.Technology = {problem.Options.Returns, problem.Options.Orientation};

@@ -128,6 +128,12 @@ Double ShareDone(std::size_t done, std::size_t all) { return static_cast<Double>
 
 }  // namespace
 
+std::vector<int> ValueDominators(const Problem& problem, const Checked& checked, int unit) {
+  const ValueData data = GoodnessOf(problem, checked);
+  const ValueScorer scorer(data, RegionOf(problem, checked));
+  return WinnersOver(unit, data.Units, [&](int winner, int loser) { return scorer.DominatesSurely(winner, loser); });
+}
+
 void EvaluateValues(const Problem& problem, const Checked& checked, const Watch& watch, Results& results) {
   const ValueData data = GoodnessOf(problem, checked);
   ValueScorer scorer(data, RegionOf(problem, checked));

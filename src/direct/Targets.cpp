@@ -87,7 +87,7 @@ void frmDirectB::ShowPair() {
 
 void frmDirectB::ShowOrderPanel() {
   tsTab.SelectedItem = 1;
-  Order.BringToFront(data_.IsBenefit(mTargetAtt));
+  Importance.BringToFront(data_.IsBenefit(mTargetAtt));
 }
 
 void frmDirectB::tsTab_Click() {

@@ -60,7 +60,7 @@ void frmDirectB::Load() {
   Pages.NameJudgments();
   mHandlePos.Allocate(data_.NumAtts());
   mResultsStage = 0;
-  Order.Build(data_);
+  Importance.Build(data_);
   picPanel[0].ZOrder();
   FillTargetList();
   const bool stored = data_.HasStoredJudgments();

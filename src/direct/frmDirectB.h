@@ -34,7 +34,7 @@ struct frmDirectB : DirectBForm {
 
   RegionChart Region{Chart};
   EntryBoxes Boxes{txtWRLower, txtWRUpper, cmdReStart};
-  ImportanceOrder Order{BOrder, COrder};
+  ImportanceOrder Importance{BOrder, COrder};
   ResultsPage Pages;
 
  private:

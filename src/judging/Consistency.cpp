@@ -26,10 +26,16 @@ Limits LimitsOf(const WizardData& data, int target) {
   const int better = NearestJudged(data, target, own - 1, std::min(0, own - 1), -1);
   if (better >= 0) {
     const Double found = ToDouble(data.WeightsL[better]);
-    if (found != 0.0) limits.Upper = found;
+    if (found != 0.0) {
+      limits.Upper = found;
+      limits.UpperOf = better;
+    }
   }
   const int worse = NearestJudged(data, target, own + 1, last + 1, 1);
-  if (worse >= 0) limits.Lower = ToDouble(data.WeightsH[worse]);
+  if (worse >= 0) {
+    limits.Lower = ToDouble(data.WeightsH[worse]);
+    limits.LowerOf = worse;
+  }
   return limits;
 }
 

@@ -12,6 +12,9 @@ enum JudgmentState : Integer { kNoneDecided = 0, kInvalid = 1, kConsistent = 2, 
 struct Limits {
   Double Lower = 0.0;    // upper bound of the nearest judged less important attribute
   Double Upper = 100.0;  // lower bound of the nearest judged more important one; a bound of 0 counts as 100
+  // The attributes that these are the bounds of; -1 where there is none.
+  int LowerOf = -1;
+  int UpperOf = -1;
 };
 
 Limits LimitsOf(const WizardData& data, int target);

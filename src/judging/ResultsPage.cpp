@@ -5,7 +5,7 @@
 namespace Tarnwise {
 
 ResultsPage::ResultsPage(WizardForm& step, ControlArray<PictureBox>& pages, ResultsControls& controls,
-                         JudgmentWords words)
+                         const JudgmentWords& words)
     : step_(step), pages_(pages), controls_(controls), words_(words) {}
 
 void ResultsPage::NameJudgments() {

@@ -15,7 +15,7 @@ struct JudgmentWords {
 
 struct ResultsPage {
   // Pages: 0 the judgments, 1 the results. All of it outlives this.
-  ResultsPage(WizardForm& step, ControlArray<PictureBox>& pages, ResultsControls& controls, JudgmentWords words);
+  ResultsPage(WizardForm& step, ControlArray<PictureBox>& pages, ResultsControls& controls, const JudgmentWords& words);
 
   void NameJudgments();               // titles alone, as the step opens
   void Show(const WizardData& data);  // Next: the grids are filled, then their page comes to the front

@@ -1,12 +1,16 @@
+#include "curves/Akima.h"
 #include "modelfiles/ModelJson.h"
 #include "modelfiles/ModelWriter.h"
 #include "runtime/Text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Tarnwise {
 
 namespace {
+
+constexpr Double kRounding = 1e-9;  // of values
 
 using Warnings = std::vector<String>;
 
@@ -47,6 +51,41 @@ bool CurveNumbers(const AttValueData& values, int i, int count, std::vector<Doub
   return true;
 }
 
+// How far a cubic, d from 0 to the width, falls at most.
+Double FallOf(const Coefs& cubic, Double width) {
+  std::vector<Double> turns{0.0, width};
+  const Double a = 3.0 * cubic[3];
+  const Double b = cubic[2];
+  const Double root = std::sqrt(b * b - a * cubic[1]);
+  const Double q = -(b + std::copysign(root, b));
+  for (const Double d : {q / a, cubic[1] / q}) {
+    if (d > 0.0 && d < width) turns.push_back(d);  // not where there is none
+  }
+  std::sort(turns.begin(), turns.end());
+  Double fall = 0.0;
+  for (std::size_t k = 1; k < turns.size(); ++k) {
+    fall = std::fmax(fall, EvaluateCubic(cubic, turns[k - 1]) - EvaluateCubic(cubic, turns[k]));
+  }
+  return fall;
+}
+
+// Points that rise may have a curve between them that swings.
+void LookBetweenPoints(const std::vector<Double>& xs, const std::vector<Double>& ys, const String& whose,
+                       Warnings& warnings) {
+  Curve curve;
+  curve.N = static_cast<int>(xs.size());
+  std::copy(xs.begin(), xs.end(), curve.X.begin());
+  std::copy(ys.begin(), ys.end(), curve.Y.begin());
+  for (int k = 0; k + 1 < curve.N; ++k) {
+    const auto at = static_cast<std::size_t>(k);
+    const Double fall = FallOf(AkimaInterpolate(curve, k, xs[at]), xs[at + 1] - xs[at]);
+    if (!(fall > kRounding)) continue;
+    warnings.push_back("curve of " + whose + " falls between its points at " + NumberText(xs[at]) + " and " +
+                       NumberText(xs[at + 1]) + ", by " + NumberText(std::round(fall * 1e6) / 1e6) +
+                       ": another point there, or less of a bend, helps");
+  }
+}
+
 void LookAtCurve(const WizardData& data, int i, const String& whose, Warnings& warnings) {
   const int count = data.AttValueData.ValuePointCount[i];
   if (count < 1 || count > kMaxCurvePoints) {
@@ -59,14 +98,21 @@ void LookAtCurve(const WizardData& data, int i, const String& whose, Warnings& w
     warnings.push_back("curve of " + whose + " has a point that is not a number");
     return;
   }
-  if (std::adjacent_find(xs.begin(), xs.end(), [](Double a, Double b) { return !(a < b); }) != xs.end()) {
-    warnings.push_back("curve of " + whose + ": its scores do not ascend");
-  }
-  if (!std::is_sorted(ys.begin(), ys.end())) {
+  const bool ascends =
+      std::adjacent_find(xs.begin(), xs.end(), [](Double a, Double b) { return !(a < b); }) == xs.end();
+  const bool falls = !std::is_sorted(ys.begin(), ys.end());
+  if (!ascends) warnings.push_back("curve of " + whose + ": its scores do not ascend");
+  if (falls) {
     warnings.push_back("curve of " + whose + " falls: the curve of a cost too rises, it says how much cost there is");
   }
   if (std::any_of(ys.begin(), ys.end(), [](Double y) { return !(y >= 0.0 && y <= 1.0); })) {
     warnings.push_back("curve of " + whose + " has a value outside 0 to 1");
+  }
+  if (!ascends || falls) return;
+  try {
+    LookBetweenPoints(xs, ys, whose, warnings);
+  } catch (const RuntimeError&) {
+    warnings.push_back("curve of " + whose + " can't be interpolated");
   }
 }
 

@@ -16,8 +16,12 @@ void Tell(QtMsgType type, const QMessageLogContext& context, const QString& text
 
 }  // namespace
 
-std::unique_ptr<QApplication> StartQt(int& argc, char** argv) {
+void LeaveChatterOut() {
   if (former == nullptr) former = qInstallMessageHandler(Tell);
+}
+
+std::unique_ptr<QApplication> StartQt(int& argc, char** argv) {
+  LeaveChatterOut();
   return std::make_unique<QApplication>(argc, argv);
 }
 

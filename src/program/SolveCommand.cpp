@@ -3,7 +3,7 @@
 #include "dea/Watch.h"
 #include "modelfiles/WholeFile.h"
 #include "program/OutputFile.h"
-#include "program/ProgressBar.h"
+#include "program/Watched.h"
 #include "project/ProjectFile.h"
 #include "project/ResultsTable.h"
 #include "project/ResultsText.h"
@@ -27,17 +27,8 @@ void CheckOutputs(const SolveOptions& options) {
 }
 
 Evaluation Solve(const Project& project, const SolveOptions& options, const Console& console) {
-  std::optional<ProgressBar> bar;
-  Dea::Watch watch;
-  watch.Cancel = console.Cancel;
-  if (console.ErrIsTerminal) {
-    bar.emplace(console.Err, ProgressBar::Clock::now());
-    watch.Progress = [&bar](double share) { bar->Show(share, ProgressBar::Clock::now()); };
-  }
   try {
-    Evaluation evaluation = Evaluate(project, AskedOf(project, WishesOf(options.Wishes)), watch);
-    watch.LookAtFlag();
-    return evaluation;
+    return EvaluateWatched(project, AskedOf(project, WishesOf(options.Wishes)), console);
   } catch (const ModelFault& fault) {
     throw ModelFault(options.Project + ": " + fault.what());
   }

@@ -2,12 +2,18 @@
 // projects, and works out their results.
 #include "dea/Watch.h"
 #include "program/Commands.h"
+#include "program/ExportCommand.h"
 #include "program/ImportCommand.h"
 #include "program/Interrupt.h"
+#include "program/JudgeCommand.h"
 #include "program/ModelCommands.h"
+#include "program/Pdf.h"
+#include "program/ReportCommand.h"
 #include "program/Screens.h"
 #include "program/SolveCommand.h"
 #include "program/SystemText.h"
+#include "program/Workbench.h"
+#include "project/Evaluation.h"
 
 #include <CLI/CLI.hpp>
 
@@ -18,6 +24,12 @@
 namespace {
 
 using namespace Tarnwise;
+
+// With the solver inside, the program as a whole is under the solver's licence.
+String VersionText() {
+  const String licence = CanSolve() ? "GNU General Public License, version 3 or later; its own sources: MIT" : "MIT";
+  return "tarnwise " TARNWISE_VERSION "\nLicence: " + licence;
+}
 
 bool WantsColours() {
   const char* const no = std::getenv("NO_COLOR");
@@ -39,7 +51,9 @@ int Compute(Command command) {
 int Main(int argc, char** argv) {
   CLI::App app("Tarnwise asks a decision maker for the weights of a data envelopment analysis.", "tarnwise");
   app.allow_windows_style_options(false);  // a path may begin with a slash
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
+  app.footer("Without a command it opens the analyst's window.");
+  app.set_version_flag("--version", VersionText(), "Print the version and the licence");
 
   RunOptions run;
   CLI::App* const runCommand = app.add_subcommand("run", "Show the wizard on a model; print the judgments as JSON");
@@ -61,8 +75,21 @@ int Main(int argc, char** argv) {
 
   ImportOptions import;
   const CLI::App* const importCommand = AddImportCommand(app, import);
+  JudgeOptions judge;
+  const CLI::App* const judgeCommand = AddJudgeCommand(app, judge, kToolkits);
   SolveOptions solve;
   const CLI::App* const solveCommand = AddSolveCommand(app, solve);
+  ReportOptions report;
+  const CLI::App* const reportCommand = AddReportCommand(app, report);
+  ExportOptions exported;
+  const CLI::App* const exportCommand = AddExportCommand(app, exported);
+
+  OpenOptions open;
+  CLI::App* const openCommand =
+      app.add_subcommand("open", "Open the analyst's window on a project, a table or a model");
+  openCommand->add_option("FILE", open.File, "Project (.tarnwise), table (.csv) or model (.kst, .json)");
+  openCommand->add_option("--pictures", open.Pictures, "Take a picture of each page into this folder, and end")
+      ->type_name("FOLDER");
 
   CLI::App* const model = app.add_subcommand("model", "Build and show model files");
   model->require_subcommand(1);
@@ -87,12 +114,20 @@ int Main(int argc, char** argv) {
   }
   if (playCommand->parsed()) return PlaySession(play, argc, argv);
   if (importCommand->parsed()) return ImportProject(import, TimeNow(), std::cout, std::cerr);
+  if (judgeCommand->parsed()) return RunJudging(judge, argc, argv);
   if (solveCommand->parsed()) {
     return Compute([&solve](const Console& console) { return SolveProject(solve, console); });
   }
+  if (reportCommand->parsed()) {
+    return Compute([&report](const Console& console) { return WriteReport(report, TimeNow(), PdfOf, console); });
+  }
+  if (exportCommand->parsed()) {
+    return Compute([&exported](const Console& console) { return ExportProject(exported, console); });
+  }
   if (build->parsed()) return BuildModel(from, to, codePage, std::cout, std::cerr);
   if (show->parsed()) return ShowModel(from, codePage, std::cout, std::cerr);
-  return RunWizard(run, argc, argv);
+  if (runCommand->parsed()) return RunWizard(run, argc, argv);
+  return OpenWorkbench(open, argc, argv);
 }
 
 }  // namespace

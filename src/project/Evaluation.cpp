@@ -23,35 +23,11 @@ Dea::Returns ReturnsOf(ScoreReturns returns) {
   return Dea::Returns::Constant;
 }
 
-Dea::Basis BasisOf(JudgmentBasis basis) {
-  switch (basis) {
-    case JudgmentBasis::Range: return Dea::Basis::Range;
-    case JudgmentBasis::Scale: return Dea::Basis::Scale;
-    case JudgmentBasis::Unit: return Dea::Basis::Unit;
-  }
-  return Dea::Basis::Range;
-}
-
-Dea::Scale ScaleFrom(const ColumnScale& from) {
-  Dea::Scale scale;
-  scale.Worst = from.Worst;
-  scale.Best = from.Best;
-  if (from.Curve.empty()) return scale;
-  Curve curve;
-  curve.N = static_cast<int>(from.Curve.size());
-  for (std::size_t k = 0; k < from.Curve.size(); ++k) {
-    curve.X[k] = from.Curve[k].Score;
-    curve.Y[k] = from.Curve[k].Value;
-  }
-  scale.ValueCurve = curve;
-  return scale;
-}
-
 Dea::Column ColumnOf(const DataColumn& from) {
   Dea::Column column;
   column.Name = from.Name;
   column.Use = from.Role == Role::Input ? Dea::Role::Input : Dea::Role::Output;
-  column.Range = ScaleFrom(ScaleOf(from, nullptr));
+  column.Range = ScaleForDea(ScaleOf(from, nullptr));
   column.Values.reserve(from.Values.size());
   for (const auto& value : from.Values) column.Values.push_back(value.value_or(std::nan("")));
   return column;
@@ -68,7 +44,7 @@ std::optional<int> PlaceOf(const Dea::Problem& problem, const String& name) {
 Dea::Session SessionFrom(const JudgmentSession& from, const Dea::Problem& problem, std::size_t place) {
   Dea::Session session;
   session.Name = "session " + std::to_string(place);
-  session.Basis = BasisOf(from.Basis);
+  session.Basis = BasisForDea(from.Basis);
   session.BenefitReference = PlaceOf(problem, from.BenefitReference);
   session.CostReference = PlaceOf(problem, from.CostReference);
   if (from.Cross && from.Cross->Judged) session.Cross = from.Cross->Ratio;
@@ -80,7 +56,7 @@ Dea::Session SessionFrom(const JudgmentSession& from, const Dea::Problem& proble
     judgment.Judged = attribute.Judged;
     judgment.Low = attribute.Low.value_or(0.0);
     judgment.High = attribute.High.value_or(0.0);
-    if (attribute.Snapshot) judgment.Snapshot = ScaleFrom(*attribute.Snapshot);
+    if (attribute.Snapshot) judgment.Snapshot = ScaleForDea(*attribute.Snapshot);
     session.Judgments.push_back(judgment);
   }
   return session;
@@ -98,6 +74,30 @@ Dea::Options OptionsOf(const Asked& asked) {
 }
 
 }  // namespace
+
+Dea::Basis BasisForDea(JudgmentBasis basis) {
+  switch (basis) {
+    case JudgmentBasis::Range: return Dea::Basis::Range;
+    case JudgmentBasis::Scale: return Dea::Basis::Scale;
+    case JudgmentBasis::Unit: return Dea::Basis::Unit;
+  }
+  return Dea::Basis::Range;
+}
+
+Dea::Scale ScaleForDea(const ColumnScale& from) {
+  Dea::Scale scale;
+  scale.Worst = from.Worst;
+  scale.Best = from.Best;
+  if (from.Curve.empty()) return scale;
+  Curve curve;
+  curve.N = static_cast<int>(from.Curve.size());
+  for (std::size_t k = 0; k < from.Curve.size(); ++k) {
+    curve.X[k] = from.Curve[k].Score;
+    curve.Y[k] = from.Curve[k].Value;
+  }
+  scale.ValueCurve = curve;
+  return scale;
+}
 
 Asked AskedOf(const Project& project, const Wishes& wishes) {
   const ProjectUse use = project.Use.value_or(ProjectUse());

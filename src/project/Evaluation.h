@@ -47,6 +47,10 @@ struct JudgedProblem {
 };
 JudgedProblem JudgedProblemOf(const Project& project, const Asked& asked);
 
+// Parts of it.
+Dea::Scale ScaleForDea(const ColumnScale& scale);
+Dea::Basis BasisForDea(JudgmentBasis basis);
+
 // The results' indices are those of the problem.
 struct Evaluation {
   Asked How;

@@ -16,6 +16,9 @@ Project ProjectFromText(const String& text);
 // the shortest decimals that do. A ModelFault where a number is none.
 String ProjectText(const Project& project);
 
+// One session as it stands in that text.
+String SessionJson(const JudgmentSession& session);
+
 // A file that is there as a whole, and its replacement as a whole or not at all. Faults begin with the path.
 Project ReadProject(const String& path);
 Project ReadProjectForResults(const String& path);  // passes CheckProject too

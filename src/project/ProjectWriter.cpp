@@ -119,6 +119,12 @@ void PutUse(String& out, const ProjectUse& use) {
 
 }  // namespace
 
+String SessionJson(const JudgmentSession& session) {
+  String out;
+  PutSession(out, session);
+  return out;
+}
+
 String ProjectText(const Project& project) {
   String out;
   JsonMembers members(out, kTopLines);

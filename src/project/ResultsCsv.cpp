@@ -56,7 +56,7 @@ void PutRanks(CsvRow& row, const std::optional<Dea::RankRange>& ranks) {
   row.Whole(ranks ? std::optional(ranks->Worst) : std::nullopt);
 }
 
-String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
+String AllBounds(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   String text;
   for (const Dea::HeldBackBy& bound : unit.HeldBackBy)
     text += (text.empty() ? "" : ", ") + BoundText(evaluation, bound);
@@ -80,7 +80,7 @@ void PutUnit(const Layout& layout, const Dea::UnitResult& unit, const String& le
     PutRanks(row, unit.RanksSeen);
   }
   if (!layout.IsValue) {
-    if (layout.IsJudged) row.Text(HeldBackText(layout.From, unit));
+    if (layout.IsJudged) row.Text(AllBounds(layout.From, unit));
     for (std::size_t j = 0; j < layout.From.Problem.Columns.size(); ++j) {
       row.Number(unit.Prices.empty() ? std::nullopt : std::optional(unit.Prices[j]));
     }

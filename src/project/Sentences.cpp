@@ -34,6 +34,28 @@ String RatioMeaning(double ratio, const String& swing, const String& ofSwing) {
   return number + " means: " + swing + " is worth " + number + " times " + ofSwing + ".";
 }
 
+String JudgedSwing(const Project& project, const JudgmentSession& session, const String& name) {
+  const DataColumn* const column = FindColumn(project, name);
+  if (session.Basis == JudgmentBasis::Unit || column == nullptr) return "1 " + NameAndMeasure(project, name);
+  if (session.Basis == JudgmentBasis::Scale) return ShownName(name) + " over its whole curve";
+  return SwingText(name, ScaleOf(*column, &session));
+}
+
+String CrossText(const Project& project, const Asked& asked) {
+  const JudgmentSession& session = project.Sessions[*asked.Session];
+  const auto& cross = session.Cross;
+  if (!cross || !cross->Judged || !cross->Ratio || session.CostReference.empty() || session.BenefitReference.empty()) {
+    return "Cross ratio not judged: inputs and outputs count in any relation.";
+  }
+  String ratio = ShortestText(*cross->Ratio);
+  if (asked.CrossBand > 1.0) {
+    ratio = SignificantText(*cross->Ratio / asked.CrossBand, kDigits) + " to " +
+            SignificantText(*cross->Ratio * asked.CrossBand, kDigits);
+  }
+  return "Cross ratio: " + JudgedSwing(project, session, session.CostReference) + " is worth " + ratio + " times " +
+         JudgedSwing(project, session, session.BenefitReference) + ".";
+}
+
 String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence) {
   const auto name = [&problem](int column) { return problem.Columns[static_cast<std::size_t>(column)].Name; };
   return "1 " + NameAndMeasure(project, name(equivalence.Column)) + " " +

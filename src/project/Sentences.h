@@ -11,6 +11,14 @@ String SwingText(const String& name, const ColumnScale& scale);
 // "1.5 means: Doctors from 60 to 15 is worth 1.5 times Nurses from 320 to 120."
 String RatioMeaning(double ratio, const String& swing, const String& ofSwing);
 
+// What the session's ratios compare: "Doctors from 60 to 15" on the range, "Doctors over its whole curve" on the scale,
+// "1 Doctors" per unit; with the scale that was judged on.
+String JudgedSwing(const Project& project, const JudgmentSession& session, const String& name);
+
+// What links the groups in the value form: "Cross ratio: Nurses from 320 to 120 is worth 1.15 times Outpatients from 90
+// to 270.", with the ends of its band where there is one, or that nothing does. `asked` names a session.
+String CrossText(const Project& project, const Asked& asked);
+
 // "1 Doctors = 14.583 .. 19.882 Nurses", with the units of measure where the project has them.
 String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence);
 

@@ -199,7 +199,10 @@ void Platform::SyncAll() {
     const std::vector<Label*> news = form->Visible ? TakeNews(*form) : std::vector<Label*>();
     for (Control* control : form->ChangedControls) control->Changed = false;
     form->ChangedControls.clear();
-    for (Label* label : news) toolkit_->AnnounceChange(*label);
+    for (Label* label : news) {
+      toolkit_->AnnounceChange(*label);
+      if (Trace.Announced) Trace.Announced(*label);
+    }
   }
 }
 

@@ -56,6 +56,7 @@ struct PlatformTrace {
   std::function<void(int pointer)> Pointer;
   std::function<void(const String& path, int command, int context)> Help;
   std::function<void(const Control&)> Focus;
+  std::function<void(const Label&)> Announced;  // a screen reader is told what it says now
   // Return true when the error has been told and no message box is wanted.
   std::function<bool(const RuntimeError&, const String& in)> Failed;
 };

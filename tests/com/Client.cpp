@@ -143,14 +143,14 @@ Client::Client(const WizardData& model) {
   Check(access->Access(&screen, &Data), "no access");
   *screen = Screen;
   *Data = WizardData();
-  WriteModel(Folder.Path("model.kst"), model);
+  WriteModel(Folder.File("model.kst"), model);
 }
 
 Client::~Client() = default;
 
 void Client::Load() {
   VARIANT folder = Of(L"C:/KESTA");
-  const Bstr path(ToBSTR(Folder.Path("model.kst")));
+  const Bstr path(ToBSTR(Folder.File("model.kst")));
   EXPECT_EQ(Object->GetCurFileData(&folder, 3, path.Get()), S_OK);
   VariantClear(&folder);
 }

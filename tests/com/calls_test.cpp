@@ -23,8 +23,8 @@ TEST(EarlyCalls, TheFileIsReadAndItsParametersKept) {
 
 TEST(EarlyCalls, APathMayHoldAnyCharacter) {
   Client client(ModelOf(2, 1));
-  const String path = client.Folder.Path("mod\u00E8le \u03A9 \u65E5.kst");
-  const Bstr from(ToBSTR(client.Folder.Path("model.kst")));
+  const String path = client.Folder.File("mod\u00E8le \u03A9 \u65E5.kst");
+  const Bstr from(ToBSTR(client.Folder.File("model.kst")));
   const Bstr to(ToBSTR(path));
   ASSERT_TRUE(CopyFileW(from.Get(), to.Get(), TRUE));
   VARIANT folder = {};
@@ -256,7 +256,7 @@ struct LateCalls : testing::Test {
   VARIANT Path() {
     VARIANT path = {};
     path.vt = VT_BSTR;
-    path.bstrVal = ToBSTR(client.Folder.Path("model.kst"));
+    path.bstrVal = ToBSTR(client.Folder.File("model.kst"));
     return path;
   }
 

@@ -19,8 +19,8 @@ cd "$2"
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
 classes() {  # the registry's classes as text, of the machine and of the user
-  timeout 60 wine reg export 'HKLM\Software\Classes' "$1.machine" /y >/dev/null
-  timeout 60 wine reg export 'HKCU\Software\Classes' "$1.user" /y >/dev/null
+  timeout 300 wine reg export 'HKLM\Software\Classes' "$1.machine" /y >/dev/null
+  timeout 300 wine reg export 'HKCU\Software\Classes' "$1.user" /y >/dev/null
   [ -s "$1.machine" ] && [ -s "$1.user" ] || fail "the registry could not be read"
 }
 
@@ -30,13 +30,13 @@ same() {  # same BEFORE AFTER machine|user
 
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES-};winedbg.exe=d"  # a crash ends the test at once
 
-test_with() { timeout 300 wine com_test.exe --gtest_brief=1 --gtest_filter="$1" || fail "com_test $1"; }
+test_with() { timeout 2700 wine com_test.exe --gtest_brief=1 --gtest_filter="$1" || fail "com_test $1"; }
 
-regsvr() { timeout 60 wine regsvr32 /s "$@" || fail "regsvr32 $*"; }
+regsvr() { timeout 300 wine regsvr32 /s "$@" || fail "regsvr32 $*"; }
 
 test_with '-Registered.*'
 
-timeout 60 wine reg add 'HKCU\Software\Classes\CLSID' /f >/dev/null
+timeout 300 wine reg add 'HKCU\Software\Classes\CLSID' /f >/dev/null
 classes before
 regsvr Tarnwise_DEA.dll
 classes machine
@@ -52,7 +52,7 @@ same before after user || fail "unregistering changed the user's part"
 regsvr /n /i:user Tarnwise_DEA.dll
 classes user
 same before user user && fail "registering for the user wrote nothing"
-if timeout 60 wine reg query 'HKCR\Tarnwise_DEA.TRN_DEA' >/dev/null 2>&1; then
+if timeout 300 wine reg query 'HKCR\Tarnwise_DEA.TRN_DEA' >/dev/null 2>&1; then
   test_with 'Registered.*'
 else
   echo "Note: this Windows looks for classes in the machine's part only, so the user's were not used."

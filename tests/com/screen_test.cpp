@@ -48,9 +48,9 @@ void CALLBACK RunInModalCall(HWND /*window*/, UINT /*message*/, UINT_PTR timer, 
 struct OnItsOwnScreen {
   OnItsOwnScreen() {
     EXPECT_EQ(Factory()->CreateInstance(nullptr, IID__TRN_DEA, reinterpret_cast<void**>(Object.Receive())), S_OK);
-    WriteModel(Folder.Path("model.kst"), ModelOf(2, 2));
+    WriteModel(Folder.File("model.kst"), ModelOf(2, 2));
     VARIANT folder = Of(L"C:/KESTA");
-    const Bstr path(ToBSTR(Folder.Path("model.kst")));
+    const Bstr path(ToBSTR(Folder.File("model.kst")));
     EXPECT_EQ(Object->GetCurFileData(&folder, 3, path.Get()), S_OK);
     VariantClear(&folder);
     EXPECT_EQ(Object->ShowTarnwise(), S_OK);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "curves/mdGraphs.h"
-#include "runtime/ErrorNumber.h"
+#include "support/ErrorNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -10,8 +10,8 @@
 //    6  "Rest "     benefit  3     shares its rank with Research
 #pragma once
 
-#include "direct/Ranked.h"
 #include "runtime/Text.h"
+#include "support/Ranked.h"
 
 namespace Tarnwise {
 

@@ -1,6 +1,6 @@
 #include "direct/RegionGeometry.h"
 
-#include "runtime/ErrorNumber.h"
+#include "support/ErrorNumber.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

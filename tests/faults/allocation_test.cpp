@@ -54,7 +54,7 @@ bool RefusingAt(long n, Action action) {
 
 TEST(NoMemory, WhileAModelIsReadReachesTheHostAndTheNextReadingIsWhole) {
   const TemporaryFolder folder;
-  const String path = folder.Path("model.kst");
+  const String path = folder.File("model.kst");
   WizardData model = ModelOf(3, 2);
   model.AttributeList.AttDescription[1] = String(500, 'd');
   WriteModel(path, model);

@@ -40,7 +40,7 @@ pid_t StartSaving(const String& path) {
 
 TEST(KilledWhileSaving, LeavesTheOldModelOrTheNewOneAndNoPart) {
   const TemporaryFolder folder;
-  const String path = folder.Path("model.kst");
+  const String path = folder.File("model.kst");
   WriteModel(path, ModelOf(2, 2));
   SaveOnes(path, 4.0);
   const std::vector<char> one = FileBytes(path);
@@ -75,7 +75,7 @@ TEST(KilledWhileSaving, LeavesTheOldModelOrTheNewOneAndNoPart) {
 
 TEST(FileThatVanished, IsNotMadeBySaving) {
   const TemporaryFolder folder;
-  const String path = folder.Path("model.kst");
+  const String path = folder.File("model.kst");
   const WizardData model = ModelOf(2, 2);
   const VariantArray ones(4, Variant(1.0));
   EXPECT_THROW(SaveJudgments(path, model, kDirectType, 0, 2, Variant(1.0), ones, ones, ones), ModelFault);
@@ -85,7 +85,7 @@ TEST(FileThatVanished, IsNotMadeBySaving) {
 TEST(FileThatVanished, WhileTheWizardRunsChangesNothingForTheUser) {
   TestHost host(ModelOf(2, 2));
   host.Load();
-  fs::remove(host.Folder.Path("model.kst"));
+  fs::remove(host.Folder.File("model.kst"));
   host.Run({[&] { host.Wizard->ShowTarnwise(); }, [&] { host.Click("cmdNext"); },
             [&] { host.Drag("cmdAttA(0)", "picOrder(0)"); }, [&] { host.Click("cmdCancel"); }});
   EXPECT_EQ(host.Notes.back(), "release frmIniImpOrder");
@@ -112,7 +112,7 @@ class AsOrdinaryUser {
 
 TEST(ReadOnlyFolder, KeepsTheModelAndTheFaultSaysWhy) {
   const TemporaryFolder folder;
-  const String path = folder.Path("model.kst");
+  const String path = folder.File("model.kst");
   WriteModel(path, ModelOf(2, 2));
   const std::vector<char> before = FileBytes(path);
   ASSERT_EQ(chmod(path.c_str(), 0666), 0);
@@ -136,7 +136,7 @@ TEST(ReadOnlyFolder, KeepsTheModelAndTheFaultSaysWhy) {
 TEST(ReadOnlyFolder, AMissingModelInItIsTold) {
   TestHost host(ModelOf(2, 2));
   host.Load();
-  const String missing = host.Folder.Path("other.kst");
+  const String missing = host.Folder.File("other.kst");
   ASSERT_EQ(chmod(host.Folder.Path().c_str(), 0555), 0);
   host.TakeNotes();
   {

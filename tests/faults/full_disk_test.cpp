@@ -89,7 +89,7 @@ TEST(FullDisk, KeepsTheModelAndTheFaultSaysWhyUntilThereIsRoom) {
   ASSERT_EQ(waitpid(child, &status, 0), child);
   ASSERT_EQ(status, 0) << told;
   if (told == "no disk\n") GTEST_SKIP() << "no disk may be mounted here";
-  const String full = "can't write " + folder.Path("model.kst") + ": No space left on device\n";
+  const String full = "can't write " + folder.File("model.kst") + ": No space left on device\n";
   std::size_t refused = 0;
   while (told.compare(0, full.size(), full) == 0) {
     told.erase(0, full.size());

@@ -31,7 +31,7 @@ int OpenHandles() {
 
 TEST(Rounds, LeaveNoMemoryAndNoFileHandleBehind) {
   const TemporaryFolder folder;
-  const String path = folder.Path("model.kst");
+  const String path = folder.File("model.kst");
   WriteModel(path, ModelOf(2, 2));
   const String direct = PlayRound(path, kDirectRound);
   const String traded = PlayRound(path, kTradeOffRound);

@@ -20,7 +20,7 @@ TEST(Threads, EachWithAWizardOfItsOwnGetWhatOneAloneWouldGet) {
     WizardData model = ModelOf(2, 2);
     model.AttributeList.AttName[0] = "Thread " + std::to_string(k);
     model.AttValueData.ScoreMax[1] = 100.0 + k;
-    paths.push_back(folder.Path("model" + std::to_string(k) + ".kst"));
+    paths.push_back(folder.File("model" + std::to_string(k) + ".kst"));
     WriteModel(paths.back(), model);
     alone.push_back(PlayRound(paths.back(), round(k) + "data AttName\ndata ScoreMax\n"));
   }

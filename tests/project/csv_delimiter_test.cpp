@@ -1,6 +1,6 @@
 #include "project/CsvDelimiter.h"
 
-#include "host/FaultOf.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

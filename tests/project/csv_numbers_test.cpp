@@ -1,6 +1,6 @@
 #include "project/CsvNumbers.h"
 
-#include "host/FaultOf.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "project/ImportModel.h"
 
-#include "host/FaultOf.h"
 #include "modelfiles/ModelJson.h"
 #include "project/ProjectChecks.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "project/ImportTable.h"
 
-#include "host/FaultOf.h"
 #include "project/ProjectChecks.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "project/ProjectChecks.h"
 
 #include "Hospitals.h"
-#include "host/FaultOf.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

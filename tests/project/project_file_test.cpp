@@ -1,6 +1,6 @@
 #include "Hospitals.h"
-#include "frame/TemporaryFolder.h"
-#include "host/FaultOf.h"
+#include "support/FaultOf.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Random tables and projects.
 #include "Hospitals.h"
-#include "host/FaultOf.h"
 #include "project/CsvRows.h"
 #include "project/ImportTable.h"
 #include "project/NiceRange.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

@@ -1,6 +1,6 @@
 // What a project's file must not hold, and what is said of it.
 #include "Hospitals.h"
-#include "host/FaultOf.h"
+#include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
 

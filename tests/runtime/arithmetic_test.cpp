@@ -1,6 +1,6 @@
-#include "ErrorNumber.h"
 #include "runtime/Numbers.h"
 #include "runtime/Text.h"
+#include "support/ErrorNumber.h"
 
 #include <gtest/gtest.h>
 

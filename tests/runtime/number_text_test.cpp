@@ -1,5 +1,5 @@
-#include "ErrorNumber.h"
 #include "runtime/Text.h"
+#include "support/ErrorNumber.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "ErrorNumber.h"
 #include "runtime/Text.h"
+#include "support/ErrorNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -61,6 +61,11 @@ const ValRow kValRows[] = {
     {"too small without an exponent", "0." + String(400, '0') + "1", 0.0},
     {"too small in spite of its exponent", "0." + String(400, '0') + "1E5", 0.0},
     {"many zeros and an exponent that makes up for them", "0." + String(400, '0') + "1E401", 1.0},
+    {"leading zeros in the exponent", "2e-0000000000000000000000003", 0.002},
+    {"leading zeros before an exponent past all bounds", "-2e-00000000000000000000000852767761", 0.0},
+    {"digits beyond what a Double holds", "0.333333333333333333333333333333333", 1.0 / 3.0},
+    {"a control character behind the number", "2.5\x08", 2.5},
+    {"a blank between the exponent's letter and its sign", "25 E - 1", 2.5},
     {"many digits and an exponent that makes up for them", "1" + String(400, '0') + "E-400", 1.0},
 };
 
@@ -72,8 +77,9 @@ TEST(Val, TakesTheLeadingNumericPart) {
 }
 
 TEST(Val, OfANumberThatIsTooLargeOverflows) {
-  for (const String& text : {String("1E400"), String("-1E400"), String("7E99999999999999999999"),
-                             "1" + String(400, '0'), "1" + String(400, '0') + "E-5"}) {
+  for (const String& text :
+       {String("1E400"), String("-1E400"), String("7E99999999999999999999"), String("1E+888888888888852888888888"),
+        "1" + String(400, '0'), "1" + String(400, '0') + "E-5"}) {
     SCOPED_TRACE(text.substr(0, 20));
     EXPECT_EQ(ErrorNumber([&] { return Val(text); }), 6);
   }
@@ -91,7 +97,7 @@ TEST(StrictNumber, TakesTextThatIsANumberAsAWhole) {
 }
 
 TEST(StrictNumber, RefusesOtherText) {
-  for (const char* text : {"", "  ", "abc", "1x", "1 2", "Infinity!", "1,5", "1E", "."}) {
+  for (const char* text : {"", "  ", "abc", "1x", "1 2", "- 2", "2e", "1 d", "Infinity!", "1,5", "1E", "."}) {
     SCOPED_TRACE(text);
     EXPECT_EQ(ErrorNumber([&] { return StrictNumber(text); }), 13);
   }

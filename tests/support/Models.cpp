@@ -3,7 +3,6 @@
 #include "modelfiles/ModelWriter.h"
 
 #include <fstream>
-#include <random>
 #include <stdexcept>
 
 namespace Tarnwise {
@@ -52,23 +51,9 @@ void StoreJudgments(WizardData& model, const String& type, int benefitReference,
   }
 }
 
-TemporaryFolder::TemporaryFolder() {
-  std::random_device random;
-  for (int attempt = 0; attempt < 100; ++attempt) {
-    path_ = std::filesystem::temp_directory_path() / ("tarnwise-test-" + std::to_string(random()));
-    if (std::filesystem::create_directory(path_)) return;
-  }
-  throw std::runtime_error("no folder for the test could be made");
-}
-
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
 void WriteModel(const String& path, const WizardData& model) {
   const std::vector<char> bytes = ModelBytes(model);
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  std::ofstream file(PathFromText(path), std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) throw std::runtime_error("the model of the test could not be written");

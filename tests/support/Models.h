@@ -2,8 +2,8 @@
 #pragma once
 
 #include "model/Groups.h"
+#include "support/TemporaryFolder.h"
 
-#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -18,21 +18,6 @@ WizardData ModelOf(int benefits, int costs);
 // Stores judgments in the model as an earlier run would have left them; weights by ascending id.
 void StoreJudgments(WizardData& model, const String& type, int benefitReference, int costReference, Double ratio,
                     const std::vector<Double>& weights);
-
-// A folder of its own, gone with all that is in it at the end.
-class TemporaryFolder {
- public:
-  TemporaryFolder();
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder();
-
-  String Path() const { return path_.string(); }
-  String Path(const String& file) const { return (path_ / file).string(); }
-
- private:
-  std::filesystem::path path_;
-};
 
 void WriteModel(const String& path, const WizardData& model);
 

@@ -18,10 +18,10 @@ constexpr const char* kMarkPrinted = R"({"data":"ValueFuncType")";
 
 }  // namespace
 
-Session::Session(const WizardData& model) { WriteModel(folder_.Path("model.kst"), model); }
+Session::Session(const WizardData& model) { WriteModel(folder_.File("model.kst"), model); }
 
 Session& Session::With(const String& file, const WizardData& model) {
-  WriteModel(folder_.Path(file), model);
+  WriteModel(folder_.File(file), model);
   return *this;
 }
 

@@ -87,7 +87,7 @@ Lines TestScreen::Forms() const {
 
 TestHost::TestHost(const WizardData& model) : Wizard(std::make_unique<TRN_DEA>(Screen)) {
   mdTRNMain() = WizardData();
-  WriteModel(Folder.Path("model.kst"), model);
+  WriteModel(Folder.File("model.kst"), model);
   TRN_DEA_Events& events = Wizard->Events();
   events.SendMasseges = [this](const String& text) { Noted("SendMasseges", "say " + text); };
   events.ExportDirectBW = [this](const String& type, auto&&...) { Noted("ExportDirectBW", "export " + type); };
@@ -104,7 +104,7 @@ TestHost::~TestHost() {
   Wizard.reset();
 }
 
-void TestHost::Load() { Wizard->GetCurFileData(String("C:/KESTA"), 3, Folder.Path("model.kst")); }
+void TestHost::Load() { Wizard->GetCurFileData(String("C:/KESTA"), 3, Folder.File("model.kst")); }
 
 void TestHost::Noted(const String& event, const String& note) {
   Notes.push_back(note);

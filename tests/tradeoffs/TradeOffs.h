@@ -1,8 +1,8 @@
 // Trade-offs in tests: models whose values are a hundredth of their scores, and the step on a screen of its own.
 #pragma once
 
-#include "direct/Ranked.h"
-#include "runtime/ErrorNumber.h"
+#include "support/ErrorNumber.h"
+#include "support/Ranked.h"
 #include "support/TestHost.h"
 #include "tradeoffs/frmTradeOffsB.h"
 #include "view/Input.h"
@@ -41,6 +41,13 @@ inline WizardData TradeOffData(const std::vector<RankedAtt>& atts, int benefitRe
 // Benefits 0 to 4: 1 is the reference on rank 2 and 4 shares its rank; 0 is better; 2 and 3 are worse and share a rank.
 // Costs 5 to 7: 6 is the reference on rank 2, 5 is better, 7 shares its rank.
 inline WizardData Ward() { return TradeOffData({B(1), B(2), B(3), B(3), B(2), C(1), C(2), C(2)}, 1, 6); }
+
+// All judged, by an earlier run of that approach.
+inline WizardData Judged(WizardData data, const char* type) {
+  data.SavedJudgments.RJType = type;
+  for (int i = 0; i < data.NumAtts(); ++i) data.WeightDone[i] = true;
+  return data;
+}
 
 inline ABPoint PointsAt(Single ax, Single ay, Single bx, Single by) {
   ABPoint p;

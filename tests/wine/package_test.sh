@@ -14,11 +14,11 @@ fail() {
   exit 1
 }
 
-known() { timeout 60 wine reg query "$class" >/dev/null 2>&1; }
+known() { timeout 300 wine reg query "$class" >/dev/null 2>&1; }
 
 show_and_close() {  # what the host says
-  timeout 60 wine "$work/host.exe" "$folder/samples/hospitals.kst" >"$work/said" 2>&1 &
-  timeout 60 wine "$presser" --seconds 20 close >/dev/null || { kill $!; wait; } 2>/dev/null
+  timeout 300 wine "$work/host.exe" "$folder/samples/hospitals.kst" >"$work/said" 2>&1 &
+  timeout 300 wine "$presser" --seconds 120 close >/dev/null || { kill $!; wait; } 2>/dev/null
   wait
   tr -d '\r' <"$work/said" | xargs -d '\n'
 }
@@ -29,19 +29,19 @@ folder=${folder%/}
 cp "$sample_host" "$work/host.exe"
 
 known && fail "the class is registered before"
-said=$(timeout 60 wine cmd /c "$(winepath -w "$folder/register.cmd")" | tr -d '\r')
+said=$(timeout 300 wine cmd /c "$(winepath -w "$folder/register.cmd")" | tr -d '\r')
 [ "${said#Tarnwise_DEA.TRN_DEA is registered for }" != "$said" ] || fail "register.cmd said '$said'"
 known || fail "register.cmd left the class unregistered"
 shown="Select a method to make value judgments between the attributes. cancelled"
 said=$(show_and_close)
 [ "$said" = "$shown" ] || fail "registered, the host said '$said'"
-said=$(timeout 60 wine cmd /c "$(winepath -w "$folder/unregister.cmd")" | tr -d '\r')
+said=$(timeout 300 wine cmd /c "$(winepath -w "$folder/unregister.cmd")" | tr -d '\r')
 [ "${said#Tarnwise_DEA.TRN_DEA is no longer registered for }" != "$said" ] || fail "unregister.cmd said '$said'"
 known && fail "unregister.cmd left the class registered"
 
 mv "$folder/Tarnwise_DEA.dll" "$work"
 status=0
-said=$(timeout 60 wine cmd /c "$(winepath -w "$folder/register.cmd")" | tr -d '\r') || status=$?
+said=$(timeout 300 wine cmd /c "$(winepath -w "$folder/register.cmd")" | tr -d '\r') || status=$?
 case $said in
   *"was not registered. Status 3"*"could not be loaded"*) ;;
   *) fail "without the DLL register.cmd said '$said'" ;;

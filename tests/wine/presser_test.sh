@@ -6,12 +6,13 @@ failed=0
 
 # play NAME EXPECTED_OUTPUT EXPECTED_STATUS EXPECTED_STATUS_OF_PRESSER STEP...
 play() {
-  local name=$1 output=$2 status=$3 pressed=$4 said got got_pressed=0
+  local name=$1 output=$2 status=$3 pressed=$4 said got patience got_pressed=0
   shift 4
+  [ "$pressed" = 0 ] && patience=60 || patience=3  # what comes to nothing is waited for to the end
   said=$(mktemp)
-  timeout 60 wine "$target" >"$said" &
-  timeout 60 wine "$presser" --seconds 3 "$@" >"$said.presser" || got_pressed=$?
-  [ "$pressed" = 0 ] || timeout 60 wine "$presser" --seconds 3 close >/dev/null
+  timeout 300 wine "$target" >"$said" &
+  timeout 300 wine "$presser" --seconds $patience "$@" >"$said.presser" || got_pressed=$?
+  [ "$pressed" = 0 ] || timeout 300 wine "$presser" --seconds 60 close >/dev/null
   wait $!
   got=$?
   if [ "$(tr -d '\r' <"$said" | xargs)" != "$output" ] || [ $got != "$status" ] || [ $got_pressed != "$pressed" ]; then

@@ -7,11 +7,11 @@ here=$(cd "$(dirname "$0")" && pwd)
 program=$1 dll=$2
 failed=0 played=0
 
-timeout 60 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
-for script in "$here"/../sessions/*.script "$here"/../../samples/*.session; do
+timeout 300 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
+for script in "$here"/../sessions/*.session "$here"/../../samples/*.session; do
   name=$(basename "${script%.*}")
   for toolkit in headless win32 com; do
-    TARNWISE_THROUGH="timeout 120 wine" "$here/../sessions/play_test.sh" "$program" $toolkit "$script" \
+    TARNWISE_THROUGH="timeout 3000 wine" "$here/../sessions/play_test.sh" "$program" $toolkit "$script" \
       "$here/../sessions/$name.expected" || { echo "$name under $toolkit differs"; failed=1; }
     played=$((played + 1))
   done

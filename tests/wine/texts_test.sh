@@ -16,19 +16,19 @@ for language in de_DE el_GR ja_JP; do
 done
 
 fail() { echo "failed: $1"; failed=1; }
-tarnwise() { LC_ALL=$locale timeout 120 wine "$program" "$@"; }
+tarnwise() { LC_ALL=$locale timeout 3000 wine "$program" "$@"; }
 
-timeout 60 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
+timeout 300 wine regsvr32 /s "$dll" || { echo "regsvr32: $?"; exit 1; }
 
 paths_under() {  # paths_under LOCALE FOLDER
   locale=$1
   local folder="$work/$2" pictures="$work/pictures $2 $1" toolkit
   mkdir -p "$folder/$2"
   cp "$here/../sessions/ward.kst" "$folder/$2/"
-  printf 'host load "%s/ward.kst"\nhost show\ndata AttName\nshot first.png\n' "$2" >"$folder/$2.script"
+  printf 'host load "%s/ward.kst"\nhost show\ndata AttName\nshot first.png\n' "$2" >"$folder/$2.session"
   tarnwise model show "$folder/$2/ward.kst" | grep -q '"Nurses"' || fail "model show in $2 under $1"
   for toolkit in "--toolkit headless" "--toolkit win32" --com; do
-    tarnwise play $toolkit --shots "$pictures" "$folder/$2.script" >"$work/lines" || fail "status of $toolkit in $2 under $1"
+    tarnwise play $toolkit --shots "$pictures" "$folder/$2.session" >"$work/lines" || fail "status of $toolkit in $2 under $1"
     grep -q '"Nurses"' "$work/lines" || fail "$toolkit in $2 under $1: $(cat "$work/lines")"
   done
   [ -s "$pictures/first.png" ] || fail "no picture in $pictures"
@@ -65,9 +65,9 @@ texts_under() {  # texts_under LOCALE NAME CODE_PAGE REFUSED
   tarnwise model build "$work/model.json" "$work/model.kst" >/dev/null || fail "model build under $1"
   grep -qF "$(printf '%s' "$2" | iconv -f UTF-8 -t "$3")" "$work/model.kst" || fail "$2 is not in $3 under $1"
   tarnwise model show "$work/model.kst" | tr -d '\r' | cmp -s - "$work/model.json" || fail "model show under $1"
-  printf 'host load model.kst\ndata AttName\n' >"$work/names.script"
+  printf 'host load model.kst\ndata AttName\n' >"$work/names.session"
   for toolkit in "--toolkit headless" --com; do
-    tarnwise play $toolkit "$work/names.script" | grep -qF "\"$2\"" || fail "$2 by $toolkit under $1"
+    tarnwise play $toolkit "$work/names.session" | grep -qF "\"$2\"" || fail "$2 by $toolkit under $1"
   done
   locale=C.UTF-8
   tarnwise model show --code-page "$3" "$work/model.kst" | tr -d '\r' | cmp -s - "$work/model.json" ||

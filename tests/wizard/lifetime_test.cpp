@@ -166,7 +166,7 @@ TEST_P(InsideAnEvent, AnotherObjectMayTakeItsPlace) {
 TEST_P(InsideAnEvent, AnotherModelMayBeLoadedWhenTheStepsAreUnloaded) {
   Do([this] {
     host.Wizard->UnloadTarnwise();
-    WriteModel(host.Folder.Path("model.kst"), ModelOf(1, 0));
+    WriteModel(host.Folder.File("model.kst"), ModelOf(1, 0));
     host.Load();
   });
   ExpectNothingOpen();

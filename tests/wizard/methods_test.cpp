@@ -70,24 +70,24 @@ TEST(GetCurFileData, StoresTheThreeAndReadsTheModel) {
   const WizardData& data = mdTRNMain();
   EXPECT_EQ(data.KestaDir, "C:/KESTA");
   EXPECT_EQ(data.FileIndex, 3);
-  EXPECT_EQ(data.PathAndFileName, host.Folder.Path("model.kst"));
+  EXPECT_EQ(data.PathAndFileName, host.Folder.File("model.kst"));
   EXPECT_EQ(data.NumAtts(), 2);
   EXPECT_EQ(data.AttName(1), "Staff");
 }
 
 TEST(GetCurFileData, TakesTheDirectoryAsAnythingThatIsText) {
   Wizarding host(ModelOf(1, 1));
-  host.Wizard->GetCurFileData(Variant(12.5), -7, host.Folder.Path("model.kst"));
+  host.Wizard->GetCurFileData(Variant(12.5), -7, host.Folder.File("model.kst"));
   EXPECT_EQ(mdTRNMain().KestaDir, "12.5");
   EXPECT_EQ(mdTRNMain().FileIndex, -7);
-  host.Wizard->GetCurFileData(Variant(), 1, host.Folder.Path("model.kst"));
+  host.Wizard->GetCurFileData(Variant(), 1, host.Folder.File("model.kst"));
   EXPECT_EQ(mdTRNMain().KestaDir, "");
 }
 
 TEST(GetCurFileData, FailsForADirectoryThatIsNull) {
   Wizarding host(ModelOf(1, 1));
   try {
-    host.Wizard->GetCurFileData(Variant(Null()), 1, host.Folder.Path("model.kst"));
+    host.Wizard->GetCurFileData(Variant(Null()), 1, host.Folder.File("model.kst"));
     FAIL();
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), 94);
@@ -112,7 +112,7 @@ TEST(GetCurFileData, OfAFileThatCannotBeOpenedTellsTheUserAndKeepsTheModel) {
   host.Load();
   mdTRNMain().OrderChanged = true;
   host.TakeNotes();
-  host.Wizard->GetCurFileData(String("C:/OTHER"), 9, host.Folder.Path("no/such/folder.kst"));
+  host.Wizard->GetCurFileData(String("C:/OTHER"), 9, host.Folder.File("no/such/folder.kst"));
   EXPECT_EQ(host.Notes, Lines({"beep", "msgbox There are problems in accessing the relevant data.", "pointer 0"}));
   EXPECT_EQ(mdTRNMain().KestaDir, "C:/OTHER");
   EXPECT_EQ(mdTRNMain().FileIndex, 9);

@@ -1,6 +1,6 @@
 #include "view/headless/HeadlessToolkit.h"
 
-#include <tarnwise/TRN_DEA.h>
+#include <tarnwise/Platform.h>
 
 #include "runtime/Utf8.h"
 

@@ -1,6 +1,6 @@
 #include "view/qt/QtToolkit.h"
 
-#include <tarnwise/TRN_DEA.h>
+#include <tarnwise/Platform.h>
 
 namespace Tarnwise {
 

@@ -6,7 +6,7 @@
 #include "view/win32/WinPaint.h"
 #include "view/win32/WinText.h"
 
-#include <tarnwise/TRN_DEA.h>
+#include <tarnwise/Platform.h>
 
 #include <commctrl.h>
 

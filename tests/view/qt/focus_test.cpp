@@ -1,3 +1,4 @@
+#include "Hangs.h"
 #include "TestForm.h"
 
 #include <QCheckBox>
@@ -103,7 +104,7 @@ TEST_F(QtFocus, ALabelsMnemonicGoesToTheControlBehindIt) {
   Place(box, 1200, 1800, 900, 375);
   label.TabIndex = box.TabIndex = 30;
   Show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window(), kHangs));
   EXPECT_EQ(As<QLabel>(label).buddy(), WidgetOf(box));
   Key(Qt::Key_N, Qt::AltModifier);
   EXPECT_EQ(form->ActiveControl, &box);
@@ -113,7 +114,7 @@ TEST_F(QtFocus, ALabelsMnemonicGoesToTheControlBehindIt) {
 TEST_F(QtFocus, AMnemonicPressesOnlyWhatAPersonCanReach) {
   form->cmdGo.Click = [this] { form->Log.push_back("click"); };
   Show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&Window(), kHangs));
   Key(Qt::Key_G, Qt::AltModifier);
   EXPECT_EQ(Joined(form->Log), "click");
   EXPECT_EQ(form->ActiveControl, &form->cmdGo);

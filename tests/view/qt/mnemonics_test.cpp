@@ -1,4 +1,5 @@
 #include "view/MnemonicRows.h"
+#include "view/qt/Hangs.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtToolkit.h"
 
@@ -15,7 +16,7 @@ TEST(QtMnemonics, EveryOneOfEveryFormLeadsWhereItShould) {
       platform,
       [&](Form& form) {
         window = &toolkit->FormOf(form)->Window();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window, kHangs));
       },
       [&](char letter) { QTest::keyClick(window->focusWidget(), letter, Qt::AltModifier); });
 }

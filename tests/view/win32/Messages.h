@@ -115,7 +115,7 @@ inline void TakeMessages() {
 }
 
 // Lets events in until it is so; false when the time was not enough.
-inline bool Until(const std::function<bool()>& so, DWORD milliseconds = 3000) {
+inline bool Until(const std::function<bool()>& so, DWORD milliseconds = 60000) {
   const ULONGLONG end = GetTickCount64() + milliseconds;
   TakeMessages();
   while (!so()) {

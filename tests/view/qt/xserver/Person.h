@@ -1,6 +1,7 @@
 // A person at the keyboard and the mouse of the X server that the test's windows are on. There is no window manager.
 #pragma once
 
+#include "view/qt/Hangs.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtToolkit.h"
 
@@ -30,9 +31,9 @@ class Person {
  public:
   // The keyboard goes to the window.
   static void TurnTo(QWidget& window) {
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, kHangs));
     Does({"windowfocus", "--sync", QString::number(window.winId())});
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kHangs));
   }
 
   // Keys by their names: "alt+3", "ctrl+shift+Insert", "5". Returns when they have come up, or what they led to has.
@@ -40,7 +41,7 @@ class Person {
     for (const QString& name : names) {
       const int wanted = arrivals_.Keys + 1 + static_cast<int>(name.count('+'));
       Does({"key", name});
-      EXPECT_TRUE(QTest::qWaitFor([&] { return arrivals_.Keys >= wanted; })) << name.toStdString();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return arrivals_.Keys >= wanted; }, kHangs)) << name.toStdString();
     }
     Settled();
   }
@@ -48,7 +49,7 @@ class Person {
   void MoveTo(const QWidget& widget, const QPoint& at) {
     const QPoint global = widget.mapToGlobal(at);
     Does({"mousemove", QString::number(global.x()), QString::number(global.y())});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QCursor::pos() == global; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QCursor::pos() == global; }, kHangs));
     Settled();
   }
   void Press(int button) {
@@ -65,7 +66,7 @@ class Person {
   void LetGo(int button) {
     const int wanted = arrivals_.Releases + 1;
     Does({"mouseup", QString::number(button)});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return arrivals_.Releases >= wanted; })) << button;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return arrivals_.Releases >= wanted; }, kHangs)) << button;
     Settled();
   }
   void Click(const QWidget& widget, int button) {
@@ -78,7 +79,7 @@ class Person {
   static void Does(const QStringList& what) {
     QProcess process;
     process.start("xdotool", what);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, kHangs));
     EXPECT_EQ(process.exitCode(), 0) << what.join(' ').toStdString();
   }
   static void Settled() {

@@ -14,8 +14,8 @@ class XShownAgain : public testing::Test {
   XShownAgain() {
     toolkit->RealTimers = false;
     toolkit->Pump = [this] { return Step(); };
-    WriteModel(folder.Path("model.kst"), ModelOf(2, 2));
-    dea.GetCurFileData(String("C:/KESTA"), 1, folder.Path("model.kst"));
+    WriteModel(folder.File("model.kst"), ModelOf(2, 2));
+    dea.GetCurFileData(String("C:/KESTA"), 1, folder.File("model.kst"));
     dea.ShowTarnwise();
     Person::TurnTo(First());
   }
@@ -47,7 +47,7 @@ TEST_F(XShownAgain, ItStandsBehindTheLaterOneAndTakesNoPressUntilThatIsGone) {
   steps = {[this] {
              Person::TurnTo(WindowOf(1));
              dea.ShowTarnwise();
-             ASSERT_TRUE(QTest::qWaitForWindowExposed(&First()));
+             ASSERT_TRUE(QTest::qWaitForWindowExposed(&First(), kHangs));
              EXPECT_TRUE(First().isVisible());
              EXPECT_TRUE(WindowOf(1).isActiveWindow());
              EXPECT_EQ(QApplication::topLevelAt(WindowOf(1).geometry().center()), &WindowOf(1)) << "it is in front";
@@ -72,7 +72,7 @@ TEST_F(XShownAgain, ItStandsBehindTheLaterOneAndTakesNoPressUntilThatIsGone) {
   EXPECT_TRUE(asked);
   ASSERT_EQ(platform->Forms().size(), 1U);
   EXPECT_TRUE(First().isVisible());
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&First())) << "it has the keyboard";
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&First(), kHangs)) << "it has the keyboard";
   bool again = false;
   steps = {[this, &again] { again = platform->Forms().size() == 2U && !First().isVisible(); }};
   person.Click(Button(0, "cmdNext"), 1);

@@ -1,0 +1,33 @@
+// Results in words and short numbers, for tables and reports.
+#pragma once
+
+#include "project/Evaluation.h"
+
+namespace Tarnwise {
+
+constexpr const char* kNoNumber = "-";
+
+bool IsOne(const std::optional<double>& score);
+bool IsBest(const Dea::UnitResult& unit);  // for some of the weights, in the value form
+
+// Three decimals; more of them where those would say 1 (of a distance: 0) for what is not.
+String EfficiencyText(const std::optional<double>& score);
+String DistanceText(const std::optional<double>& distance);
+String ThreeDecimals(const std::optional<double>& number);
+
+String SpanText(const String& low, const String& high);  // "0.809 - 0.854"; one number where both are the same
+String RanksText(const Dea::UnitResult& unit);           // "4-11, seen 5-11"
+
+String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit);  // the four bounds that cost most
+
+// The judged range of a unit's efficiency, the least number first; off constant returns its best case alone.
+String JudgedText(const Evaluation& evaluation, const Dea::UnitResult& unit);
+String PeersText(const Evaluation& evaluation, const Dea::UnitResult& unit);  // "Hospital A 0.787, .."
+
+// Sentences about all units, about what was asked for, and about the curves.
+String RatioSummary(const Evaluation& evaluation);
+String ValueSummary(const Evaluation& evaluation);
+String HowText(const Project& project, const Evaluation& evaluation);
+String DeparturesText(const Evaluation& evaluation);
+
+}  // namespace Tarnwise

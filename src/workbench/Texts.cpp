@@ -1,0 +1,25 @@
+#include "workbench/Texts.h"
+
+#include "project/NumberText.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+namespace Tarnwise {
+
+std::optional<double> TypedNumber(const QString& text) {
+  const String typed = ToText(text.trimmed());
+  if (const auto number = NumberIn(typed, {'.', '\0'})) return number;
+  return NumberIn(typed, {',', '\0'});
+}
+
+QString NumberText(const std::optional<double>& number) {
+  return number ? FromText(ShortestText(*number)) : QString();
+}
+
+QString TimeText(const String& made) {
+  const QDateTime time = QDateTime::fromString(FromText(made), Qt::ISODate);
+  return time.isValid() ? time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")) : FromText(made);
+}
+
+}  // namespace Tarnwise

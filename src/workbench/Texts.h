@@ -1,0 +1,32 @@
+// Texts between the records, which are UTF-8, and the widgets; and what every widget has: a name for tests and one for
+// people who hear the window.
+#pragma once
+
+#include <tarnwise/Scalars.h>
+
+#include <QString>
+
+#include <optional>
+
+namespace Tarnwise {
+
+inline QString FromText(const String& text) { return QString::fromStdString(text); }
+inline String ToText(const QString& text) { return text.toStdString(); }
+
+// A number as somebody types it: with a point or a comma for the decimals, no marks between thousands.
+std::optional<double> TypedNumber(const QString& text);
+
+// The fewest digits that make the number again; empty where there is none.
+QString NumberText(const std::optional<double>& number);
+
+// "2024-05-17T09:30:00Z" as this place's people write it; as it is where it is no time.
+QString TimeText(const String& made);
+
+template <class Widget>
+Widget* Named(Widget* widget, const char* objectName, const QString& spokenName) {
+  widget->setObjectName(QLatin1String(objectName));
+  widget->setAccessibleName(spokenName);
+  return widget;
+}
+
+}  // namespace Tarnwise

@@ -68,8 +68,9 @@ std::vector<String> Scores::Row(const Dea::UnitResult& unit) const {
 }
 
 String Scores::RatioReason(const Dea::UnitResult& unit) const {
-  String text = "efficiency " + (IsJudged() ? JudgedText(From, unit) + ", without judgments " + EfficiencyText(unit.Free)
-                                            : EfficiencyText(unit.Max));
+  String text =
+      "efficiency " + (IsJudged() ? JudgedText(From, unit) + ", without judgments " + EfficiencyText(unit.Free)
+                                  : EfficiencyText(unit.Max));
   if (HasRanks()) text += RankPart(unit);
   text += ".";
   if (!unit.HeldBackBy.empty()) text += " Held back by " + HeldBackText(From, unit) + ".";

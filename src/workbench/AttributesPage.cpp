@@ -62,6 +62,7 @@ QWidget* AttributesPage::MakeList() {
   list_ = Named(new QListWidget, "attributeList", tr("Inputs and outputs"));
   list_->setMinimumWidth(140);
   list_->setTextElideMode(Qt::ElideMiddle);
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(list_, &QListWidget::currentRowChanged, this, &AttributesPage::ShowColumn);
   return list_;
 }

@@ -32,6 +32,8 @@ QVariant GroundOf(CellKind kind) {
   return {};
 }
 
+constexpr qsizetype kLongestHead = 30;  // of a column; the tooltip has all of it
+
 std::size_t At(int place) { return static_cast<std::size_t>(place); }
 
 }  // namespace
@@ -102,22 +104,21 @@ QVariant DataModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole: return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::BackgroundRole: return used ? GroundOf(KindOf(value)) : QVariant();
     case Qt::ForegroundRole:
-      return used && value ? QVariant()
-                           : QBrush(QApplication::palette().color(QPalette::Disabled, QPalette::Text));
+      return used ? QVariant() : QBrush(QApplication::palette().color(QPalette::Disabled, QPalette::Text));
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole: return Explained(index);
     default: return {};
   }
 }
 
-QString DataModel::RoleSign(const DataColumn& column) const { return RoleText(column.Role); }
-
 QVariant DataModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? section + 1 : QVariant();
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   if (section == 0) return tr("Unit");
   const DataColumn& column = document_.Data().Columns[At(section - 1)];
-  return FromText(column.Name) + "\n" + RoleSign(column);
+  const QString name = FromText(column.Name);
+  const bool cut = role == Qt::DisplayRole && name.size() > kLongestHead;
+  return (cut ? name.left(kLongestHead - 1) + "…" : name) + "\n" + RoleText(column.Role);
 }
 
 Qt::ItemFlags DataModel::flags(const QModelIndex& index) const {

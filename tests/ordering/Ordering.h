@@ -40,6 +40,13 @@ inline WizardData AllPlaced() {
   return model;
 }
 
+inline bool InFrontOfAll(const Control& control) {
+  for (const Control* other : control.Owner.Controls()) {
+    if (other != &control && other->Parent == control.Parent && other->Order() > control.Order()) return false;
+  }
+  return true;
+}
+
 inline Single Bottom(const Control& control) { return control.Top + control.Height; }
 
 }  // namespace Tarnwise

@@ -1,5 +1,6 @@
 // What drags over the ordering step do: drops, insertion markers, option marks, the pointer.
 #include "Ordering.h"
+#include "Rows.h"
 
 namespace Tarnwise {
 namespace {
@@ -149,11 +150,11 @@ TEST(DropOnAButton, AddsAListAttributeAtTheBottomOfItsRow) {
   o.Place(1, 0);
   o.Drag("cmdAttA(2)", "cmdAttB(0)");
   EXPECT_EQ(o.B.cmdAttB[2].Tag(), "B2");
-  EXPECT_EQ(o.B.cmdAttB[2].Top(), 180.0F + 2.0F * kH);
+  EXPECT_EQ(Rows(o.B), "*1@120+1285 [0 1 2]");
   EXPECT_EQ(o.MarkedOption(o.B), 2);
   o.PlaceCost(0, 0);
   o.Drag("cmdAttA1(1)", "cmdAttB1(0)");
-  EXPECT_EQ(o.C.cmdAttB[1].Top(), 180.0F + kH);
+  EXPECT_EQ(Rows(o.C), "*1@120+910 [3 4]");
 }
 
 TEST(DropOnAButton, FindsTheRowByTheRankNotTheInstance) {
@@ -162,8 +163,7 @@ TEST(DropOnAButton, FindsTheRowByTheRankNotTheInstance) {
   o.Click("cmdInsert");  // instance 1 is rank 1, instance 0 rank 2
   o.Place(0, 0);
   o.Drag("cmdAttA(1)", "cmdAttB(0)");
-  EXPECT_EQ(o.B.picOrder[0].Height(), 2.0F * kH + 160.0F);
-  EXPECT_EQ(o.B.picOrder[1].Height(), kH + 140.0F);
+  EXPECT_EQ(Rows(o.B), "1#1@120+515 [] | *2#0@755+910 [0 1]");
 }
 
 TEST(DropOnAButton, MovesAPlacedAttributeOfAnotherRank) {

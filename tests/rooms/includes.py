@@ -3,6 +3,7 @@ the wrong room, logic that reaches the control tree."""
 import os
 import re
 import sys
+from fnmatch import fnmatchcase
 from importlib.machinery import SourceFileLoader
 from importlib.util import module_from_spec, spec_from_loader
 
@@ -56,7 +57,9 @@ def room_of(path, layers):
 
 
 def words_of(path, layers, words):
-    return words.get(room_of(path, layers), set()) | words.get(os.path.splitext(path)[0], set())
+    said = set(words.get(room_of(path, layers), ()))
+    stem = os.path.splitext(path)[0]
+    return said.union(*(more for name, more in words.items() if name not in layers and fnmatchcase(stem, name)))
 
 
 def arrows_up(path, own, layers):

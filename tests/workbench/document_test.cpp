@@ -122,6 +122,9 @@ TEST(Window, OpensAFileThatIsDroppedOnIt) {
   window.show();
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(FileIn(folder))});
+  QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&window, &drop);
   EXPECT_TRUE(QTest::qWaitFor([&window] { return window.Work().Data().Units.size() == 12; }, 5000));

@@ -38,7 +38,7 @@ ChartInk InkFor(const QPalette& palette) {
   const QColor text = palette.color(QPalette::Text);
   const bool dark = IsDark(palette);
   return {dark ? QColor(0x6c, 0xb8, 0xf0) : QColor(0x00, 0x62, 0xa8),
-          dark ? QColor(0xf0, 0xb0, 0x40) : QColor(0xc8, 0x70, 0x00),
+          dark ? QColor(0xff, 0xd0, 0x70) : QColor(0xc8, 0x70, 0x00),
           dark ? QColor(0xff, 0x8a, 0x70) : QColor(0xb8, 0x30, 0x10),
           text,
           Mixed(paper, text, 0.6),

@@ -61,7 +61,7 @@ class ResultsFilter : public QSortFilterProxyModel {
 
 // The greatest score is 1, or no unit is ahead.
 bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit);
-QString ScoreText(const std::optional<double>& score);
+QString ScoreLabel(const std::optional<double>& score);
 
 // One sentence of all units, as "12 of 12 units are efficient without judgments: 14 attributes for 12 units let every
 // unit pick its own weights."

@@ -329,8 +329,8 @@ void ResultsPage::ShowChart() {
     BarRow row;
     row.Name = model_->UnitName(source);
     row.First = BarOf(*evaluation, model_->ResultOf(source));
-    row.Value = row.First.IsNothing ? tr("no score") : tr("%1 to %2").arg(ScoreText(row.First.Low), ScoreText(row.First.High));
-    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreText(row.First.Mark));
+    row.Value = row.First.IsNothing ? tr("no score") : tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
+    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
     rows.push_back(std::move(row));
   }
   if (evaluation) {

@@ -84,13 +84,6 @@ void Table::AddValues() {
 
 }  // namespace
 
-String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
-  const String& name = evaluation.Problem.Columns[static_cast<std::size_t>(bound.Column)].Name;
-  const String gain = bound.Gain < 0.0005 ? SignificantText(bound.Gain, 1) : FixedText(bound.Gain, 3);
-  return ShownName(name) + (bound.Side == Dea::Side::Low ? " >= " : " <= ") + RatioText(bound.Ratio) + " (" + gain +
-         ")";
-}
-
 String ResultsTable(const Project& project, const Evaluation& evaluation, bool colours) {
   const Dea::Results& results = evaluation.Results;
   const bool isValue = evaluation.How.Form == ScoreForm::Value;

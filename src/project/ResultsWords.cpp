@@ -1,6 +1,5 @@
 #include "project/ResultsWords.h"
 
-#include "project/ResultsTable.h"
 #include "project/Sentences.h"
 #include "project/Shown.h"
 
@@ -59,6 +58,13 @@ String RanksText(const Dea::UnitResult& unit) {
   const String sure = RankText(*unit.Ranks);
   const String seen = unit.RanksSeen ? RankText(*unit.RanksSeen) : sure;
   return sure == seen ? sure : sure + ", seen " + seen;
+}
+
+String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
+  const String& name = evaluation.Problem.Columns[static_cast<std::size_t>(bound.Column)].Name;
+  const String gain = bound.Gain < 0.0005 ? SignificantText(bound.Gain, 1) : FixedText(bound.Gain, 3);
+  return ShownName(name) + (bound.Side == Dea::Side::Low ? " >= " : " <= ") + RatioText(bound.Ratio) + " (" + gain +
+         ")";
 }
 
 String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {

@@ -140,7 +140,7 @@ bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 }
 
 QString ScoreLabel(const std::optional<double>& score) {
-  return score ? FromText(ScoreText(score)) : QStringLiteral("–");
+  return score ? FromText(EfficiencyText(score)) : QStringLiteral("–");
 }
 
 void ResultsModel::Show(SharedEvaluation evaluation) {

@@ -12,9 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-// Ratios with two decimals; small ones as far as they have digits.
-String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
-
 TableRow Header(const std::vector<const char*>& texts) {
   TableRow row;
   for (const char* const text : texts) row.push_back({text, Ink::Strong});

@@ -23,6 +23,9 @@ String TextBeside(double mark, const std::optional<double>& number) {
   return FixedText(*number, decimals);
 }
 
+// Ratios with two decimals; small ones as far as they have digits.
+String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
+
 String RankText(const Dea::RankRange& ranks) {
   return ranks.Best == ranks.Worst ? std::to_string(ranks.Best)
                                    : std::to_string(ranks.Best) + "-" + std::to_string(ranks.Worst);

@@ -54,7 +54,7 @@ String NearestName(const String& name, const std::vector<String>& offered) {
 String Quoted(const Json& value) {
   constexpr std::size_t kLongest = 60;
   String text = value.dump(-1, ' ', true, Json::error_handler_t::replace);
-  if (text.size() > kLongest) text = text.substr(0, kLongest) + "...";
+  if (text.size() > kLongest) text.replace(kLongest, String::npos, "...");
   return text;
 }
 

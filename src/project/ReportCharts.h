@@ -29,6 +29,6 @@ struct ChartedRatio {
 Drawing RatiosChart(const String& reference, const std::vector<ChartedRatio>& ratios);
 
 // A value curve, its chord over worst to best, and where the units are.
-Drawing CurveChart(const String& name, const Dea::Scale& scale, const std::vector<double>& scores);
+Drawing ValueCurveChart(const String& name, const Dea::Scale& scale, const std::vector<double>& scores);
 
 }  // namespace Tarnwise

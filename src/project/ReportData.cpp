@@ -146,7 +146,7 @@ void AddScales(const Project& project, const Evaluation& evaluation, Report& rep
   const Dea::Checked checked = Dea::Check(evaluation.Problem);
   for (std::size_t j = 0; j < evaluation.Problem.Columns.size(); ++j) {
     const Dea::Column& column = evaluation.Problem.Columns[j];
-    report.Add(CurveChart(column.Name, checked.Scales[j], column.Values), ShownName(column.Name));
+    report.Add(ValueCurveChart(column.Name, checked.Scales[j], column.Values), ShownName(column.Name));
   }
 }
 

@@ -32,6 +32,8 @@ QVariant GroundOf(CellKind kind) {
   return {};
 }
 
+constexpr qsizetype kLongestHead = 30;  // of a column; the tooltip has all of it
+
 std::size_t At(int place) { return static_cast<std::size_t>(place); }
 
 }  // namespace
@@ -102,22 +104,21 @@ QVariant DataModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole: return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::BackgroundRole: return used ? GroundOf(KindOf(value)) : QVariant();
     case Qt::ForegroundRole:
-      return used && value ? QVariant()
-                           : QBrush(QApplication::palette().color(QPalette::Disabled, QPalette::Text));
+      return used ? QVariant() : QBrush(QApplication::palette().color(QPalette::Disabled, QPalette::Text));
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole: return Explained(index);
     default: return {};
   }
 }
 
-QString DataModel::RoleSign(const DataColumn& column) const { return RoleText(column.Role); }
-
 QVariant DataModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical) return role == Qt::DisplayRole ? section + 1 : QVariant();
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   if (section == 0) return tr("Unit");
   const DataColumn& column = document_.Data().Columns[At(section - 1)];
-  return FromText(column.Name) + "\n" + RoleSign(column);
+  const QString name = FromText(column.Name);
+  const bool cut = role == Qt::DisplayRole && name.size() > kLongestHead;
+  return (cut ? name.left(kLongestHead - 1) + "…" : name) + "\n" + RoleText(column.Role);
 }
 
 Qt::ItemFlags DataModel::flags(const QModelIndex& index) const {
@@ -127,9 +128,8 @@ Qt::ItemFlags DataModel::flags(const QModelIndex& index) const {
 bool DataModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (role != Qt::EditRole || !index.isValid()) return false;
   const String text = ToText(value.toString());
-  return document_.Edit(tr("Change of a cell"), [&](Project& project) {
-    PutBlock(project, At(index.row()), At(index.column()), {{text}});
-  });
+  return document_.Edit(tr("Change of a cell"),
+                        [&](Project& project) { PutBlock(project, At(index.row()), At(index.column()), {{text}}); });
 }
 
 QString DataModel::Explained(const QModelIndex& index) const {
@@ -220,12 +220,10 @@ bool ColumnsModel::setData(const QModelIndex& index, const QVariant& value, int 
   const String text = ToText(value.toString());
   switch (index.column()) {
     case kName:
-      return document_.Edit(tr("New name of a column"),
-                            [&](Project& project) { RenameColumn(project, column, text); });
+      return document_.Edit(tr("New name of a column"), [&](Project& project) { RenameColumn(project, column, text); });
     case kRole:
-      return document_.Edit(tr("New role of a column"), [&](Project& project) {
-        SetRole(project, column, static_cast<Role>(value.toInt()));
-      });
+      return document_.Edit(tr("New role of a column"),
+                            [&](Project& project) { SetRole(project, column, static_cast<Role>(value.toInt())); });
     case kUnit:
       return document_.Edit(tr("New unit of measure"), [&](Project& project) { project.Columns[column].Unit = text; });
     default: return SetNumber(column, index.column(), value.toString());

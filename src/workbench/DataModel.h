@@ -39,7 +39,6 @@ class DataModel : public QAbstractTableModel {
 
  private:
   const std::optional<double>& ValueAt(const QModelIndex& index) const;
-  QString RoleSign(const DataColumn& column) const;
 
   Document& document_;
   int rows_ = 0;

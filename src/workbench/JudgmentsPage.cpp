@@ -322,7 +322,8 @@ void JudgmentsPage::ShowChart(const std::vector<JudgmentLine>& lines, const std:
   chart_->SetShown(low, high);
   chart_->SetReferenceLine(1.0);
   const QString title = SessionLabel(document_.Data(), *Session());
-  chart_->SetTitle(other.empty() ? title : tr("%1 (full), %2 (hatched)").arg(title, SessionLabel(document_.Data(), *Compared())));
+  chart_->SetTitle(
+      other.empty() ? title : tr("%1 (full), %2 (hatched)").arg(title, SessionLabel(document_.Data(), *Compared())));
   chart_->SetRows(std::move(rows));
 }
 
@@ -330,9 +331,9 @@ void JudgmentsPage::ShowCross(const JudgmentSession& session) {
   if (!session.Cross || !session.Cross->Judged || !session.Cross->Ratio) {
     return cross_->setText(tr("The two references were not compared with each other."));
   }
-  cross_->setText(tr("%1 is worth %2 times %3 (used by the value form only).")
-                      .arg(FromText(session.CostReference), RatioText(*session.Cross->Ratio),
-                           FromText(session.BenefitReference)));
+  cross_->setText(
+      tr("%1 is worth %2 times %3 (used by the value form only).")
+          .arg(FromText(session.CostReference), RatioText(*session.Cross->Ratio), FromText(session.BenefitReference)));
 }
 
 void JudgmentsPage::EditSession(const QString& what, const std::function<void(JudgmentSession&)>& change) {

@@ -30,7 +30,6 @@ void Choose(QComboBox& box, const Value (&values)[kCount], Value value) {
 
 Bar BarOf(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   Bar bar;
-  bar.IsNothing = false;
   if (evaluation.How.Form == ScoreForm::Value) {
     if (unit.Value) {
       bar.Low = unit.Value->Low;
@@ -193,17 +192,15 @@ QWidget* ResultsPage::MakeTables() {
   connect(table_->verticalScrollBar(), &QScrollBar::valueChanged, this, &ResultsPage::AlignChart);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ResultsPage::ShowUnit);
   connect(chart_, &BarChart::RowClicked, this, [this](int row) { table_->selectRow(row); });
-  connect(chart_, &BarChart::Scrolled, this, [this](int pixels) {
-    table_->verticalScrollBar()->setValue(table_->verticalScrollBar()->value() + pixels);
-  });
+  connect(chart_, &BarChart::Scrolled, this,
+          [this](int pixels) { table_->verticalScrollBar()->setValue(table_->verticalScrollBar()->value() + pixels); });
   return splitter;
 }
 
 void ResultsPage::ConnectSolver() {
   connect(solver_, &Solver::Began, this, [this] { ShowBusy(true); });
-  connect(solver_, &Solver::Progressed, this, [this](double share) {
-    progress_->setValue(static_cast<int>(1000.0 * share));
-  });
+  connect(solver_, &Solver::Progressed, this,
+          [this](double share) { progress_->setValue(static_cast<int>(1000.0 * share)); });
   connect(solver_, &Solver::Solved, this, &ResultsPage::ShowResults);
   connect(solver_, &Solver::Failed, this, [this](const QString& reason) { ShowMessage(reason); });
   connect(solver_, &Solver::Cancelled, this, [this] { ShowMessage(tr("Cancelled. “Compute” starts again.")); });
@@ -302,10 +299,11 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   for (const String& note : evaluation->Results.Notes) lines += FromText(note);
   for (const Dea::LeftOut& left : evaluation->Results.LeftOut) {
     if (lines.size() > 4) break;
-    lines += tr("Left out: %1 (%2).").arg(
-        FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]), FromText(left.Reason));
+    lines += tr("Left out: %1 (%2).")
+                 .arg(FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]), FromText(left.Reason));
   }
-  if (evaluation->Results.LeftOut.size() > 3) lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
+  if (evaluation->Results.LeftOut.size() > 3)
+    lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
   summary_->setText(lines.join(QLatin1Char('\n')));
   for (int c = 0; c < model_->columnCount(); ++c) {
     table_->resizeColumnToContents(c);
@@ -316,7 +314,8 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   }
   if (!table_->currentIndex().isValid() && filter_->rowCount() > 0) table_->selectRow(0);
   ShowUnit();
-  Q_EMIT Told(tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
+  Q_EMIT Told(
+      tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
 }
 
 void ResultsPage::ShowChart() {
@@ -329,8 +328,9 @@ void ResultsPage::ShowChart() {
     BarRow row;
     row.Name = model_->UnitName(source);
     row.First = BarOf(*evaluation, model_->ResultOf(source));
-    row.Value = row.First.IsNothing ? tr("no score") : tr("%1 to %2").arg(ScoreText(row.First.Low), ScoreText(row.First.High));
-    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreText(row.First.Mark));
+    row.Value = row.First.IsNothing ? tr("no score")
+                                    : tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
+    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
     rows.push_back(std::move(row));
   }
   if (evaluation) {

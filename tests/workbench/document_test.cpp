@@ -89,9 +89,8 @@ TEST(Files, ChangedMeanwhileAreReadAnewWhenAskedFor) {
 TEST(Files, ThatCannotBeWrittenAreToldAndNothingIsLost) {
   const QTemporaryDir folder;
   OpenWindow open;
-  AnswerNext("OK", [](QDialog& dialog) {
-    EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains("still open here"));
-  });
+  AnswerNext(
+      "OK", [](QDialog& dialog) { EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains("still open here")); });
   // A folder that is not there stands for one that may not be written: the tests may run as root.
   EXPECT_THROW(open.Window.Work().Save(folder.filePath("nowhere/project.tarnwise")), ModelFault);
   open.Window.Work().Save(FileIn(folder));
@@ -122,6 +121,9 @@ TEST(Window, OpensAFileThatIsDroppedOnIt) {
   window.show();
   QMimeData dragged;
   dragged.setUrls({QUrl::fromLocalFile(FileIn(folder))});
+  QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&window, &drop);
   EXPECT_TRUE(QTest::qWaitFor([&window] { return window.Work().Data().Units.size() == 12; }, 5000));

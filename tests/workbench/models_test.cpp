@@ -98,7 +98,8 @@ TEST(ResultsModel, SortsByNumbersAndFilters) {
   ASSERT_EQ(model.headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(), "Greatest");
   filter.sort(3, Qt::AscendingOrder);
   for (int row = 1; row < filter.rowCount(); ++row) {
-    EXPECT_LE(filter.index(row - 1, 3).data(Qt::UserRole).toDouble(), filter.index(row, 3).data(Qt::UserRole).toDouble());
+    EXPECT_LE(filter.index(row - 1, 3).data(Qt::UserRole).toDouble(),
+              filter.index(row, 3).data(Qt::UserRole).toDouble());
   }
   filter.SetText("hospital b");
   ASSERT_EQ(filter.rowCount(), 1);
@@ -112,8 +113,9 @@ TEST(ResultsModel, SortsByNumbersAndFilters) {
 TEST(ResultsModel, TellsWhenEveryUnitPicksItsOwnWeights) {
   Project project = HospitalsFromTable();
   RemoveUnits(project, {2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
-  EXPECT_EQ(SummaryText(*Evaluated(project)),
-            "2 of 2 units are efficient without judgments: 4 attributes for 2 units let every unit pick its own weights.");
+  EXPECT_EQ(
+      SummaryText(*Evaluated(project)),
+      "2 of 2 units are efficient without judgments: 4 attributes for 2 units let every unit pick its own weights.");
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 // Command buttons, option buttons, check boxes and tool bars.
+#include "view/Painting.h"
 #include "view/Pictures.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
+#include "view/qt/QtSurface.h"
 
 #include <QCheckBox>
 #include <QPainter>
@@ -16,8 +18,6 @@
 namespace Tarnwise {
 
 namespace {
-
-constexpr double kRounding = 4.0;
 
 // A push button in the platform's look, or a flat one where the form gives it a colour of its own.
 class ButtonWidget : public QPushButton {
@@ -45,16 +45,8 @@ class ButtonWidget : public QPushButton {
  private:
   void PaintFlat(const ButtonLook& look) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF body = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-    painter.setBrush(ToQColor(look.Face));
-    painter.setPen(QPen(ToQColor(look.Edge), 1.0));
-    painter.drawRoundedRect(body, kRounding, kRounding);
-    if (hasFocus()) {
-      painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
-      painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRounding + 0.5, kRounding + 0.5);
-    }
+    QtSurface surface(painter);
+    PaintFace({surface, form_.Colours()}, ToPixelRect(rect()), look, hasFocus());
     painter.setPen(ToQColor(look.Ink));
     painter.drawText(rect().adjusted(kSidePadding, 0, -kSidePadding, isDown() ? 1 : 0),
                      Qt::AlignCenter | Qt::TextShowMnemonic, text());

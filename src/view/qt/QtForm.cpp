@@ -2,11 +2,12 @@
 
 #include "view/Gesture.h"
 #include "view/Lifetime.h"
+#include "view/Painting.h"
 #include "view/Platform.h"
 #include "view/Speech.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
-#include "view/qt/QtPictureBox.h"
+#include "view/qt/QtSurface.h"
 #include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
 
@@ -35,7 +36,8 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override {
     if (form_.Tree() == nullptr) return;
     QPainter painter(this);
-    PaintChildren(painter, form_, *form_.Tree(), event->rect());
+    QtSurface surface(painter);
+    PaintChildren({surface, form_.Colours()}, *form_.Tree(), ToPixelRect(event->rect()));
   }
 
  private:

@@ -1,9 +1,10 @@
 // Labels, images and frames.
+#include "view/Painting.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
-#include "view/qt/QtPictureBox.h"
+#include "view/qt/QtSurface.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -20,24 +21,25 @@ constexpr int kTitleLeft = 12;  // pixels
 // A caption in the colour of highlighted text is a lit sign: it stands on the highlight's own colour.
 class LabelWidget : public QLabel {
  public:
-  using QLabel::QLabel;
+  LabelWidget(QtForm& form, QWidget* parent) : QLabel(parent), form_(form) {}
   bool Lit = false;
   QColor Ground;  // invalid: see-through
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     if (Lit) {
-      painter.setBrush(Ground);
-      painter.drawRoundedRect(rect(), std::min(height() / 2, 6), std::min(height() / 2, 6));
+      QtSurface surface(painter);
+      PaintSign({surface, form_.Colours()}, ToPixelRect(rect()), form_.Colours().Highlight);
     } else if (Ground.isValid()) {
       painter.fillRect(rect(), Ground);
     }
     painter.end();
     QLabel::paintEvent(event);
   }
+
+ private:
+  QtForm& form_;
 };
 
 class ImageWidget : public QWidget {
@@ -49,7 +51,8 @@ class ImageWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    DrawPicture(painter, Name, QRectF(rect()), Ground);
+    QtSurface surface(painter);
+    PaintPicture(surface, Name, ToBox(ToPixelRect(rect())), Ground);
   }
 };
 
@@ -66,12 +69,12 @@ class FrameWidget : public QGroupBox {
     bold.setBold(true);
     painter.setFont(bold);
     const int titleHeight = title().isEmpty() ? 0 : QFontMetrics(bold).height();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(ToQColor(FrameEdge(form_.Colours())));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, titleHeight / 2 + 0.5, -0.5, -0.5), 4, 4);
+    QtSurface surface(painter);
+    const Brushes brushes{surface, form_.Colours()};
+    PaintFrameLine(brushes, ToPixelRect(rect()), titleHeight);
     if (titleHeight > 0) PaintTitle(painter, titleHeight);
     const Control* const control = form_.ControlOf(this);
-    if (control != nullptr) PaintChildren(painter, form_, *control, event->rect());
+    if (control != nullptr) PaintChildren(brushes, *control, ToPixelRect(event->rect()));
   }
 
  private:
@@ -111,8 +114,8 @@ void SetBuddy(QtForm& form, const Label& label, LabelWidget& shown) {
   if (shown.buddy() != wanted) shown.setBuddy(wanted);
 }
 
-QWidget* MakeLabel(QtForm& /*form*/, Control& /*control*/, QWidget& parent) {
-  auto* const widget = new LabelWidget(&parent);
+QWidget* MakeLabel(QtForm& form, Control& /*control*/, QWidget& parent) {
+  auto* const widget = new LabelWidget(form, &parent);
   widget->setTextFormat(Qt::PlainText);
   return widget;
 }

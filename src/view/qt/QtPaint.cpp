@@ -2,7 +2,9 @@
 
 #include "view/Captions.h"
 #include "view/Gesture.h"
+#include "view/Painting.h"
 #include "view/Pictures.h"
+#include "view/qt/QtSurface.h"
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -19,22 +21,6 @@ constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colou
 Colour ColourOf(const QColor& colour) {
   return static_cast<Colour>(colour.red()) | (static_cast<Colour>(colour.green()) << 8U) |
          (static_cast<Colour>(colour.blue()) << 16U);
-}
-
-void DrawShape(QPainter& painter, const PictureShape& shape, Colour ground) {
-  painter.setBrush(shape.Fill ? QBrush(ToQColor(MarkOn(*shape.Fill, ground))) : QBrush(Qt::NoBrush));
-  painter.setPen(shape.Stroke ? QPen(ToQColor(MarkOn(*shape.Stroke, ground)), static_cast<double>(shape.StrokeWidth),
-                                     Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
-                              : QPen(Qt::NoPen));
-  QPolygonF points;
-  for (std::size_t i = 0; i + 1 < shape.Points.size(); i += 2) {
-    points << QPointF(static_cast<double>(shape.Points[i]), static_cast<double>(shape.Points[i + 1]));
-  }
-  switch (shape.Shape) {
-    case PictureShape::What::Polygon: painter.drawPolygon(points); break;
-    case PictureShape::What::Ellipse: painter.drawEllipse(QRectF(points.first(), points.last())); break;
-    case PictureShape::What::Polyline: painter.drawPolyline(points); break;
-  }
 }
 
 }  // namespace
@@ -97,27 +83,15 @@ QFont FittedFont(const QFont& font, const QString& text, int width) {
   return fitted;
 }
 
-void DrawPicture(QPainter& painter, const String& name, const QRectF& place, Colour ground) {
-  const Picture* const picture = FindPicture(name);
-  if (picture == nullptr || place.isEmpty()) return;
-  const auto width = static_cast<double>(picture->Width);
-  const auto height = static_cast<double>(picture->Height);
-  const double scale = std::min(place.width() / width, place.height() / height);
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(place.center() - QPointF(width, height) * scale / 2.0);
-  painter.scale(scale, scale);
-  for (const PictureShape& shape : picture->Shapes) DrawShape(painter, shape, ground);
-  painter.restore();
-}
-
 QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity) {
   QPixmap pixmap((QSizeF(size, size) * ratio).toSize());
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setOpacity(opacity / 100.0);
-  DrawPicture(painter, name, QRectF(0, 0, size, size), ground);
+  QtSurface surface(painter);
+  const auto side = static_cast<double>(size);
+  PaintPicture(surface, name, {0.0, 0.0, side, side}, ground);
   return pixmap;
 }
 

@@ -24,6 +24,8 @@ QString PlainCaption(const String& caption);  // without marks, for what is read
 
 inline QRect ToQRect(const PixelRect& place) { return {place.Left, place.Top, place.Width(), place.Height()}; }
 
+inline PixelRect ToPixelRect(const QRect& r) { return {r.left(), r.top(), r.left() + r.width(), r.top() + r.height()}; }
+
 QColor ToQColor(Colour colour);  // a number, not one of the platform's names
 Palette ColoursOf(const QPalette& palette);
 // The palette with the grounds of those colours, so that Qt's own widgets show them.
@@ -38,7 +40,6 @@ QFont BaseFont(int points = 9, bool bold = false);
 QFont FittedFont(const QFont& font, const QString& text, int width);
 
 // Pictures in colours for the ground that they stand on.
-void DrawPicture(QPainter& painter, const String& name, const QRectF& place, Colour ground);
 QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity = 100);
 QIcon PictureIcon(const String& name, Colour ground);
 QIcon WindowIcon();  // has a ground of its own

@@ -1,4 +1,4 @@
-// Picture boxes, and what containers paint themselves: lines, shapes and drawings.
+// Picture boxes and handles.
 #pragma once
 
 #include "view/Form.h"
@@ -23,13 +23,7 @@ class QtBox : public QWidget {
   void leaveEvent(QEvent* event) override;
 
  private:
-  void PaintHandle(QPainter& painter, Colour colour, bool round);
-  void PaintBox(QPainter& painter, const PictureBox& box);
-
   QtForm& form_;
 };
-
-// Lines and shapes of a container, back to front.
-void PaintChildren(QPainter& painter, const QtForm& form, const Control& container, const QRect& area);
 
 }  // namespace Tarnwise

@@ -1,8 +1,10 @@
 // Command buttons, option buttons and check boxes.
 #include "view/Captions.h"
+#include "view/Painting.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
+#include "view/win32/WinSurface.h"
 #include "view/win32/WinText.h"
 
 #include <commctrl.h>
@@ -59,17 +61,8 @@ void DrawButton(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
     RECT area = client;
     MapWindowPoints(item.hwndItem, form.WindowOf(*control.Parent), reinterpret_cast<POINT*>(&area), 2);
     PaintGround(canvas, form, *control.Parent, area);
-    const bool focused = GetFocus() == item.hwndItem;
-    const double scale = form.Scale() * kSmooth;
-    const int inset = Scaled(1, scale);
-    const Brush brush(CreateSolidBrush(look.Face));
-    const LOGBRUSH ink{BS_SOLID, focused ? form.Colours().Highlight : look.Edge, 0};
-    const Pen pen(
-        ExtCreatePen(PS_GEOMETRIC | PS_SOLID, static_cast<DWORD>(Scaled(focused ? 2 : 1, scale)), &ink, 0, nullptr));
-    const Selected withBrush(canvas.Dc(), brush.get());
-    const Selected withPen(canvas.Dc(), pen.get());
-    RoundRect(canvas.Dc(), inset, inset, WidthOf(client) * kSmooth - inset, HeightOf(client) * kSmooth - inset,
-              Scaled(8, scale), Scaled(8, scale));
+    WinSurface surface(canvas);
+    PaintFace({surface, form.Colours(), form.Scale()}, ToPixelRect(client), look, GetFocus() == item.hwndItem);
     canvas.PutOnto(item.hDC, 0, 0);
   }
   RECT room = client;

@@ -1,9 +1,11 @@
 // Labels: static controls that we draw, so that they are see-through, fitted to their room, and lit where they signal.
 #include "view/Captions.h"
+#include "view/Painting.h"
 #include "view/Speech.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
+#include "view/win32/WinSurface.h"
 #include "view/win32/WinText.h"
 
 #include <algorithm>
@@ -21,11 +23,8 @@ void PaintLit(HDC dc, const WinForm& form, const Label& label, const RECT& clien
   RECT area = client;
   MapWindowPoints(form.WindowOf(label), form.WindowOf(*label.Parent), reinterpret_cast<POINT*>(&area), 2);
   PaintGround(canvas, form, *label.Parent, area);
-  const Brush brush(CreateSolidBrush(form.Colours().Highlight));
-  const Selected withBrush(canvas.Dc(), brush.get());
-  const Selected withPen(canvas.Dc(), GetStockObject(NULL_PEN));
-  const int corner = std::min(HeightOf(client), Scaled(12, form.Scale())) * kSmooth;
-  RoundRect(canvas.Dc(), 0, 0, WidthOf(client) * kSmooth, HeightOf(client) * kSmooth, corner, corner);
+  WinSurface surface(canvas);
+  PaintSign({surface, form.Colours(), form.Scale()}, ToPixelRect(client), form.Colours().Highlight);
   canvas.PutOnto(dc, 0, 0);
 }
 

@@ -2,7 +2,9 @@
 
 #include "runtime/PerThread.h"
 #include "view/Gesture.h"
+#include "view/Painting.h"
 #include "view/Pictures.h"
+#include "view/win32/WinSurface.h"
 
 #include <uxtheme.h>
 
@@ -48,30 +50,6 @@ Font NewFont(double scale, int points, bool bold, int stretch) {
   if (stretch == kNormalStretch) return font;
   look.lfWidth = AverageWidth(font.get()) * stretch / kNormalStretch;
   return Font(CreateFontIndirectW(&look));
-}
-
-void DrawShape(HDC dc, const PictureShape& shape, Colour ground, double scale, double left, double top) {
-  std::vector<POINT> points;
-  for (std::size_t i = 0; i + 1 < shape.Points.size(); i += 2) {
-    points.push_back({static_cast<LONG>(std::lround(left + static_cast<double>(shape.Points[i]) * scale)),
-                      static_cast<LONG>(std::lround(top + static_cast<double>(shape.Points[i + 1]) * scale))});
-  }
-  LOGBRUSH ink{BS_SOLID, shape.Stroke ? MarkOn(*shape.Stroke, ground) : 0, 0};
-  const auto width = static_cast<DWORD>(std::max(1L, std::lround(static_cast<double>(shape.StrokeWidth) * scale)));
-  const Pen pen(shape.Stroke
-                    ? ExtCreatePen(PS_GEOMETRIC | PS_SOLID | PS_ENDCAP_ROUND | PS_JOIN_ROUND, width, &ink, 0, nullptr)
-                    : CreatePen(PS_NULL, 0, 0));
-  const Brush brush(shape.Fill ? CreateSolidBrush(MarkOn(*shape.Fill, ground)) : nullptr);
-  const Selected withPen(dc, pen.get());
-  const Selected withBrush(dc, brush ? brush.get() : GetStockObject(NULL_BRUSH));
-  const int count = static_cast<int>(points.size());
-  switch (shape.Shape) {
-    case PictureShape::What::Polygon: Polygon(dc, points.data(), count); break;
-    case PictureShape::What::Ellipse:
-      Ellipse(dc, points.front().x, points.front().y, points.back().x + 1, points.back().y + 1);
-      break;
-    case PictureShape::What::Polyline: Polyline(dc, points.data(), count); break;
-  }
 }
 
 }  // namespace
@@ -201,27 +179,18 @@ void Canvas::PutOnto(HDC target, int x, int y) {
   DeleteDC(source);
 }
 
-void DrawPicture(HDC dc, const String& name, const RECT& place, Colour ground) {
-  const Picture* const picture = FindPicture(name);
-  if (picture == nullptr || WidthOf(place) <= 0 || HeightOf(place) <= 0) return;
-  const auto width = static_cast<double>(picture->Width);
-  const auto height = static_cast<double>(picture->Height);
-  const double scale = std::min(WidthOf(place) / width, HeightOf(place) / height);
-  const double left = place.left + (WidthOf(place) - width * scale) / 2.0;
-  const double top = place.top + (HeightOf(place) - height * scale) / 2.0;
-  for (const PictureShape& shape : picture->Shapes) DrawShape(dc, shape, ground, scale, left, top);
-}
-
 // What covers a pixel is found by drawing once on black and once on white.
 HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity) {
   if (FindPicture(name) == nullptr) return nullptr;
   Canvas dark(side, side, kSmooth);
   Canvas light(side, side, kSmooth);
-  const RECT place{0, 0, side * kSmooth, side * kSmooth};
+  const Box place{0.0, 0.0, static_cast<double>(side), static_cast<double>(side)};
   dark.Fill(RGB(0, 0, 0));
   light.Fill(RGB(255, 255, 255));
-  DrawPicture(dark.Dc(), name, place, ground);
-  DrawPicture(light.Dc(), name, place, ground);
+  for (Canvas* const canvas : {&dark, &light}) {
+    WinSurface surface(*canvas);
+    PaintPicture(surface, name, place, ground);
+  }
   std::uint32_t* onDark = nullptr;
   std::uint32_t* onLight = nullptr;
   const Bitmap colours = dark.Reduced(&onDark);

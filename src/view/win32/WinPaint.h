@@ -36,6 +36,7 @@ class Selected {
 };
 
 inline RECT ToRect(const PixelRect& place) { return {place.Left, place.Top, place.Right, place.Bottom}; }
+inline PixelRect ToPixelRect(const RECT& r) { return {r.left, r.top, r.right, r.bottom}; }
 inline int WidthOf(const RECT& r) { return r.right - r.left; }
 inline int HeightOf(const RECT& r) { return r.bottom - r.top; }
 
@@ -81,10 +82,7 @@ class Canvas {
 
 constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
 
-// The picture fitted into the place (device units of dc), in colours for the ground that it stands on. Nothing where
-// there is no picture of that name.
-void DrawPicture(HDC dc, const String& name, const RECT& place, Colour ground);
-// Null when there is none; the caller destroys it.
+// A picture in colours for the ground. Null when there is none; the caller destroys it.
 HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity = 100);
 
 HCURSOR CursorFor(int mousePointer);

@@ -38,7 +38,7 @@ ChartInk InkFor(const QPalette& palette) {
   const QColor text = palette.color(QPalette::Text);
   const bool dark = IsDark(palette);
   return {dark ? QColor(0x6c, 0xb8, 0xf0) : QColor(0x00, 0x62, 0xa8),
-          dark ? QColor(0xf0, 0xb0, 0x40) : QColor(0xc8, 0x70, 0x00),
+          dark ? QColor(0xff, 0xd0, 0x70) : QColor(0xc8, 0x70, 0x00),
           dark ? QColor(0xff, 0x8a, 0x70) : QColor(0xb8, 0x30, 0x10),
           text,
           Mixed(paper, text, 0.6),
@@ -57,8 +57,8 @@ Chart::Chart(QWidget* parent) : QCustomPlot(parent) {
 
 void Chart::TellReaders() {
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(this, QAccessible::ObjectReorder);
-  QAccessible::updateAccessibility(&event);
+  QAccessibleEvent news(this, QAccessible::ObjectReorder);
+  QAccessible::updateAccessibility(&news);
 }
 
 bool Chart::Write(const QString& path, const QSize& size) {
@@ -111,9 +111,9 @@ bool Chart::SavePicture(const QString& path) {
 }
 
 void Chart::AskAndSave() {
-  const QString path = QFileDialog::getSaveFileName(
-      this, tr("Save the chart"), title_.isEmpty() ? tr("chart") + ".png" : title_ + ".png",
-      tr("Pictures (*.png);;Drawings (*.svg);;Documents (*.pdf)"));
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save the chart"),
+                                                    title_.isEmpty() ? tr("chart") + ".png" : title_ + ".png",
+                                                    tr("Pictures (*.png);;Drawings (*.svg);;Documents (*.pdf)"));
   if (path.isEmpty() || SavePicture(path)) return;
   QMessageBox::warning(this, tr("Save the chart"), tr("The chart could not be written to %1.").arg(path));
 }

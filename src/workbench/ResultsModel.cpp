@@ -1,5 +1,6 @@
 #include "workbench/ResultsModel.h"
 
+#include "project/ResultsTable.h"
 #include "project/ResultsWords.h"
 #include "project/Shown.h"
 #include "workbench/Texts.h"
@@ -235,12 +236,20 @@ ResultsFilter::ResultsFilter(ResultsModel& model) : model_(model) {
 
 void ResultsFilter::SetText(const QString& text) {
   text_ = text;
-  invalidateFilter();
+  FilterAnew();
 }
 
 void ResultsFilter::SetOnlyBest(bool on) {
   onlyBest_ = on;
-  invalidateFilter();
+  FilterAnew();
+}
+
+// Every stretch of rows that goes is told by itself, and views take their time with each: many rows come as new ones.
+void ResultsFilter::FilterAnew() {
+  constexpr int kManyRows = 2000;
+  if (model_.rowCount() <= kManyRows) return invalidateFilter();
+  setSourceModel(nullptr);
+  setSourceModel(&model_);
 }
 
 bool ResultsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {

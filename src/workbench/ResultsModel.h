@@ -52,6 +52,8 @@ class ResultsFilter : public QSortFilterProxyModel {
   bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
  private:
+  void FilterAnew();
+
   ResultsModel& model_;
   QString text_;
   bool onlyBest_ = false;

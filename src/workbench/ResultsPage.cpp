@@ -70,7 +70,8 @@ ResultsPage::ResultsPage(Document& document, QWidget* parent)
       model_(new ResultsModel(this)),
       filter_(new ResultsFilter(*model_)),
       solver_(new Solver(this)),
-      soon_(new QTimer(this)) {
+      soon_(new QTimer(this)),
+      chartSoon_(new QTimer(this)) {
   Named(this, "resultsPage", tr("Results"));
   filter_->setParent(this);
   soon_->setSingleShot(true);
@@ -184,11 +185,14 @@ QWidget* ResultsPage::MakeTables() {
   splitter->setStretchFactor(0, 1);
   splitter->setSizes({390, 190});
   splitter->setChildrenCollapsible(false);
-  const auto showChart = [this] { ShowChart(); };
+  chartSoon_->setSingleShot(true);
+  connect(chartSoon_, &QTimer::timeout, this, &ResultsPage::ShowChart);
+  const auto showChart = [this] { chartSoon_->start(); };
   connect(filter_, &QAbstractItemModel::layoutChanged, this, showChart);
   connect(filter_, &QAbstractItemModel::rowsInserted, this, showChart);
   connect(filter_, &QAbstractItemModel::rowsRemoved, this, showChart);
   connect(filter_, &QAbstractItemModel::modelReset, this, showChart);
+  connect(filter_, &QAbstractItemModel::modelReset, this, &ResultsPage::FitColumns);
   connect(table_->verticalScrollBar(), &QScrollBar::valueChanged, this, &ResultsPage::AlignChart);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ResultsPage::ShowUnit);
   connect(chart_, &BarChart::RowClicked, this, [this](int row) { table_->selectRow(row); });
@@ -206,7 +210,7 @@ void ResultsPage::ConnectSolver() {
   connect(solver_, &Solver::Cancelled, this, [this] { ShowMessage(tr("Cancelled. “Compute” starts again.")); });
 }
 
-bool ResultsPage::IsBusy() const { return solver_->IsBusy() || soon_->isActive(); }
+bool ResultsPage::IsBusy() const { return solver_->IsBusy() || soon_->isActive() || chartSoon_->isActive(); }
 
 void ResultsPage::ShowSessions() {
   const Project& project = document_.Data();
@@ -305,10 +309,6 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   if (evaluation->Results.LeftOut.size() > 3)
     lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
   summary_->setText(lines.join(QLatin1Char('\n')));
-  for (int c = 0; c < model_->columnCount(); ++c) {
-    table_->resizeColumnToContents(c);
-    table_->setColumnWidth(c, std::clamp(table_->columnWidth(c) + 10, 70, c == 0 ? 260 : 320));
-  }
   for (int row = 0; row < filter_->rowCount() && !chosen.isEmpty(); ++row) {
     if (filter_->index(row, 0).data().toString() == chosen) table_->selectRow(row);
   }
@@ -316,6 +316,13 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   ShowUnit();
   Q_EMIT Told(
       tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
+}
+
+void ResultsPage::FitColumns() {
+  for (int c = 0; c < filter_->columnCount(); ++c) {
+    table_->resizeColumnToContents(c);
+    table_->setColumnWidth(c, std::clamp(table_->columnWidth(c) + 10, 70, c == 0 ? 260 : 320));
+  }
 }
 
 void ResultsPage::ShowChart() {

@@ -110,6 +110,30 @@ TEST(ResultsModel, SortsByNumbersAndFilters) {
   EXPECT_EQ(filter.index(0, 0).data().toString(), "Hospital A");
 }
 
+TEST(ResultsModel, FiltersManyUnitsTheSameWay) {
+  Project project;
+  DataColumn column;
+  column.Name = "Staff";
+  column.Role = Role::Input;
+  column.Worst = 5001.0;
+  column.Best = 0.0;
+  for (int i = 0; i < 5000; ++i) {
+    project.Units.push_back("Unit " + std::to_string(i));
+    column.Values.emplace_back(5000.0 - i + 0.25);
+  }
+  project.Columns.push_back(column);
+  ResultsModel model;
+  ResultsFilter filter(model);
+  model.Show(Evaluated(project));
+  filter.sort(1, Qt::AscendingOrder);
+  filter.SetText("77");
+  ASSERT_EQ(filter.rowCount(), 95);
+  EXPECT_EQ(filter.index(0, 0).data().toString(), "Unit 77");
+  EXPECT_EQ(filter.index(94, 0).data().toString(), "Unit 4977");
+  filter.SetText({});
+  EXPECT_EQ(filter.rowCount(), 5000);
+}
+
 TEST(ResultsModel, TellsWhenEveryUnitPicksItsOwnWeights) {
   Project project = HospitalsFromTable();
   RemoveUnits(project, {2, 3, 4, 5, 6, 7, 8, 9, 10, 11});

@@ -28,7 +28,7 @@ struct Table {
   bool HasRanks() const { return !From.Results.Units.empty() && From.Results.Units.front().Ranks; }
 
   TableCell ScoreCell(const std::optional<double>& score) const {
-    return {EfficiencyText(score), IsOne(score) ? Ink::Good : Ink::Plain};
+    return {ScoreText(score), IsOne(score) ? Ink::Good : Ink::Plain};
   }
   TableCell JudgedCell(const Dea::UnitResult& unit) const {
     return {JudgedText(From, unit), IsOne(unit.Max) ? Ink::Good : Ink::Plain};

@@ -31,6 +31,9 @@ String RankText(const Dea::RankRange& ranks) {
                                    : std::to_string(ranks.Best) + "-" + std::to_string(ranks.Worst);
 }
 
+// Ratios with two decimals; small ones as far as they have digits.
+String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
+
 int Count(const Evaluation& evaluation, std::optional<double> Dea::UnitResult::*score) {
   const auto& units = evaluation.Results.Units;
   return static_cast<int>(
@@ -48,7 +51,7 @@ bool IsOne(const std::optional<double>& score) { return score && std::fabs(*scor
 
 bool IsBest(const Dea::UnitResult& unit) { return !unit.Distance || *unit.Distance <= kIsBehind; }
 
-String EfficiencyText(const std::optional<double>& score) { return TextBeside(1.0, score); }
+String ScoreText(const std::optional<double>& score) { return TextBeside(1.0, score); }
 
 String DistanceText(const std::optional<double>& distance) { return TextBeside(0.0, distance); }
 
@@ -81,9 +84,9 @@ String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 }
 
 String JudgedText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  const String best = EfficiencyText(unit.Max);
+  const String best = ScoreText(unit.Max);
   if (evaluation.How.Returns != ScoreReturns::Crs) return best;
-  const String worst = EfficiencyText(unit.Min);
+  const String worst = ScoreText(unit.Min);
   return evaluation.How.Orientation == ScoreOrientation::Out ? SpanText(best, worst) : SpanText(worst, best);
 }
 

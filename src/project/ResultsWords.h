@@ -11,7 +11,7 @@ bool IsOne(const std::optional<double>& score);
 bool IsBest(const Dea::UnitResult& unit);  // for some of the weights, in the value form
 
 // Three decimals; more of them where those would say 1 (of a distance: 0) for what is not.
-String EfficiencyText(const std::optional<double>& score);
+String ScoreText(const std::optional<double>& score);
 String DistanceText(const std::optional<double>& distance);
 String ThreeDecimals(const std::optional<double>& number);
 

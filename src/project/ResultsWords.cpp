@@ -31,9 +31,6 @@ String RankText(const Dea::RankRange& ranks) {
                                    : std::to_string(ranks.Best) + "-" + std::to_string(ranks.Worst);
 }
 
-// Ratios with two decimals; small ones as far as they have digits.
-String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
-
 int Count(const Evaluation& evaluation, std::optional<double> Dea::UnitResult::*score) {
   const auto& units = evaluation.Results.Units;
   return static_cast<int>(

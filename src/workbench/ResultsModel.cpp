@@ -1,6 +1,5 @@
 #include "workbench/ResultsModel.h"
 
-#include "project/ResultsTable.h"
 #include "project/ResultsWords.h"
 #include "project/Shown.h"
 #include "workbench/Texts.h"
@@ -141,7 +140,7 @@ bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 }
 
 QString ScoreLabel(const std::optional<double>& score) {
-  return score ? FromText(EfficiencyText(score)) : QStringLiteral("–");
+  return score ? FromText(ScoreText(score)) : QStringLiteral("–");
 }
 
 void ResultsModel::Show(SharedEvaluation evaluation) {

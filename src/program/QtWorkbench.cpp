@@ -1,3 +1,4 @@
+#include "program/Pdf.h"
 #include "program/QtStart.h"
 #include "program/Workbench.h"
 #include "workbench/MainWindow.h"
@@ -59,6 +60,7 @@ int OpenWorkbench(const OpenOptions& options, int& argc, char** argv) {
   QApplication::setOrganizationName(QStringLiteral("Tarnwise"));
   QApplication::setApplicationName(QStringLiteral("Tarnwise"));
   MainWindow window;
+  window.ReportBy(PdfOf);
   window.show();
   if (!options.File.empty() && !window.Open(QString::fromStdString(options.File)) && !options.Pictures.empty())
     return 2;

@@ -115,6 +115,7 @@ void MainWindow::MakeFileMenu() {
   file->addSeparator();
   save_ = file->addAction(tr("&Save"), QKeySequence::Save, files_, &FileActions::Save);
   file->addAction(tr("Save &as…"), QKeySequence::SaveAs, files_, &FileActions::AskAndSave);
+  locked_.push_back(file->addAction(tr("Save repor&t…"), this, &MainWindow::SaveReport));
   file->addSeparator();
   file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
@@ -125,6 +126,19 @@ void MainWindow::MakeEditMenu() {
   redo_ = edit->addAction(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &document_, &Document::Redo);
   edit->addSeparator();
   locked_.push_back(edit->addAction(tr("&Paste"), QKeySequence::Paste, this, &MainWindow::Paste));
+}
+
+// What the page Results shows, of the data as they are now.
+void MainWindow::SaveReport() {
+  const SharedEvaluation shown = results_->Shown();
+  const Project& project = document_.Data();
+  if (!shown || (shown->How.Session && *shown->How.Session >= project.Sessions.size())) {
+    QMessageBox::information(this, tr("Save report"), tr("There are no results to report yet."));
+    return;
+  }
+  if (AskAndSaveReport(this, project, shown->How, makePdf_)) {
+    statusBar()->showMessage(tr("The report was saved."), 15000);
+  }
 }
 
 void MainWindow::Paste() {

@@ -3,6 +3,7 @@
 
 #include "workbench/Advice.h"
 #include "workbench/Document.h"
+#include "workbench/SaveReport.h"
 
 #include <QMainWindow>
 
@@ -33,7 +34,8 @@ class MainWindow : public QMainWindow {
   ResultsPage& Results() { return *results_; }
   bool Open(const QString& path);
   void ShowPage(PageKind page);
-  JudgeSession* Wizard() const { return wizard_; }  // null: not open
+  void ReportBy(MakePdf makePdf) { makePdf_ = std::move(makePdf); }  // without it there are no reports as PDF
+  JudgeSession* Wizard() const { return wizard_; }                   // null: not open
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -49,6 +51,7 @@ class MainWindow : public QMainWindow {
   void MakeEditMenu();
   void ShowState();
   void Paste();
+  void SaveReport();
 
   void Elicit(std::optional<std::size_t> resume);
   bool MayJudge();
@@ -69,6 +72,7 @@ class MainWindow : public QMainWindow {
   QAction* redo_ = nullptr;
   QAction* save_ = nullptr;
   std::vector<QAction*> locked_;  // while the wizard is open
+  MakePdf makePdf_;
   JudgeSession* wizard_ = nullptr;
   std::optional<std::size_t> stored_;  // the session that the open wizard handed over
 };

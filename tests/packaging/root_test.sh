@@ -28,7 +28,7 @@ unshare -m true 2>/dev/null || left_out "mounts of its own are not allowed here"
 read -r mirror suite < <(apt-get indextargets --format '$(CREATED_BY) $(REPO_URI) $(CODENAME)' |
   sed -n 's/^Packages //p') || left_out "apt has no mirror"
 
-inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/root "$@"; }
+inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/tmp/home "$@"; }
 quietly() { inside DEBIAN_FRONTEND=noninteractive "$@" >>"$log" 2>&1; }
 
 # All files of the root and what they are, but for what dpkg, apt and caches keep about packages that were there once.
@@ -56,6 +56,7 @@ quietly timeout 900 apt-get satisfy -y -qq --no-install-recommends \
 cp "$root"/var/cache/apt/archives/*.deb "$folder/archives" 2>/dev/null || true
 before=$(snapshot)
 
+mkdir -p "$root/tmp/home"  # what users keep is theirs
 cp "$folder"/*.deb "$root/tmp"
 # By dpkg, which fetches nothing: the dependencies that they name are all that they need.
 quietly sh -c 'dpkg -i /tmp/*.deb' || fail "they could not be installed, see $log"

@@ -66,8 +66,8 @@ QString Row(const QStringList& cells, const char* tag) {
   QString row = QStringLiteral("<tr>");
   const QString name = QString::fromLatin1(tag);
   for (qsizetype i = 0; i < cells.size(); ++i) {
-    row += "<" + name + (i == 0 ? " align=\"left\"" : " align=\"right\"") + " style=\"padding-right:18px\">" + cells[i] +
-           "</" + name + ">";
+    row += "<" + name + (i == 0 ? " align=\"left\"" : " align=\"right\"") + " style=\"padding-right:18px\">" +
+           cells[i] + "</" + name + ">";
   }
   return row + "</tr>";
 }
@@ -75,11 +75,13 @@ QString Row(const QStringList& cells, const char* tag) {
 QString PricesTable(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   if (unit.Prices.empty()) return {};
   QString table = "<table>" + Row({ResultsModel::tr("At its best"), ResultsModel::tr("Price of a unit"),
-                                   ResultsModel::tr("Share of its group")}, "th");
+                                   ResultsModel::tr("Share of its group")},
+                                  "th");
   for (std::size_t j = 0; j < unit.Prices.size(); ++j) {
     const QString share = unit.Shares[j] ? QString::number(100.0 * *unit.Shares[j], 'f', 1) + " %" : QString();
-    table += Row({Escaped(FromText(evaluation.Problem.Columns[j].Name)),
-                  FromText(SignificantText(unit.Prices[j], 4)), share}, "td");
+    table += Row(
+        {Escaped(FromText(evaluation.Problem.Columns[j].Name)), FromText(SignificantText(unit.Prices[j], 4)), share},
+        "td");
   }
   return table + "</table>";
 }
@@ -99,10 +101,11 @@ QString RangeSentence(const Evaluation& evaluation, const Dea::UnitResult& unit)
   }
   const bool isPoint = unit.Min && ScoreLabel(unit.Min) == ScoreLabel(unit.Max);
   const QString range = isPoint ? ScoreLabel(unit.Max)
-                        : unit.Min ? ResultsModel::tr("between %1 and %2").arg(ScoreLabel(unit.Min), ScoreLabel(unit.Max))
-                                 : ResultsModel::tr("at best %1").arg(ScoreLabel(unit.Max));
-  QString sentence = ResultsModel::tr("With these judgments %1 is %2 efficient (without: %3)")
-                         .arg(name, range, ScoreLabel(unit.Free));
+                        : unit.Min
+                            ? ResultsModel::tr("between %1 and %2").arg(ScoreLabel(unit.Min), ScoreLabel(unit.Max))
+                            : ResultsModel::tr("at best %1").arg(ScoreLabel(unit.Max));
+  QString sentence =
+      ResultsModel::tr("With these judgments %1 is %2 efficient (without: %3)").arg(name, range, ScoreLabel(unit.Free));
   if (unit.Ranks) sentence += ResultsModel::tr(", on rank %1").arg(RanksLabel(unit));
   return sentence + ".";
 }
@@ -125,7 +128,8 @@ QString Dominated(const Evaluation& evaluation, const std::vector<int>& dominato
     names += Escaped(NameOfUnit(evaluation, dominators[i]));
   }
   if (dominators.size() > kMost) names += ResultsModel::tr("and %1 more").arg(dominators.size() - kMost);
-  return "<p>" + ResultsModel::tr("Better at all of the judged weights: %1.").arg(names.join(QStringLiteral(", "))) + "</p>";
+  return "<p>" + ResultsModel::tr("Better at all of the judged weights: %1.").arg(names.join(QStringLiteral(", "))) +
+         "</p>";
 }
 
 }  // namespace
@@ -196,8 +200,7 @@ QVariant ResultsModel::data(const QModelIndex& index, int role) const {
       const QVariant number = NumberAt(unit, field);
       return number.isValid() || !isText ? number : QVariant(TextAt(unit, field));
     }
-    case Qt::TextAlignmentRole:
-      return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    case Qt::TextAlignmentRole: return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default: return {};
   }
 }
@@ -232,12 +235,20 @@ ResultsFilter::ResultsFilter(ResultsModel& model) : model_(model) {
 
 void ResultsFilter::SetText(const QString& text) {
   text_ = text;
-  invalidateFilter();
+  FilterAnew();
 }
 
 void ResultsFilter::SetOnlyBest(bool on) {
   onlyBest_ = on;
-  invalidateFilter();
+  FilterAnew();
+}
+
+// Every stretch of rows that goes is told by itself, and views take their time with each: many rows come as new ones.
+void ResultsFilter::FilterAnew() {
+  constexpr int kManyRows = 2000;
+  if (model_.rowCount() <= kManyRows) return invalidateFilter();
+  setSourceModel(nullptr);
+  setSourceModel(&model_);
 }
 
 bool ResultsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
@@ -247,14 +258,15 @@ bool ResultsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) con
 
 QString SummaryText(const Evaluation& evaluation) {
   const auto& units = evaluation.Results.Units;
-  const auto best = std::count_if(units.begin(), units.end(),
-                                  [&](const Dea::UnitResult& unit) { return IsBest(evaluation, unit); });
+  const auto best =
+      std::count_if(units.begin(), units.end(), [&](const Dea::UnitResult& unit) { return IsBest(evaluation, unit); });
   if (evaluation.How.Form == ScoreForm::Value) {
     return ResultsModel::tr("%1 of %2 are best at some of the weights.")
         .arg(best)
         .arg(FromText(CountOf(units.size(), "unit")));
   }
-  const QString counted = ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(FromText(CountOf(units.size(), "unit")));
+  const QString counted =
+      ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(FromText(CountOf(units.size(), "unit")));
   if (evaluation.How.Session) return ResultsModel::tr("%1 under the judgments.").arg(counted);
   const bool all = static_cast<std::size_t>(best) == units.size();
   if (!all) return ResultsModel::tr("%1 without judgments.").arg(counted);

@@ -22,9 +22,7 @@ class ResultsModel : public QAbstractTableModel {
 
   void Show(SharedEvaluation evaluation);  // null: nothing
   const SharedEvaluation& Shown() const { return evaluation_; }
-  const Dea::UnitResult& ResultOf(int row) const {
-    return evaluation_->Results.Units[static_cast<std::size_t>(row)];
-  }
+  const Dea::UnitResult& ResultOf(int row) const { return evaluation_->Results.Units[static_cast<std::size_t>(row)]; }
   QString UnitName(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -54,6 +52,8 @@ class ResultsFilter : public QSortFilterProxyModel {
   bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
  private:
+  void FilterAnew();
+
   ResultsModel& model_;
   QString text_;
   bool onlyBest_ = false;
@@ -67,8 +67,8 @@ QString ScoreLabel(const std::optional<double>& score);
 // unit pick its own weights."
 QString SummaryText(const Evaluation& evaluation);
 
-// What is known of a unit, as HTML: its range, what holds it back, prices, shares, peers, and the units given, which are
-// better than it at all weights.
+// What is known of a unit, as HTML: its range, what holds it back, prices, shares, peers, and the units given, which
+// are better than it at all weights.
 QString DetailsOf(const Evaluation& evaluation, const Dea::UnitResult& unit, const std::vector<int>& dominators);
 
 }  // namespace Tarnwise

@@ -14,10 +14,12 @@ class Drawing {
   Drawing(HDC dc, const Ink& ink, int fine)
       : brush_(ink.Fill ? CreateSolidBrush(*ink.Fill) : nullptr),
         pen_(PenOf(ink, fine)),
+        dc_(dc),
         withBrush_(dc, brush_ ? brush_.get() : GetStockObject(NULL_BRUSH)),
         withPen_(dc, pen_.get()) {
     SetPolyFillMode(dc, ink.Winding ? WINDING : ALTERNATE);
   }
+  HDC Dc() const { return dc_; }
 
  private:
   static HPEN PenOf(const Ink& ink, int fine) {
@@ -29,6 +31,7 @@ class Drawing {
 
   const Brush brush_;
   const Pen pen_;
+  HDC dc_;
   const Selected withBrush_;
   const Selected withPen_;
 };
@@ -73,26 +76,26 @@ void WinSurface::Straight(Spot from, Spot to, Colour colour, double width) {
 void WinSurface::Polyline(const std::vector<Spot>& spots, const Ink& ink) {
   const Drawing drawing(dc_, ink, fine_);
   const std::vector<POINT> points = At(spots);
-  ::Polyline(dc_, points.data(), static_cast<int>(points.size()));
+  ::Polyline(drawing.Dc(), points.data(), static_cast<int>(points.size()));
 }
 
 void WinSurface::Polygon(const std::vector<Spot>& spots, const Ink& ink) {
   const Drawing drawing(dc_, ink, fine_);
   const std::vector<POINT> points = At(spots);
-  ::Polygon(dc_, points.data(), static_cast<int>(points.size()));
+  ::Polygon(drawing.Dc(), points.data(), static_cast<int>(points.size()));
 }
 
 void WinSurface::Ellipse(const Box& box, const Ink& ink) {
   const Drawing drawing(dc_, ink, fine_);
   const RECT r = At(box);
-  ::Ellipse(dc_, r.left, r.top, r.right + 1, r.bottom + 1);
+  ::Ellipse(drawing.Dc(), r.left, r.top, r.right, r.bottom);
 }
 
 void WinSurface::RoundBox(const Box& box, double radius, const Ink& ink) {
   const Drawing drawing(dc_, ink, fine_);
   const RECT r = At(box);
   const int corner = static_cast<int>(std::lround(2.0 * radius * fine_));
-  RoundRect(dc_, r.left, r.top, r.right + 1, r.bottom + 1, corner, corner);
+  RoundRect(drawing.Dc(), r.left, r.top, r.right, r.bottom, corner, corner);
 }
 
 }  // namespace Tarnwise

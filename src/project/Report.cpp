@@ -59,7 +59,8 @@ void Report::List(std::vector<String> items) {
 }
 
 void Report::Add(ReportTable table) {
-  for (ReportTable& part : PartsOf(std::move(table))) {
+  std::vector<ReportTable> parts = PartsOf(std::move(table));
+  for (ReportTable& part : parts) {
     Blocks.push_back(BlockOf(ReportBlock::Kind::Table, {}));
     Blocks.back().Table = std::move(part);
   }

@@ -58,9 +58,9 @@ std::vector<String> Scores::Row(const Dea::UnitResult& unit) const {
   if (IsValue()) {
     row.insert(row.end(), {Value(unit), DistanceText(unit.Distance), DistanceText(unit.Regret)});
   } else if (IsJudged()) {
-    row.insert(row.end(), {EfficiencyText(unit.Free), JudgedText(From, unit)});
+    row.insert(row.end(), {ScoreText(unit.Free), JudgedText(From, unit)});
   } else {
-    row.push_back(EfficiencyText(unit.Max));
+    row.push_back(ScoreText(unit.Max));
   }
   if (!IsValue() && IsConstant()) row.push_back(ThreeDecimals(unit.Super));
   if (HasRanks()) row.push_back(RanksText(unit));
@@ -68,8 +68,8 @@ std::vector<String> Scores::Row(const Dea::UnitResult& unit) const {
 }
 
 String Scores::RatioReason(const Dea::UnitResult& unit) const {
-  String text = "efficiency " + (IsJudged() ? JudgedText(From, unit) + ", without judgments " + EfficiencyText(unit.Free)
-                                            : EfficiencyText(unit.Max));
+  String text = "efficiency " + (IsJudged() ? JudgedText(From, unit) + ", without judgments " + ScoreText(unit.Free)
+                                            : ScoreText(unit.Max));
   if (HasRanks()) text += RankPart(unit);
   text += ".";
   if (!unit.HeldBackBy.empty()) text += " Held back by " + HeldBackText(From, unit) + ".";

@@ -1,6 +1,6 @@
 #include "project/CsvText.h"
-#include "project/ResultsTable.h"
 #include "project/ResultsText.h"
+#include "project/ResultsWords.h"
 
 #include <algorithm>
 

@@ -12,9 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-// Ratios with two decimals; small ones as far as they have digits.
-String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
-
 TableRow Header(const std::vector<const char*>& texts) {
   TableRow row;
   for (const char* const text : texts) row.push_back({text, Ink::Strong});
@@ -31,7 +28,7 @@ struct Table {
   bool HasRanks() const { return !From.Results.Units.empty() && From.Results.Units.front().Ranks; }
 
   TableCell ScoreCell(const std::optional<double>& score) const {
-    return {EfficiencyText(score), IsOne(score) ? Ink::Good : Ink::Plain};
+    return {ScoreText(score), IsOne(score) ? Ink::Good : Ink::Plain};
   }
   TableCell JudgedCell(const Dea::UnitResult& unit) const {
     return {JudgedText(From, unit), IsOne(unit.Max) ? Ink::Good : Ink::Plain};
@@ -83,13 +80,6 @@ void Table::AddValues() {
 }
 
 }  // namespace
-
-String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
-  const String& name = evaluation.Problem.Columns[static_cast<std::size_t>(bound.Column)].Name;
-  const String gain = bound.Gain < 0.0005 ? SignificantText(bound.Gain, 1) : FixedText(bound.Gain, 3);
-  return ShownName(name) + (bound.Side == Dea::Side::Low ? " >= " : " <= ") + RatioText(bound.Ratio) + " (" + gain +
-         ")";
-}
 
 String ResultsTable(const Project& project, const Evaluation& evaluation, bool colours) {
   const Dea::Results& results = evaluation.Results;

@@ -9,7 +9,4 @@ namespace Tarnwise {
 // are left out, and the certificate. `project` is the one that was evaluated.
 String ResultsTable(const Project& project, const Evaluation& evaluation, bool colours);
 
-// "Inpatients >= 2.00 (0.146)": the bound as it stands in the session, and what dropping it alone would gain.
-String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound);
-
 }  // namespace Tarnwise

@@ -1,6 +1,5 @@
 #include "project/ResultsWords.h"
 
-#include "project/ResultsTable.h"
 #include "project/Sentences.h"
 #include "project/Shown.h"
 
@@ -24,6 +23,9 @@ String TextBeside(double mark, const std::optional<double>& number) {
   return FixedText(*number, decimals);
 }
 
+// Ratios with two decimals; small ones as far as they have digits.
+String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
+
 String RankText(const Dea::RankRange& ranks) {
   return ranks.Best == ranks.Worst ? std::to_string(ranks.Best)
                                    : std::to_string(ranks.Best) + "-" + std::to_string(ranks.Worst);
@@ -46,7 +48,7 @@ bool IsOne(const std::optional<double>& score) { return score && std::fabs(*scor
 
 bool IsBest(const Dea::UnitResult& unit) { return !unit.Distance || *unit.Distance <= kIsBehind; }
 
-String EfficiencyText(const std::optional<double>& score) { return TextBeside(1.0, score); }
+String ScoreText(const std::optional<double>& score) { return TextBeside(1.0, score); }
 
 String DistanceText(const std::optional<double>& distance) { return TextBeside(0.0, distance); }
 
@@ -61,6 +63,13 @@ String RanksText(const Dea::UnitResult& unit) {
   return sure == seen ? sure : sure + ", seen " + seen;
 }
 
+String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
+  const String& name = evaluation.Problem.Columns[static_cast<std::size_t>(bound.Column)].Name;
+  const String gain = bound.Gain < 0.0005 ? SignificantText(bound.Gain, 1) : FixedText(bound.Gain, 3);
+  return ShownName(name) + (bound.Side == Dea::Side::Low ? " >= " : " <= ") + RatioText(bound.Ratio) + " (" + gain +
+         ")";
+}
+
 String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   constexpr std::size_t kMost = 4;
   String text;
@@ -72,9 +81,9 @@ String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 }
 
 String JudgedText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  const String best = EfficiencyText(unit.Max);
+  const String best = ScoreText(unit.Max);
   if (evaluation.How.Returns != ScoreReturns::Crs) return best;
-  const String worst = EfficiencyText(unit.Min);
+  const String worst = ScoreText(unit.Min);
   return evaluation.How.Orientation == ScoreOrientation::Out ? SpanText(best, worst) : SpanText(worst, best);
 }
 

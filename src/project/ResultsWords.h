@@ -11,13 +11,15 @@ bool IsOne(const std::optional<double>& score);
 bool IsBest(const Dea::UnitResult& unit);  // for some of the weights, in the value form
 
 // Three decimals; more of them where those would say 1 (of a distance: 0) for what is not.
-String EfficiencyText(const std::optional<double>& score);
+String ScoreText(const std::optional<double>& score);
 String DistanceText(const std::optional<double>& distance);
 String ThreeDecimals(const std::optional<double>& number);
 
 String SpanText(const String& low, const String& high);  // "0.809 - 0.854"; one number where both are the same
 String RanksText(const Dea::UnitResult& unit);           // "4-11, seen 5-11"
 
+// "Inpatients >= 2.00 (0.146)": the bound as it stands in the session, and what dropping it alone would gain.
+String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound);
 String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit);  // the four bounds that cost most
 
 // The judged range of a unit's efficiency, the least number first; off constant returns its best case alone.

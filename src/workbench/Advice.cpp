@@ -40,8 +40,8 @@ std::optional<Advice> MissingIn(const Project& project) {
 Advice AdviceFor(const Project& project) {
   if (const auto missing = MissingIn(project)) return *missing;
   if (project.Sessions.empty()) {
-    return {Tr::tr("No judgments yet: every unit may pick its own weights. Elicit a decision maker's judgments."), false,
-            PageKind::Judgments};
+    return {Tr::tr("No judgments yet: every unit may pick its own weights. Elicit a decision maker's judgments."),
+            false, PageKind::Judgments};
   }
   try {
     if (const auto session = SessionInUse(project)) CheckSession(project, *session);

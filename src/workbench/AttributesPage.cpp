@@ -72,8 +72,9 @@ QWidget* AttributesPage::MakeCurve() {
   auto* const layout = new QVBoxLayout(side);
   layout->setContentsMargins(0, 0, 0, 0);
   chart_ = Named(new CurveChart(side), "curveChart", tr("Value curve"));
-  chart_->setAccessibleDescription(tr("Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete "
-                                      "removes it."));
+  chart_->setAccessibleDescription(
+      tr("Page Up and Page Down choose a point, arrows move it, Insert adds one, Delete "
+         "removes it."));
   layout->addWidget(chart_, 1);
   notes_ = Named(new QLabel, "curveNotes", tr("What is to be said of the curve"));
   notes_->setWordWrap(true);

@@ -128,9 +128,8 @@ Qt::ItemFlags DataModel::flags(const QModelIndex& index) const {
 bool DataModel::setData(const QModelIndex& index, const QVariant& value, int role) {
   if (role != Qt::EditRole || !index.isValid()) return false;
   const String text = ToText(value.toString());
-  return document_.Edit(tr("Change of a cell"), [&](Project& project) {
-    PutBlock(project, At(index.row()), At(index.column()), {{text}});
-  });
+  return document_.Edit(tr("Change of a cell"),
+                        [&](Project& project) { PutBlock(project, At(index.row()), At(index.column()), {{text}}); });
 }
 
 QString DataModel::Explained(const QModelIndex& index) const {
@@ -221,12 +220,10 @@ bool ColumnsModel::setData(const QModelIndex& index, const QVariant& value, int 
   const String text = ToText(value.toString());
   switch (index.column()) {
     case kName:
-      return document_.Edit(tr("New name of a column"),
-                            [&](Project& project) { RenameColumn(project, column, text); });
+      return document_.Edit(tr("New name of a column"), [&](Project& project) { RenameColumn(project, column, text); });
     case kRole:
-      return document_.Edit(tr("New role of a column"), [&](Project& project) {
-        SetRole(project, column, static_cast<Role>(value.toInt()));
-      });
+      return document_.Edit(tr("New role of a column"),
+                            [&](Project& project) { SetRole(project, column, static_cast<Role>(value.toInt())); });
     case kUnit:
       return document_.Edit(tr("New unit of measure"), [&](Project& project) { project.Columns[column].Unit = text; });
     default: return SetNumber(column, index.column(), value.toString());

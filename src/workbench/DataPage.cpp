@@ -134,8 +134,9 @@ void DataPage::AddButtons(QBoxLayout& layout) {
     for (const QModelIndex& index : table_->selectionModel()->selectedIndexes()) {
       units.insert(static_cast<std::size_t>(index.row()));
     }
-    document_.Edit(tr("Removal of units"),
-                   [&](Project& project) { RemoveUnits(project, {units.begin(), units.end()}); });
+    document_.Edit(tr("Removal of units"), [&](Project& project) {
+      RemoveUnits(project, {units.begin(), units.end()});
+    });
   });
 }
 
@@ -154,8 +155,9 @@ QWidget* DataPage::MakeColumns() {
   columnsTable_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   columnsTable_->horizontalHeader()->setStretchLastSection(true);
   layout->addWidget(columnsTable_, 1);
-  auto* const hint = new QLabel(tr("Inputs are better when they are less, outputs when they are more. Worst and best "
-                                   "are the range that judgments compare."));
+  auto* const hint =
+      new QLabel(tr("Inputs are better when they are less, outputs when they are more. Worst and best "
+                    "are the range that judgments compare."));
   hint->setWordWrap(true);
   layout->addWidget(hint);
   auto* const range = Button("rangeFromData", tr("Range from the &data"));

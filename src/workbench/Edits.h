@@ -15,8 +15,8 @@ void RenameColumn(Project& project, std::size_t column, const String& name);
 void AddUnit(Project& project, const String& name);
 void RemoveUnits(Project& project, std::vector<std::size_t> units);
 
-// Texts of a block of cells, unit by unit, from that place on; column 0 holds the units' names. Nothing is changed where
-// a text is no number, or where the block goes over the edge.
+// Texts of a block of cells, unit by unit, from that place on; column 0 holds the units' names. Nothing is changed
+// where a text is no number, or where the block goes over the edge.
 void PutBlock(Project& project, std::size_t unit, std::size_t column, const std::vector<std::vector<String>>& texts);
 
 // The cells of a spreadsheet's clipboard text.

@@ -33,19 +33,17 @@ WizardData ReadWholeModel(const QString& path) {
 
 }  // namespace
 
-FileActions::FileActions(Document& document, QWidget* window)
-    : QObject(window), document_(document), window_(window) {}
+FileActions::FileActions(Document& document, QWidget* window) : QObject(window), document_(document), window_(window) {}
 
-void FileActions::TellFault(const QString& title, const QString& text) {
-  QMessageBox::warning(window_, title, text);
-}
+void FileActions::TellFault(const QString& title, const QString& text) { QMessageBox::warning(window_, title, text); }
 
 bool FileActions::MayLeave() {
   if (!document_.IsChanged()) return true;
   const QString name = FromText(document_.Data().Name);
-  const auto answer = QMessageBox::question(
-      window_, tr("Unsaved changes"), tr("%1 has changes that are not saved.").arg(name.isEmpty() ? tr("The project") : name),
-      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+  const auto answer =
+      QMessageBox::question(window_, tr("Unsaved changes"),
+                            tr("%1 has changes that are not saved.").arg(name.isEmpty() ? tr("The project") : name),
+                            QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
   if (answer == QMessageBox::Save) return Save();
   return answer == QMessageBox::Discard;
 }
@@ -79,8 +77,7 @@ bool FileActions::OpenProject(const QString& path) {
 bool FileActions::ImportModelFile(const QString& path) {
   const WizardData data = ReadWholeModel(path);
   const bool points = QFileInfo::exists(FromText(PointsPath(ToText(path))));
-  ImportedModel imported =
-      ImportModel(data, points ? PointsText(ReadPoints(ToText(path), data.NumAtts())) : String());
+  ImportedModel imported = ImportModel(data, points ? PointsText(ReadPoints(ToText(path), data.NumAtts())) : String());
   imported.Project.Name = ToText(QFileInfo(path).completeBaseName());
   QStringList notes;
   for (const String& note : imported.Notes) notes += FromText(note);
@@ -117,8 +114,8 @@ bool FileActions::Save() { return document_.Path().isEmpty() ? AskAndSave() : Sa
 
 bool FileActions::AskAndSave() {
   const QString name = FromText(document_.Data().Name);
-  const QString proposed = document_.Path().isEmpty() ? (name.isEmpty() ? tr("project") : name) + ".tarnwise"
-                                                      : document_.Path();
+  const QString proposed =
+      document_.Path().isEmpty() ? (name.isEmpty() ? tr("project") : name) + ".tarnwise" : document_.Path();
   QString path = QFileDialog::getSaveFileName(window_, tr("Save as"), proposed, tr("Projects (*.tarnwise)"));
   if (path.isEmpty()) return false;
   if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".tarnwise");
@@ -139,7 +136,8 @@ bool FileActions::SaveTo(const QString& path) {
   try {
     document_.Save(path);
   } catch (const ModelFault& fault) {
-    TellFault(tr("Not saved"), tr("%1\n\nThe file is as it was, and the project is still open here.").arg(FromText(fault.what())));
+    TellFault(tr("Not saved"),
+              tr("%1\n\nThe file is as it was, and the project is still open here.").arg(FromText(fault.what())));
     return false;
   }
   Remember(path);

@@ -1,5 +1,5 @@
-// What is done with whole files: opening, importing, saving, the recent ones; and what is asked before anything would be
-// lost.
+// What is done with whole files: opening, importing, saving, the recent ones; and what is asked before anything would
+// be lost.
 #pragma once
 
 #include "workbench/Document.h"

@@ -19,8 +19,8 @@ enum RoleChoice { kUnused, kUnitNames, kInput, kOutput };
 const std::vector<char> kDelimiters = {'\0', ',', ';', '\t', '|'};
 const std::vector<char> kDecimals = {'\0', '.', ','};
 const std::vector<char> kThousands = {'\0', '.', ',', ' ', '\''};
-const std::vector<std::optional<TextEncoding>> kEncodings = {std::nullopt, TextEncoding::Utf8, TextEncoding::Windows1252,
-                                                      TextEncoding::Utf16Le, TextEncoding::Utf16Be};
+const std::vector<std::optional<TextEncoding>> kEncodings = {
+    std::nullopt, TextEncoding::Utf8, TextEncoding::Windows1252, TextEncoding::Utf16Le, TextEncoding::Utf16Be};
 
 template <class Value>
 Value Chosen(const QComboBox& box, const std::vector<Value>& values) {
@@ -32,8 +32,8 @@ std::optional<char> ChosenSign(char sign) { return sign == '\0' ? std::nullopt :
 // Faults name the command line's options; here they are boxes.
 QString InWindowsWords(QString text) {
   const std::pair<const char*, QString> words[] = {
-      {"--no-header", ImportDialog::tr("“First row”")},    {"--header", ImportDialog::tr("“First row”")},
-      {"--delimiter", ImportDialog::tr("“Separator”")},    {"--decimal", ImportDialog::tr("“Decimal sign”")},
+      {"--no-header", ImportDialog::tr("“First row”")},      {"--header", ImportDialog::tr("“First row”")},
+      {"--delimiter", ImportDialog::tr("“Separator”")},      {"--decimal", ImportDialog::tr("“Decimal sign”")},
       {"--thousands", ImportDialog::tr("“Thousands mark”")}, {"--encoding", ImportDialog::tr("“Encoding”")},
       {"--missing", ImportDialog::tr("an empty cell")}};
   for (const auto& [option, word] : words) text.replace(QLatin1String(option), word);
@@ -77,10 +77,13 @@ ImportDialog::ImportDialog(std::vector<char> bytes, QString name, QWidget* paren
   auto* const layout = new QVBoxLayout(this);
   auto* const choices = new QHBoxLayout;
   layout->addLayout(choices);
-  delimiter_ = AddChoice("delimiter", tr("&Separator"), {tr("Found out"), tr("Comma"), tr("Semicolon"), tr("Tab"), tr("Vertical bar")});
+  delimiter_ = AddChoice("delimiter", tr("&Separator"),
+                         {tr("Found out"), tr("Comma"), tr("Semicolon"), tr("Tab"), tr("Vertical bar")});
   decimal_ = AddChoice("decimal", tr("&Decimal sign"), {tr("Found out"), tr("Point: 1.5"), tr("Comma: 1,5")});
-  thousands_ = AddChoice("thousands", tr("&Thousands mark"), {tr("None"), tr("Point"), tr("Comma"), tr("Blank"), tr("Apostrophe")});
-  encoding_ = AddChoice("encoding", tr("&Encoding"), {tr("Found out"), "UTF-8", "Windows-1252", "UTF-16LE", "UTF-16BE"});
+  thousands_ = AddChoice("thousands", tr("&Thousands mark"),
+                         {tr("None"), tr("Point"), tr("Comma"), tr("Blank"), tr("Apostrophe")});
+  encoding_ =
+      AddChoice("encoding", tr("&Encoding"), {tr("Found out"), "UTF-8", "Windows-1252", "UTF-16LE", "UTF-16BE"});
   header_ = AddChoice("header", tr("&First row"), {tr("Found out"), tr("Names of columns"), tr("Data")});
   understood_ = Named(new QLabel, "understood", tr("What was understood"));
   understood_->setWordWrap(true);
@@ -140,12 +143,12 @@ void ImportDialog::ReadAgain() {
     Show(table);
     const FoundFormat format = FindFormat(table, NumericColumns(table), Numbers());
     const QString seen = format.Seen ? QString() : tr(" (no number has one)");
-    understood_->setText(
-        tr("Understood: separator %1, decimal sign %2, encoding %3, %4, %5.")
-            .arg(FromText(NameOfDelimiter(table.Delimiter)), QString::fromUtf8(NameOfSign(format.Format.Decimal)) + seen,
-                 QString::fromUtf8(NameOf(table.Encoding)),
-                 table.Header ? tr("names of columns in the first row") : tr("data in the first row"),
-                 FromText(CountOf(table.RowsInFile(), "row"))));
+    understood_->setText(tr("Understood: separator %1, decimal sign %2, encoding %3, %4, %5.")
+                             .arg(FromText(NameOfDelimiter(table.Delimiter)),
+                                  QString::fromUtf8(NameOfSign(format.Format.Decimal)) + seen,
+                                  QString::fromUtf8(NameOf(table.Encoding)),
+                                  table.Header ? tr("names of columns in the first row") : tr("data in the first row"),
+                                  FromText(CountOf(table.RowsInFile(), "row"))));
     CheckRoles();
   } catch (const ModelFault& fault) {
     understood_->setText(tr("Not understood yet."));
@@ -194,9 +197,7 @@ void ImportDialog::ShowRoles(const CsvTable& table) {
   }
 }
 
-QComboBox* ImportDialog::RoleBox(int column) const {
-  return static_cast<QComboBox*>(preview_->cellWidget(0, column));
-}
+QComboBox* ImportDialog::RoleBox(int column) const { return static_cast<QComboBox*>(preview_->cellWidget(0, column)); }
 
 void ImportDialog::Tell(const QString& text, bool isFault) {
   advice_->setText(text);
@@ -263,7 +264,8 @@ QString ImportDialog::Report() const {
                  .arg(FromText(ShownName(cell.Unit)), FromText(ShownName(cell.Column)), FromText(ShownName(cell.Text)));
   }
   for (const ColumnCount& count : imported_.Report.Texts) {
-    lines += tr("%1: %2 cells are no numbers and were not kept.").arg(FromText(ShownName(count.Column))).arg(count.Count);
+    lines +=
+        tr("%1: %2 cells are no numbers and were not kept.").arg(FromText(ShownName(count.Column))).arg(count.Count);
   }
   return lines.join(QLatin1Char('\n'));
 }

@@ -23,6 +23,18 @@ QString IntervalText(const std::optional<double>& low, const std::optional<doubl
   return *low == *high ? RatioText(*low) : RatioText(*low) + " – " + RatioText(*high);
 }
 
+// What a ratio compares.
+QString MeaningOf(JudgmentBasis basis) {
+  switch (basis) {
+    case JudgmentBasis::Range:
+      return JudgmentsPage::tr("weight of the attribute's step from worst to best, in steps of its group's reference");
+    case JudgmentBasis::Scale:
+      return JudgmentsPage::tr("weight of the attribute's whole curve, in curves of its group's reference");
+    case JudgmentBasis::Unit: return JudgmentsPage::tr("price of one unit, in prices of its group's reference");
+  }
+  return {};
+}
+
 // A zero bound is none.
 std::optional<double> BoundOf(const std::optional<double>& bound) {
   return bound && *bound > 0.0 ? bound : std::nullopt;
@@ -200,7 +212,6 @@ QWidget* JudgmentsPage::MakeJudgments() {
   auto* const splitter = new QSplitter(Qt::Vertical);
   chart_ = Named(new BarChart(splitter), "intervalChart", tr("Judged intervals"));
   chart_->SetLogarithmic(true);
-  chart_->SetAxisLabel(tr("weight of the attribute's step from worst to best, in steps of its group's reference"));
   auto* const below = new QWidget;
   auto* const layout = new QVBoxLayout(below);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -240,8 +251,9 @@ std::optional<std::size_t> JudgmentsPage::Compared() const {
 void JudgmentsPage::ShowSessions() {
   const Project& project = document_.Data();
   const int count = static_cast<int>(project.Sessions.size());
-  const bool grown = count > sessions_->count();
-  const int row = grown ? count - 1 : std::min(sessions_->currentRow(), count - 1);
+  const auto used = SessionInUse(project);
+  const bool others = count != sessions_->count();
+  const int row = others && used ? static_cast<int>(*used) : std::min(sessions_->currentRow(), count - 1);
   const int compared = compare_->currentIndex();
   {
     const QSignalBlocker quietSessions(sessions_);
@@ -321,8 +333,10 @@ void JudgmentsPage::ShowChart(const std::vector<JudgmentLine>& lines, const std:
   const auto [low, high] = RatiosShown(all);
   chart_->SetShown(low, high);
   chart_->SetReferenceLine(1.0);
+  chart_->SetAxisLabel(MeaningOf(document_.Data().Sessions[*Session()].Basis));
   const QString title = SessionLabel(document_.Data(), *Session());
-  chart_->SetTitle(other.empty() ? title : tr("%1 (full), %2 (hatched)").arg(title, SessionLabel(document_.Data(), *Compared())));
+  chart_->SetTitle(
+      other.empty() ? title : tr("%1 (full), %2 (hatched)").arg(title, SessionLabel(document_.Data(), *Compared())));
   chart_->SetRows(std::move(rows));
 }
 
@@ -330,9 +344,9 @@ void JudgmentsPage::ShowCross(const JudgmentSession& session) {
   if (!session.Cross || !session.Cross->Judged || !session.Cross->Ratio) {
     return cross_->setText(tr("The two references were not compared with each other."));
   }
-  cross_->setText(tr("%1 is worth %2 times %3 (used by the value form only).")
-                      .arg(FromText(session.CostReference), RatioText(*session.Cross->Ratio),
-                           FromText(session.BenefitReference)));
+  cross_->setText(
+      tr("%1 is worth %2 times %3 (used by the value form only).")
+          .arg(FromText(session.CostReference), RatioText(*session.Cross->Ratio), FromText(session.BenefitReference)));
 }
 
 void JudgmentsPage::EditSession(const QString& what, const std::function<void(JudgmentSession&)>& change) {

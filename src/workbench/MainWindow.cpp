@@ -23,9 +23,8 @@ MainWindow::MainWindow() : files_(new FileActions(document_, this)) {
   MakePages();
   MakeMenus();
   connect(&document_, &Document::Changed, this, &MainWindow::ShowState);
-  connect(&document_, &Document::Refused, this, [this](const QString& reason) {
-    QMessageBox::warning(this, tr("Not possible"), reason);
-  });
+  connect(&document_, &Document::Refused, this,
+          [this](const QString& reason) { QMessageBox::warning(this, tr("Not possible"), reason); });
   const auto tell = [this](const QString& text) { statusBar()->showMessage(text, 15000); };
   connect(files_, &FileActions::Told, this, tell);
   connect(results_, &ResultsPage::Told, this, tell);
@@ -75,7 +74,8 @@ void MainWindow::MakePages() {
   results_ = new ResultsPage(document_);
   for (QWidget* const page : std::initializer_list<QWidget*>{data_, attributes_, judgments_, results_}) {
     tabs_->addTab(page, QString::number(tabs_->count() + 1) + "  " + page->accessibleName());
-    auto* const shortcut = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + tabs_->count())), this);
+    auto* const shortcut =
+        new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + tabs_->count())), this);
     connect(shortcut, &QShortcut::activated, this, [this, page] { tabs_->setCurrentWidget(page); });
   }
   connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::ShowState);
@@ -94,10 +94,11 @@ void MainWindow::MakeMenus() {
   }
   QMenu* const help = menuBar()->addMenu(tr("&Help"));
   help->addAction(tr("&About Tarnwise"), this, [this] {
-    QMessageBox::about(this, tr("About Tarnwise"),
-                       tr("Tarnwise asks a decision maker for the weights of a data envelopment analysis, and works out "
-                          "what they mean for each unit.\n\nThis program contains GLPK and QCustomPlot and is "
-                          "distributed under the GPL."));
+    QMessageBox::about(
+        this, tr("About Tarnwise"),
+        tr("Tarnwise asks a decision maker for the weights of a data envelopment analysis, and works out "
+           "what they mean for each unit.\n\nThis program contains GLPK and QCustomPlot and is "
+           "distributed under the GPL."));
   });
   Named(menuBar(), "menus", tr("Menus"));
 }
@@ -144,7 +145,8 @@ void MainWindow::ShowState() {
   advice_->setText((advice.IsMissing ? tr("Missing: ") : QString()) + advice.Text);
   go_->setVisible(tabs_->currentIndex() != static_cast<int>(advice.Where));
   go_->setText(tr("&Go to %1").arg(tabs_->widget(static_cast<int>(advice.Where))->accessibleName()));
-  const QString name = document_.Path().isEmpty() ? FromText(document_.Data().Name) : QFileInfo(document_.Path()).fileName();
+  const QString name =
+      document_.Path().isEmpty() ? FromText(document_.Data().Name) : QFileInfo(document_.Path()).fileName();
   setWindowTitle((name.isEmpty() ? tr("New project") : name) + "[*] – " + tr("Tarnwise"));
   setWindowModified(document_.IsChanged());
   undo_->setEnabled(document_.CanUndo() && !open);
@@ -187,8 +189,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::MayJudge() {
   if (!document_.IsChanged() && !document_.Path().isEmpty()) return true;
   const auto answer = QMessageBox::question(
-      this, tr("Save first?"),
-      tr("With the project saved, the judgments go into its file the moment they are made."),
+      this, tr("Save first?"), tr("With the project saved, the judgments go into its file the moment they are made."),
       QMessageBox::Save | QMessageBox::Ignore | QMessageBox::Cancel, QMessageBox::Save);
   if (answer == QMessageBox::Save) return files_->Save();
   return answer == QMessageBox::Ignore;

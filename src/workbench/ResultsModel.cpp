@@ -1,16 +1,15 @@
 #include "workbench/ResultsModel.h"
 
-#include "project/ResultsTable.h"
+#include "project/ResultsWords.h"
 #include "project/Shown.h"
 #include "workbench/Texts.h"
 
-#include <cmath>
+#include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr double kIsOne = 1e-9;
 constexpr int kMostBounds = 3;
 
 std::vector<ResultField> FieldsOf(const Evaluation& evaluation) {
@@ -37,23 +36,15 @@ std::vector<ResultField> FieldsOf(const Evaluation& evaluation) {
   return fields;
 }
 
-QString RankText(const Dea::RankRange& ranks) {
-  return ranks.Best == ranks.Worst ? QString::number(ranks.Best)
-                                   : QStringLiteral("%1–%2").arg(ranks.Best).arg(ranks.Worst);
-}
-
-QString RanksText(const Dea::UnitResult& unit) {
-  if (!unit.Ranks) return {};
-  const QString sure = RankText(*unit.Ranks);
-  const QString seen = unit.RanksSeen ? RankText(*unit.RanksSeen) : sure;
-  return sure == seen ? sure : ResultsModel::tr("%1, seen %2").arg(sure, seen);
+QString RanksLabel(const Dea::UnitResult& unit) {
+  return unit.Ranks ? FromText(RanksText(unit)).replace(QLatin1Char('-'), QStringLiteral("–")) : QString();
 }
 
 QString BoundOf(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
   return FromText(BoundText(evaluation, bound)).replace(QLatin1String(">="), "≥").replace(QLatin1String("<="), "≤");
 }
 
-QString HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
+QString HeldBackLabel(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   QStringList bounds;
   for (const Dea::HeldBackBy& bound : unit.HeldBackBy) {
     if (bounds.size() == kMostBounds) break;
@@ -67,14 +58,6 @@ QString NameOfUnit(const Evaluation& evaluation, int unit) {
   return FromText(evaluation.Problem.Units[static_cast<std::size_t>(unit)]);
 }
 
-QString PeersText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  QStringList peers;
-  for (const Dea::Peer& peer : unit.Peers) {
-    peers += NameOfUnit(evaluation, peer.Unit) + " " + FromText(SignificantText(peer.Lambda, 3));
-  }
-  return peers.join(QStringLiteral(", "));
-}
-
 QVariant Number(const std::optional<double>& number) { return number ? QVariant(*number) : QVariant(); }
 
 QString Escaped(const QString& text) { return text.toHtmlEscaped(); }
@@ -83,8 +66,8 @@ QString Row(const QStringList& cells, const char* tag) {
   QString row = QStringLiteral("<tr>");
   const QString name = QString::fromLatin1(tag);
   for (qsizetype i = 0; i < cells.size(); ++i) {
-    row += "<" + name + (i == 0 ? " align=\"left\"" : " align=\"right\"") + " style=\"padding-right:18px\">" + cells[i] +
-           "</" + name + ">";
+    row += "<" + name + (i == 0 ? " align=\"left\"" : " align=\"right\"") + " style=\"padding-right:18px\">" +
+           cells[i] + "</" + name + ">";
   }
   return row + "</tr>";
 }
@@ -92,11 +75,13 @@ QString Row(const QStringList& cells, const char* tag) {
 QString PricesTable(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   if (unit.Prices.empty()) return {};
   QString table = "<table>" + Row({ResultsModel::tr("At its best"), ResultsModel::tr("Price of a unit"),
-                                   ResultsModel::tr("Share of its group")}, "th");
+                                   ResultsModel::tr("Share of its group")},
+                                  "th");
   for (std::size_t j = 0; j < unit.Prices.size(); ++j) {
     const QString share = unit.Shares[j] ? QString::number(100.0 * *unit.Shares[j], 'f', 1) + " %" : QString();
-    table += Row({Escaped(FromText(evaluation.Problem.Columns[j].Name)),
-                  FromText(SignificantText(unit.Prices[j], 4)), share}, "td");
+    table += Row(
+        {Escaped(FromText(evaluation.Problem.Columns[j].Name)), FromText(SignificantText(unit.Prices[j], 4)), share},
+        "td");
   }
   return table + "</table>";
 }
@@ -104,23 +89,24 @@ QString PricesTable(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 QString RangeSentence(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   const QString name = "<b>" + Escaped(NameOfUnit(evaluation, unit.Unit)) + "</b>";
   if (evaluation.How.Form == ScoreForm::Value) {
-    const QString range = unit.Value ? ScoreText(unit.Value->Low) + "–" + ScoreText(unit.Value->High) : QString();
+    const QString range = unit.Value ? ScoreLabel(unit.Value->Low) + "–" + ScoreLabel(unit.Value->High) : QString();
     const bool leads = unit.Distance && *unit.Distance <= 0.0;
     return ResultsModel::tr("%1 has a value of %2; ").arg(name, range) +
            (leads ? ResultsModel::tr("it is best at some of the weights.")
                   : ResultsModel::tr("it is at least %1 of the whole range behind the best.")
-                        .arg(ScoreText(unit.Distance)));
+                        .arg(ScoreLabel(unit.Distance)));
   }
   if (!evaluation.How.Session || !unit.Max) {
-    return ResultsModel::tr("%1 is %2 efficient without judgments.").arg(name, ScoreText(unit.Free));
+    return ResultsModel::tr("%1 is %2 efficient without judgments.").arg(name, ScoreLabel(unit.Free));
   }
-  const bool isPoint = unit.Min && ScoreText(unit.Min) == ScoreText(unit.Max);
-  const QString range = isPoint ? ScoreText(unit.Max)
-                        : unit.Min ? ResultsModel::tr("between %1 and %2").arg(ScoreText(unit.Min), ScoreText(unit.Max))
-                                 : ResultsModel::tr("at best %1").arg(ScoreText(unit.Max));
-  QString sentence = ResultsModel::tr("With these judgments %1 is %2 efficient (without: %3)")
-                         .arg(name, range, ScoreText(unit.Free));
-  if (unit.Ranks) sentence += ResultsModel::tr(", on rank %1").arg(RanksText(unit));
+  const bool isPoint = unit.Min && ScoreLabel(unit.Min) == ScoreLabel(unit.Max);
+  const QString range = isPoint ? ScoreLabel(unit.Max)
+                        : unit.Min
+                            ? ResultsModel::tr("between %1 and %2").arg(ScoreLabel(unit.Min), ScoreLabel(unit.Max))
+                            : ResultsModel::tr("at best %1").arg(ScoreLabel(unit.Max));
+  QString sentence =
+      ResultsModel::tr("With these judgments %1 is %2 efficient (without: %3)").arg(name, range, ScoreLabel(unit.Free));
+  if (unit.Ranks) sentence += ResultsModel::tr(", on rank %1").arg(RanksLabel(unit));
   return sentence + ".";
 }
 
@@ -142,22 +128,19 @@ QString Dominated(const Evaluation& evaluation, const std::vector<int>& dominato
     names += Escaped(NameOfUnit(evaluation, dominators[i]));
   }
   if (dominators.size() > kMost) names += ResultsModel::tr("and %1 more").arg(dominators.size() - kMost);
-  return "<p>" + ResultsModel::tr("Better at all of the judged weights: %1.").arg(names.join(QStringLiteral(", "))) + "</p>";
+  return "<p>" + ResultsModel::tr("Better at all of the judged weights: %1.").arg(names.join(QStringLiteral(", "))) +
+         "</p>";
 }
 
 }  // namespace
 
 bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  if (evaluation.How.Form == ScoreForm::Value) return !unit.Distance || *unit.Distance <= 0.0;
-  return unit.Max && std::fabs(*unit.Max - 1.0) <= kIsOne;
+  if (evaluation.How.Form == ScoreForm::Value) return IsBest(unit);
+  return IsOne(unit.Max);
 }
 
-QString ScoreText(const std::optional<double>& score) {
-  if (!score) return QStringLiteral("–");
-  int decimals = 3;
-  const double off = std::fabs(*score - 1.0);
-  while (off > kIsOne && decimals < 9 && off < 0.5 * std::pow(10.0, -decimals)) ++decimals;
-  return FromText(FixedText(*score, decimals));
+QString ScoreLabel(const std::optional<double>& score) {
+  return score ? FromText(ScoreText(score)) : QStringLiteral("–");
 }
 
 void ResultsModel::Show(SharedEvaluation evaluation) {
@@ -196,13 +179,13 @@ QVariant ResultsModel::NumberAt(const Dea::UnitResult& unit, ResultField field) 
 QString ResultsModel::TextAt(const Dea::UnitResult& unit, ResultField field) const {
   switch (field) {
     case ResultField::Unit: return NameOfUnit(*evaluation_, unit.Unit);
-    case ResultField::Ranks: return RanksText(unit);
-    case ResultField::HeldBackBy: return HeldBackText(*evaluation_, unit);
-    case ResultField::Peers: return PeersText(*evaluation_, unit);
+    case ResultField::Ranks: return RanksLabel(unit);
+    case ResultField::HeldBackBy: return HeldBackLabel(*evaluation_, unit);
+    case ResultField::Peers: return FromText(PeersText(*evaluation_, unit));
     default: break;
   }
   const QVariant number = NumberAt(unit, field);
-  return number.isValid() ? ScoreText(number.toDouble()) : QStringLiteral("–");
+  return number.isValid() ? ScoreLabel(number.toDouble()) : QStringLiteral("–");
 }
 
 QVariant ResultsModel::data(const QModelIndex& index, int role) const {
@@ -217,8 +200,7 @@ QVariant ResultsModel::data(const QModelIndex& index, int role) const {
       const QVariant number = NumberAt(unit, field);
       return number.isValid() || !isText ? number : QVariant(TextAt(unit, field));
     }
-    case Qt::TextAlignmentRole:
-      return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    case Qt::TextAlignmentRole: return static_cast<int>((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     default: return {};
   }
 }
@@ -253,12 +235,20 @@ ResultsFilter::ResultsFilter(ResultsModel& model) : model_(model) {
 
 void ResultsFilter::SetText(const QString& text) {
   text_ = text;
-  invalidateFilter();
+  FilterAnew();
 }
 
 void ResultsFilter::SetOnlyBest(bool on) {
   onlyBest_ = on;
-  invalidateFilter();
+  FilterAnew();
+}
+
+// Every stretch of rows that goes is told by itself, and views take their time with each: many rows come as new ones.
+void ResultsFilter::FilterAnew() {
+  constexpr int kManyRows = 2000;
+  if (model_.rowCount() <= kManyRows) return invalidateFilter();
+  setSourceModel(nullptr);
+  setSourceModel(&model_);
 }
 
 bool ResultsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
@@ -268,14 +258,15 @@ bool ResultsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) con
 
 QString SummaryText(const Evaluation& evaluation) {
   const auto& units = evaluation.Results.Units;
-  const auto best = std::count_if(units.begin(), units.end(),
-                                  [&](const Dea::UnitResult& unit) { return IsBest(evaluation, unit); });
+  const auto best =
+      std::count_if(units.begin(), units.end(), [&](const Dea::UnitResult& unit) { return IsBest(evaluation, unit); });
   if (evaluation.How.Form == ScoreForm::Value) {
     return ResultsModel::tr("%1 of %2 are best at some of the weights.")
         .arg(best)
         .arg(FromText(CountOf(units.size(), "unit")));
   }
-  const QString counted = ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(FromText(CountOf(units.size(), "unit")));
+  const QString counted =
+      ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(FromText(CountOf(units.size(), "unit")));
   if (evaluation.How.Session) return ResultsModel::tr("%1 under the judgments.").arg(counted);
   const bool all = static_cast<std::size_t>(best) == units.size();
   if (!all) return ResultsModel::tr("%1 without judgments.").arg(counted);
@@ -288,7 +279,7 @@ QString DetailsOf(const Evaluation& evaluation, const Dea::UnitResult& unit, con
   QString html = "<p>" + RangeSentence(evaluation, unit) + "</p>" + BoundsList(evaluation, unit) +
                  Dominated(evaluation, dominators);
   if (!unit.Peers.empty()) {
-    html += "<p>" + ResultsModel::tr("Peers: %1.").arg(Escaped(PeersText(evaluation, unit))) + "</p>";
+    html += "<p>" + ResultsModel::tr("Peers: %1.").arg(Escaped(FromText(PeersText(evaluation, unit)))) + "</p>";
   }
   return html + PricesTable(evaluation, unit);
 }

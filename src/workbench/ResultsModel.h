@@ -22,9 +22,7 @@ class ResultsModel : public QAbstractTableModel {
 
   void Show(SharedEvaluation evaluation);  // null: nothing
   const SharedEvaluation& Shown() const { return evaluation_; }
-  const Dea::UnitResult& ResultOf(int row) const {
-    return evaluation_->Results.Units[static_cast<std::size_t>(row)];
-  }
+  const Dea::UnitResult& ResultOf(int row) const { return evaluation_->Results.Units[static_cast<std::size_t>(row)]; }
   QString UnitName(int row) const;
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -54,6 +52,8 @@ class ResultsFilter : public QSortFilterProxyModel {
   bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 
  private:
+  void FilterAnew();
+
   ResultsModel& model_;
   QString text_;
   bool onlyBest_ = false;
@@ -61,14 +61,14 @@ class ResultsFilter : public QSortFilterProxyModel {
 
 // The greatest score is 1, or no unit is ahead.
 bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit);
-QString ScoreText(const std::optional<double>& score);
+QString ScoreLabel(const std::optional<double>& score);
 
 // One sentence of all units, as "12 of 12 units are efficient without judgments: 14 attributes for 12 units let every
 // unit pick its own weights."
 QString SummaryText(const Evaluation& evaluation);
 
-// What is known of a unit, as HTML: its range, what holds it back, prices, shares, peers, and the units given, which are
-// better than it at all weights.
+// What is known of a unit, as HTML: its range, what holds it back, prices, shares, peers, and the units given, which
+// are better than it at all weights.
 QString DetailsOf(const Evaluation& evaluation, const Dea::UnitResult& unit, const std::vector<int>& dominators);
 
 }  // namespace Tarnwise

@@ -30,7 +30,6 @@ void Choose(QComboBox& box, const Value (&values)[kCount], Value value) {
 
 Bar BarOf(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   Bar bar;
-  bar.IsNothing = false;
   if (evaluation.How.Form == ScoreForm::Value) {
     if (unit.Value) {
       bar.Low = unit.Value->Low;
@@ -71,7 +70,8 @@ ResultsPage::ResultsPage(Document& document, QWidget* parent)
       model_(new ResultsModel(this)),
       filter_(new ResultsFilter(*model_)),
       solver_(new Solver(this)),
-      soon_(new QTimer(this)) {
+      soon_(new QTimer(this)),
+      chartSoon_(new QTimer(this)) {
   Named(this, "resultsPage", tr("Results"));
   filter_->setParent(this);
   soon_->setSingleShot(true);
@@ -185,31 +185,32 @@ QWidget* ResultsPage::MakeTables() {
   splitter->setStretchFactor(0, 1);
   splitter->setSizes({390, 190});
   splitter->setChildrenCollapsible(false);
-  const auto showChart = [this] { ShowChart(); };
+  chartSoon_->setSingleShot(true);
+  connect(chartSoon_, &QTimer::timeout, this, &ResultsPage::ShowChart);
+  const auto showChart = [this] { chartSoon_->start(); };
   connect(filter_, &QAbstractItemModel::layoutChanged, this, showChart);
   connect(filter_, &QAbstractItemModel::rowsInserted, this, showChart);
   connect(filter_, &QAbstractItemModel::rowsRemoved, this, showChart);
   connect(filter_, &QAbstractItemModel::modelReset, this, showChart);
+  connect(filter_, &QAbstractItemModel::modelReset, this, &ResultsPage::FitColumns);
   connect(table_->verticalScrollBar(), &QScrollBar::valueChanged, this, &ResultsPage::AlignChart);
   connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ResultsPage::ShowUnit);
   connect(chart_, &BarChart::RowClicked, this, [this](int row) { table_->selectRow(row); });
-  connect(chart_, &BarChart::Scrolled, this, [this](int pixels) {
-    table_->verticalScrollBar()->setValue(table_->verticalScrollBar()->value() + pixels);
-  });
+  connect(chart_, &BarChart::Scrolled, this,
+          [this](int pixels) { table_->verticalScrollBar()->setValue(table_->verticalScrollBar()->value() + pixels); });
   return splitter;
 }
 
 void ResultsPage::ConnectSolver() {
   connect(solver_, &Solver::Began, this, [this] { ShowBusy(true); });
-  connect(solver_, &Solver::Progressed, this, [this](double share) {
-    progress_->setValue(static_cast<int>(1000.0 * share));
-  });
+  connect(solver_, &Solver::Progressed, this,
+          [this](double share) { progress_->setValue(static_cast<int>(1000.0 * share)); });
   connect(solver_, &Solver::Solved, this, &ResultsPage::ShowResults);
   connect(solver_, &Solver::Failed, this, [this](const QString& reason) { ShowMessage(reason); });
   connect(solver_, &Solver::Cancelled, this, [this] { ShowMessage(tr("Cancelled. “Compute” starts again.")); });
 }
 
-bool ResultsPage::IsBusy() const { return solver_->IsBusy() || soon_->isActive(); }
+bool ResultsPage::IsBusy() const { return solver_->IsBusy() || soon_->isActive() || chartSoon_->isActive(); }
 
 void ResultsPage::ShowSessions() {
   const Project& project = document_.Data();
@@ -302,21 +303,26 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   for (const String& note : evaluation->Results.Notes) lines += FromText(note);
   for (const Dea::LeftOut& left : evaluation->Results.LeftOut) {
     if (lines.size() > 4) break;
-    lines += tr("Left out: %1 (%2).").arg(
-        FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]), FromText(left.Reason));
+    lines += tr("Left out: %1 (%2).")
+                 .arg(FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]), FromText(left.Reason));
   }
-  if (evaluation->Results.LeftOut.size() > 3) lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
+  if (evaluation->Results.LeftOut.size() > 3)
+    lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
   summary_->setText(lines.join(QLatin1Char('\n')));
-  for (int c = 0; c < model_->columnCount(); ++c) {
-    table_->resizeColumnToContents(c);
-    table_->setColumnWidth(c, std::clamp(table_->columnWidth(c) + 10, 70, c == 0 ? 260 : 320));
-  }
   for (int row = 0; row < filter_->rowCount() && !chosen.isEmpty(); ++row) {
     if (filter_->index(row, 0).data().toString() == chosen) table_->selectRow(row);
   }
   if (!table_->currentIndex().isValid() && filter_->rowCount() > 0) table_->selectRow(0);
   ShowUnit();
-  Q_EMIT Told(tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
+  Q_EMIT Told(
+      tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
+}
+
+void ResultsPage::FitColumns() {
+  for (int c = 0; c < filter_->columnCount(); ++c) {
+    table_->resizeColumnToContents(c);
+    table_->setColumnWidth(c, std::clamp(table_->columnWidth(c) + 10, 70, c == 0 ? 260 : 320));
+  }
 }
 
 void ResultsPage::ShowChart() {
@@ -329,8 +335,9 @@ void ResultsPage::ShowChart() {
     BarRow row;
     row.Name = model_->UnitName(source);
     row.First = BarOf(*evaluation, model_->ResultOf(source));
-    row.Value = row.First.IsNothing ? tr("no score") : tr("%1 to %2").arg(ScoreText(row.First.Low), ScoreText(row.First.High));
-    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreText(row.First.Mark));
+    row.Value = row.First.IsNothing ? tr("no score")
+                                    : tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
+    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
     rows.push_back(std::move(row));
   }
   if (evaluation) {

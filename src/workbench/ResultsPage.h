@@ -54,6 +54,7 @@ class ResultsPage : public QWidget {
   void ShowResults(const SharedEvaluation& evaluation);
   void ShowMessage(const QString& text);
   void ShowBusy(bool busy);
+  void FitColumns();
   void ShowChart();
   void AlignChart();
   void ShowUnit();
@@ -63,6 +64,7 @@ class ResultsPage : public QWidget {
   ResultsFilter* filter_;
   Solver* solver_;
   QTimer* soon_;
+  QTimer* chartSoon_;  // once for many changes of the rows
   QComboBox* session_ = nullptr;
   QComboBox* form_ = nullptr;
   QComboBox* returns_ = nullptr;

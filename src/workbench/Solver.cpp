@@ -39,9 +39,8 @@ void Solver::Start(std::shared_ptr<const Project> project, const Asked& asked) {
   busy_ = true;
   const int job = ++job_;
   Q_EMIT Began();
-  pool_.start([this, project = std::move(project), asked, cancel = cancel_, job] {
-    Compute(*project, asked, cancel, job);
-  });
+  pool_.start(
+      [this, project = std::move(project), asked, cancel = cancel_, job] { Compute(*project, asked, cancel, job); });
 }
 
 void Solver::Cancel() {

@@ -13,9 +13,7 @@ std::optional<double> TypedNumber(const QString& text) {
   return NumberIn(typed, {',', '\0'});
 }
 
-QString NumberText(const std::optional<double>& number) {
-  return number ? FromText(ShortestText(*number)) : QString();
-}
+QString NumberText(const std::optional<double>& number) { return number ? FromText(ShortestText(*number)) : QString(); }
 
 QString TimeText(const String& made) {
   const QDateTime time = QDateTime::fromString(FromText(made), Qt::ISODate);

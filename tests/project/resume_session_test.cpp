@@ -80,9 +80,9 @@ TEST_F(ResumeSessionTest, AChangedScaleConvertsTheRatios) {
   const SessionModel model = Resumed();
   const double factor = (36.0 / 45.0) / (175.0 / 200.0);
   ExpectInterval(model, 0, 3.0 * factor, 4.09 * factor);
-  EXPECT_EQ(model.Notes, (std::vector<String>{
-                             "Doctors, Nurses: the scale has changed since; the ratios are converted to the one of "
-                             "today."}));
+  EXPECT_EQ(model.Notes,
+            (std::vector<String>{"Doctors, Nurses: the scale has changed since; the ratios are converted to the one of "
+                                 "today."}));
 }
 
 TEST_F(ResumeSessionTest, WhatWasNotJudgedComesBackAsNotJudged) {
@@ -140,9 +140,10 @@ TEST_F(ResumeSessionTest, ANewColumnStandsBehindAllOthersAndIsNotJudged) {
 
 TEST_F(ResumeSessionTest, EqualMiddlesAreToldAsOneRank) {
   session().Attributes[2] = Judged("Inpatients", 0.75, 1.25);
-  EXPECT_EQ(Resumed().Notes,
-            (std::vector<String>{"Outpatients, Inpatients come back on one rank: the wizard ranks by the middles of "
-                                 "the intervals, and theirs are all 1.000. Changing the order begins all ratios anew."}));
+  EXPECT_EQ(
+      Resumed().Notes,
+      (std::vector<String>{"Outpatients, Inpatients come back on one rank: the wizard ranks by the middles of "
+                           "the intervals, and theirs are all 1.000. Changing the order begins all ratios anew."}));
 }
 
 TEST_F(ResumeSessionTest, TheLatestSessionThatFitsIsTaken) {
@@ -155,7 +156,9 @@ TEST_F(ResumeSessionTest, TheLatestSessionThatFitsIsTaken) {
 
 TEST_F(ResumeSessionTest, ASessionThatWasNamedAndDoesNotFitIsRefused) {
   session().CostReference = "Beds";
-  EXPECT_EQ(FaultOf([this] { (void)Resumed({false, 0U}); }),
+  EXPECT_EQ(FaultOf([this] {
+              (void)Resumed({false, 0U});
+            }),
             "session 0 does not fit: its references are not in their groups, or its scales have no range");
 }
 
@@ -180,8 +183,9 @@ TEST_F(ResumeSessionTest, TradeOffsWithoutTheirPointsComeBackAsDirectRatios) {
   session().Points = "";
   const SessionModel model = Resumed();
   EXPECT_EQ(model.Data.SavedJudgments.RJType, "DEA_DIRECT");
-  EXPECT_EQ(model.Notes, (std::vector<String>{
-                             "The points of the trade-offs do not hold any more; new ones follow from the ratios."}));
+  EXPECT_EQ(
+      model.Notes,
+      (std::vector<String>{"The points of the trade-offs do not hold any more; new ones follow from the ratios."}));
 }
 
 }  // namespace

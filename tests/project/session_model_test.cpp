@@ -70,8 +70,7 @@ TEST_F(SessionModelTest, LettersThatTheCodePageLacksAreReplacedAndTold) {
   EXPECT_EQ(String(model.Data.AttName(0)), "?éka?i");
   EXPECT_EQ(model.Names[0], "Λékaři");
   ASSERT_EQ(model.Notes.size(), 1U);
-  EXPECT_EQ(model.Notes[0],
-            "\"Λékaři\" is called \"?éka?i\" in the wizard: code page 1252 lacks some of its letters.");
+  EXPECT_EQ(model.Notes[0], "\"Λékaři\" is called \"?éka?i\" in the wizard: code page 1252 lacks some of its letters.");
 }
 
 TEST_F(SessionModelTest, NamesThatBecomeTheSameStayApart) {

@@ -47,9 +47,9 @@ TEST(SessionText, AGroupOfOneHasNoMeaning) {
 }
 
 TEST(SessionText, JudgmentsAreSaidInTheColumnsOrder) {
-  EXPECT_EQ(JudgmentLines(Hospitals(), 0), (Texts{"Doctors 3.0000 .. 4.0900 times Nurses",
-                                                  "Inpatients at least 2.0000 times Outpatients",
-                                                  "Nurses to Outpatients 1.1500"}));
+  EXPECT_EQ(JudgmentLines(Hospitals(), 0),
+            (Texts{"Doctors 3.0000 .. 4.0900 times Nurses", "Inpatients at least 2.0000 times Outpatients",
+                   "Nurses to Outpatients 1.1500"}));
   EXPECT_EQ(NotJudged(Hospitals(), 0), Texts());
 }
 
@@ -57,8 +57,7 @@ TEST(SessionText, WhatWasNotJudgedIsListedTheCrossRatioToo) {
   Project project = Hospitals();
   project.Sessions[0].Attributes[0].Judged = false;
   project.Sessions[0].Cross->Judged = false;
-  EXPECT_EQ(JudgmentLines(project, 0),
-            (Texts{"Doctors not judged", "Inpatients at least 2.0000 times Outpatients"}));
+  EXPECT_EQ(JudgmentLines(project, 0), (Texts{"Doctors not judged", "Inpatients at least 2.0000 times Outpatients"}));
   EXPECT_EQ(NotJudged(project, 0), (Texts{"Doctors", "Nurses to Outpatients"}));
 }
 

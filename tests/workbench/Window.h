@@ -21,7 +21,8 @@ inline Project HospitalsFromTable() {
   options.Unit = "Hospital";
   options.Inputs = {"Doctors,Nurses"};
   options.Outputs = {"Outpatients,Inpatients"};
-  options.Ranges = {{"Doctors", 55.0, 19.0}, {"Nurses", 306.0, 131.0}, {"Outpatients", 94.0, 260.0}, {"Inpatients", 50.0, 147.0}};
+  options.Ranges = {
+      {"Doctors", 55.0, 19.0}, {"Nurses", 306.0, 131.0}, {"Outpatients", 94.0, 260.0}, {"Inpatients", 50.0, 147.0}};
   Project project = ImportTable(FileBytes(TARNWISE_SAMPLES "/hospitals.csv"), options).Project;
   project.Name = "Hospitals";
   return project;
@@ -80,7 +81,8 @@ inline void AnswerNext(const QString& button, std::function<void(QDialog&)> befo
 }
 
 inline bool AwaitResults(MainWindow& window) {
-  return QTest::qWaitFor([&window] { return !window.Results().IsBusy() && window.Results().Shown() != nullptr; }, 30000);
+  return QTest::qWaitFor([&window] { return !window.Results().IsBusy() && window.Results().Shown() != nullptr; },
+                         30000);
 }
 
 // On the screen, with that project in it.

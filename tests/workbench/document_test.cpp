@@ -89,9 +89,8 @@ TEST(Files, ChangedMeanwhileAreReadAnewWhenAskedFor) {
 TEST(Files, ThatCannotBeWrittenAreToldAndNothingIsLost) {
   const QTemporaryDir folder;
   OpenWindow open;
-  AnswerNext("OK", [](QDialog& dialog) {
-    EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains("still open here"));
-  });
+  AnswerNext(
+      "OK", [](QDialog& dialog) { EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains("still open here")); });
   // A folder that is not there stands for one that may not be written: the tests may run as root.
   EXPECT_THROW(open.Window.Work().Save(folder.filePath("nowhere/project.tarnwise")), ModelFault);
   open.Window.Work().Save(FileIn(folder));

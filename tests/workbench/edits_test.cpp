@@ -1,5 +1,5 @@
-#include "Window.h"
 #include "workbench/Edits.h"
+#include "Window.h"
 #include "workbench/History.h"
 
 namespace Tarnwise {

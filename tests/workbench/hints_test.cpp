@@ -22,8 +22,9 @@ TEST(Hints, NameTheNeighbourBelowAndFromWhereOnItFits) {
 
 TEST(Hints, NameTheNeighbourAbove) {
   const WizardData data = ThreeRanks();
-  EXPECT_EQ(HintFor(data, 2, std::pair(0.5, 1.25)).toStdString(),
-            "Outpatients must stay at or below 1.00: Inpatients, on the next higher judged rank, is judged from 1.00 on.");
+  EXPECT_EQ(
+      HintFor(data, 2, std::pair(0.5, 1.25)).toStdString(),
+      "Outpatients must stay at or below 1.00: Inpatients, on the next higher judged rank, is judged from 1.00 on.");
 }
 
 TEST(Hints, SayNothingOfALimitThatIsKept) {

@@ -1,4 +1,5 @@
-// What the pages look like on the palettes of people's desktops. With TARNWISE_LOOKS the pictures stay there to look at.
+// What the pages look like on the palettes of people's desktops. With TARNWISE_LOOKS the pictures stay there to look
+// at.
 #include "Window.h"
 #include "workbench/ImportDialog.h"
 #include "workbench/charts/Chart.h"

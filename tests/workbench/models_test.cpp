@@ -98,7 +98,8 @@ TEST(ResultsModel, SortsByNumbersAndFilters) {
   ASSERT_EQ(model.headerData(3, Qt::Horizontal, Qt::DisplayRole).toString(), "Greatest");
   filter.sort(3, Qt::AscendingOrder);
   for (int row = 1; row < filter.rowCount(); ++row) {
-    EXPECT_LE(filter.index(row - 1, 3).data(Qt::UserRole).toDouble(), filter.index(row, 3).data(Qt::UserRole).toDouble());
+    EXPECT_LE(filter.index(row - 1, 3).data(Qt::UserRole).toDouble(),
+              filter.index(row, 3).data(Qt::UserRole).toDouble());
   }
   filter.SetText("hospital b");
   ASSERT_EQ(filter.rowCount(), 1);
@@ -109,11 +110,36 @@ TEST(ResultsModel, SortsByNumbersAndFilters) {
   EXPECT_EQ(filter.index(0, 0).data().toString(), "Hospital A");
 }
 
+TEST(ResultsModel, FiltersManyUnitsTheSameWay) {
+  Project project;
+  DataColumn column;
+  column.Name = "Staff";
+  column.Role = Role::Input;
+  column.Worst = 5001.0;
+  column.Best = 0.0;
+  for (int i = 0; i < 5000; ++i) {
+    project.Units.push_back("Unit " + std::to_string(i));
+    column.Values.emplace_back(5000.0 - i + 0.25);
+  }
+  project.Columns.push_back(column);
+  ResultsModel model;
+  ResultsFilter filter(model);
+  model.Show(Evaluated(project));
+  filter.sort(1, Qt::AscendingOrder);
+  filter.SetText("77");
+  ASSERT_EQ(filter.rowCount(), 95);
+  EXPECT_EQ(filter.index(0, 0).data().toString(), "Unit 77");
+  EXPECT_EQ(filter.index(94, 0).data().toString(), "Unit 4977");
+  filter.SetText({});
+  EXPECT_EQ(filter.rowCount(), 5000);
+}
+
 TEST(ResultsModel, TellsWhenEveryUnitPicksItsOwnWeights) {
   Project project = HospitalsFromTable();
   RemoveUnits(project, {2, 3, 4, 5, 6, 7, 8, 9, 10, 11});
-  EXPECT_EQ(SummaryText(*Evaluated(project)),
-            "2 of 2 units are efficient without judgments: 4 attributes for 2 units let every unit pick its own weights.");
+  EXPECT_EQ(
+      SummaryText(*Evaluated(project)),
+      "2 of 2 units are efficient without judgments: 4 attributes for 2 units let every unit pick its own weights.");
 }
 
 }  // namespace

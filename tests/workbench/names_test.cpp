@@ -20,10 +20,9 @@ bool NeedsAName(const QWidget& widget) {
 bool IsInside(const QWidget& widget) {
   const QString name = widget.objectName();
   return name.startsWith(QLatin1String("qt_")) || qobject_cast<const QHeaderView*>(&widget) != nullptr ||
-         qobject_cast<const QComboBox*>(widget.parentWidget()) != nullptr ||
-         widget.inherits("QTableCornerButton") || widget.inherits("QComboBoxListView") ||
-         widget.inherits("QLineEditIconButton") || widget.parentWidget()->inherits("QTabBar") ||
-         widget.parentWidget()->inherits("QMenuBar");
+         qobject_cast<const QComboBox*>(widget.parentWidget()) != nullptr || widget.inherits("QTableCornerButton") ||
+         widget.inherits("QComboBoxListView") || widget.inherits("QLineEditIconButton") ||
+         widget.parentWidget()->inherits("QTabBar") || widget.parentWidget()->inherits("QMenuBar");
 }
 
 int Walk(QWidget& root) {
@@ -54,8 +53,7 @@ TEST(SpokenNames, ChartsHaveChildrenWithValues) {
   ASSERT_TRUE(AwaitResults(open.Window));
   open.Window.ShowPage(PageKind::Results);
   QCoreApplication::processEvents();
-  QAccessibleInterface* const chart =
-      QAccessible::queryAccessibleInterface(&Find<QWidget>(open.Window, "rangeChart"));
+  QAccessibleInterface* const chart = QAccessible::queryAccessibleInterface(&Find<QWidget>(open.Window, "rangeChart"));
   ASSERT_NE(chart, nullptr);
   ASSERT_GT(chart->childCount(), 3);
   EXPECT_EQ(chart->child(1)->text(QAccessible::Name), "Hospital B");

@@ -113,17 +113,43 @@ Step Choose(int row) {
   };
 }
 
+// What the window's panel says meanwhile.
+Step Read(QWidget& window, const char* label, const QString& part) {
+  return [&window, label, part] {
+    const QString text = Find<QLabel>(window, label).text();
+    EXPECT_TRUE(text.contains(part)) << text.toStdString();
+    return true;
+  };
+}
+
 // Inpatients before outpatients, doctors before nurses; 2 to 2.5 times, 3 to 4.09 times.
-std::vector<Step> DirectJudgments() {
+std::vector<Step> DirectJudgments(QWidget& window) {
   return {Click("cmdNext"),
-          Drag("cmdAttA(1)", "picOrder(0)"), Click("cmdAdd"), Drag("cmdAttA(0)", "picOrder(1)"),
-          Drag("cmdAttA1(0)", "picOrder1(0)"), Click("cmdAdd1"), Drag("cmdAttA1(1)", "picOrder1(1)"),
+          Drag("cmdAttA(1)", "picOrder(0)"),
+          Click("cmdAdd"),
+          Drag("cmdAttA(0)", "picOrder(1)"),
+          Drag("cmdAttA1(0)", "picOrder1(0)"),
+          Click("cmdAdd1"),
+          Drag("cmdAttA1(1)", "picOrder1(1)"),
           Click("cmdNext"),
-          Click("cmdAttButtons(0)"), Click("cmdAttButtons1(1)"), Click("cmdNext"),
-          Choose(0), Type("txtWRUpper", "4.09"), Type("txtWRLower", "3"), Click("cmdEnter"),
-          Choose(3), Type("txtWRUpper", "2.5"), Type("txtWRLower", "2"), Click("cmdEnter"),
-          Choose(1), Click("cmdEnter"),
-          Click("cmdNext"), Click("cmdFinish")};
+          Click("cmdAttButtons(0)"),
+          Click("cmdAttButtons1(1)"),
+          Click("cmdNext"),
+          Choose(0),
+          Type("txtWRUpper", "4.09"),
+          Type("txtWRLower", "0.5"),
+          Read(window, "hint", "Ärzte must stay at or above 1.00: Pflege, on the next lower judged rank"),
+          Type("txtWRLower", "3"),
+          Read(window, "hint", "The wizard is open."),
+          Click("cmdEnter"),
+          Choose(3),
+          Type("txtWRUpper", "2.5"),
+          Type("txtWRLower", "2"),
+          Click("cmdEnter"),
+          Choose(1),
+          Click("cmdEnter"),
+          Click("cmdNext"),
+          Click("cmdFinish")};
 }
 
 QString WriteTable(const QTemporaryDir& folder) {
@@ -169,7 +195,7 @@ TEST(Newcomer, GetsFromATableToJudgedRangesAndAPicture) {
   QTest::mouseClick(&Find<QPushButton>(window, "elicit"), Qt::LeftButton);
   ASSERT_NE(window.Wizard(), nullptr);
   EXPECT_FALSE(Find<QWidget>(window, "dataPage").isEnabled());
-  const WizardUser user(DirectJudgments(), [&window] { window.Wizard()->End(); });
+  const WizardUser user(DirectJudgments(window), [&window] { window.Wizard()->End(); });
   ASSERT_TRUE(QTest::qWaitFor([&] { return window.Wizard() == nullptr; }, 60000));
 
   Document onDisk;

@@ -176,6 +176,7 @@ TEST(ResultsPage, TableChartAndUnitAreLinked) {
   QTest::keyClick(&table, Qt::Key_Down);
   EXPECT_EQ(chart.Selected(), 2);
   QTest::keyClicks(&Find<QLineEdit>(open.Window, "find"), "tal K");
+  QCoreApplication::processEvents();
   EXPECT_EQ(chart.Rows().size(), 1U);
   EXPECT_EQ(chart.Rows()[0].Name, "Hospital K");
 }

@@ -1,10 +1,10 @@
 #include "Window.h"
 #include "project/ProjectFile.h"
 
-#include <csignal>
-#include <random>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <csignal>
+#include <random>
 
 namespace Tarnwise {
 namespace {

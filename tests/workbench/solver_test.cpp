@@ -1,5 +1,5 @@
-#include "Window.h"
 #include "workbench/Solver.h"
+#include "Window.h"
 
 #include <random>
 

@@ -84,8 +84,7 @@ class BarChart::Rows_ : public QCPLayerable {
   QCPAxisRect* area_;
 };
 
-BarChart::BarChart(QWidget* parent) : Chart(parent), drawn_(new Rows_(*this)) {
-  ink_ = InkFor(palette());
+BarChart::BarChart(QWidget* parent) : Chart(parent), drawn_(new Rows_(*this)), ink_(InkFor(palette())) {
   reference_ = new QCPItemStraightLine(this);
   reference_->setVisible(false);
   yAxis->setRangeReversed(true);

@@ -17,8 +17,8 @@ struct BarRow {
   QString Name;
   QString Value;  // as it is told
   Bar First;
-  Bar Second;        // below the first, in another colour and hatched
-  QString Note;      // in place of bars, grey
+  Bar Second;    // below the first, in another colour and hatched
+  QString Note;  // in place of bars, grey
   bool IsHeading = false;
 };
 
@@ -35,7 +35,8 @@ class BarChart : public Chart {
   void SetReferenceLine(std::optional<double> at);  // a dashed line across
   void SetShown(double from, double to) { shown_ = QCPRange(from, to); }
 
-  // Rows stand beside those of a table: no names, so many pixels above the first row, and this much of them scrolled by.
+  // Rows stand beside those of a table: no names, so many pixels above the first row, and this much of them scrolled
+  // by.
   void StandBeside(int top, int rowHeight, int scrolled, int bottom);
 
   void Select(int row);  // -1: none

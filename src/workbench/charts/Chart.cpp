@@ -57,8 +57,8 @@ Chart::Chart(QWidget* parent) : QCustomPlot(parent) {
 
 void Chart::TellReaders() {
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(this, QAccessible::ObjectReorder);
-  QAccessible::updateAccessibility(&event);
+  QAccessibleEvent news(this, QAccessible::ObjectReorder);
+  QAccessible::updateAccessibility(&news);
 }
 
 bool Chart::Write(const QString& path, const QSize& size) {
@@ -111,9 +111,9 @@ bool Chart::SavePicture(const QString& path) {
 }
 
 void Chart::AskAndSave() {
-  const QString path = QFileDialog::getSaveFileName(
-      this, tr("Save the chart"), title_.isEmpty() ? tr("chart") + ".png" : title_ + ".png",
-      tr("Pictures (*.png);;Drawings (*.svg);;Documents (*.pdf)"));
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save the chart"),
+                                                    title_.isEmpty() ? tr("chart") + ".png" : title_ + ".png",
+                                                    tr("Pictures (*.png);;Drawings (*.svg);;Documents (*.pdf)"));
   if (path.isEmpty() || SavePicture(path)) return;
   QMessageBox::warning(this, tr("Save the chart"), tr("The chart could not be written to %1.").arg(path));
 }

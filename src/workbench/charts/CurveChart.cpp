@@ -228,13 +228,13 @@ void CurveChart::MoveByKey(double score, double value) {
   if (picture_.IsFixed || dragged_.empty()) return;
   const ValuePoint at = dragged_[static_cast<std::size_t>(selected_)];
   const ValuePoint to{at.Score + score * ScoresShown(picture_).size(), at.Value + value};
-  const ValuePoint moved = WithPointMoved(dragged_, static_cast<std::size_t>(selected_),
-                                          to)[static_cast<std::size_t>(selected_)];
+  const ValuePoint moved =
+      WithPointMoved(dragged_, static_cast<std::size_t>(selected_), to)[static_cast<std::size_t>(selected_)];
   if (moved != at) Q_EMIT PointMoved(selected_, moved.Score, moved.Value);
 }
 
 void CurveChart::keyPressEvent(QKeyEvent* event) {
-  const double step = event->modifiers() & Qt::ShiftModifier ? 0.1 : 0.01;
+  const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? 0.1 : 0.01;
   switch (event->key()) {
     case Qt::Key_Left: return MoveByKey(-step, 0.0);
     case Qt::Key_Right: return MoveByKey(step, 0.0);

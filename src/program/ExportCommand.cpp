@@ -87,7 +87,7 @@ CLI::App* AddExportCommand(CLI::App& app, ExportOptions& options) {
 }
 
 int ExportProject(const ExportOptions& options, const Console& console) {
-  std::optional<Exported> made;
+  Exported made;
   try {
     CheckFormat(options);
     RefuseSameFile(options.To, options.Project);
@@ -99,10 +99,10 @@ int ExportProject(const ExportOptions& options, const Console& console) {
     console.Err << options.Project << ": the solver failed, and nothing is written. " << fault.what() << "\n";
     return kFailed;
   }
-  for (const String& note : made->Notes) console.Err << "note: " << note << "\n";
+  for (const String& note : made.Notes) console.Err << "note: " << note << "\n";
   try {
-    WriteOutput(options.To, made->Text, console.Out);
-    if (made->Points && options.To != kStandardOutput) WritePoints(options.To, *made->Points);
+    WriteOutput(options.To, made.Text, console.Out);
+    if (made.Points && options.To != kStandardOutput) WritePoints(options.To, *made.Points);
     return kDone;
   } catch (const ModelFault& fault) {
     console.Err << fault.what() << "\n";

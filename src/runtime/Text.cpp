@@ -45,19 +45,21 @@ String NumberTextOf(Double x, int significant) {
   std::string text;
   if (d.Exponent >= 15 || d.Exponent < -4) {
     text = d.Digits.substr(0, 1);
-    if (d.Digits.size() > 1) text += "." + d.Digits.substr(1);
+    if (d.Digits.size() > 1) text.append(".").append(d.Digits, 1);
     const int size = std::abs(d.Exponent);
     text += d.Exponent < 0 ? "E-" : "E+";
-    text += (size < 10 ? "0" : "") + std::to_string(size);
+    if (size < 10) text += "0";
+    text += std::to_string(size);
   } else if (d.Exponent < 0) {
-    text = "0." + std::string(static_cast<std::size_t>(-d.Exponent - 1), '0') + d.Digits;
+    text = "0.";
+    text.append(static_cast<std::size_t>(-d.Exponent - 1), '0').append(d.Digits);
   } else {
     const auto whole = static_cast<std::size_t>(d.Exponent) + 1;
     if (d.Digits.size() < whole) d.Digits.append(whole - d.Digits.size(), '0');
     text = d.Digits.substr(0, whole);
-    if (d.Digits.size() > whole) text += "." + d.Digits.substr(whole);
+    if (d.Digits.size() > whole) text.append(".").append(d.Digits, whole);
   }
-  return (d.Negative ? "-" : "") + text;
+  return d.Negative ? "-" + text : text;
 }
 
 bool IsSkipped(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }

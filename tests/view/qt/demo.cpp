@@ -1,9 +1,11 @@
 // One form with every kind of control, and a sheet of all pictures: to be looked at.
 #include "view/Form.h"
+#include "view/Painting.h"
 #include "view/Pictures.h"
 #include "view/Platform.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtPaint.h"
+#include "view/qt/QtSurface.h"
 #include "view/qt/QtToolkit.h"
 
 #include <QApplication>
@@ -197,9 +199,11 @@ QPixmap SheetOfPictures() {
   QPixmap sheet(kAcross * kSide, rows * kSide);
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
+  QtSurface surface(painter);
   for (int i = 0; i < static_cast<int>(names.size()); ++i) {
     const QRect cell(i % kAcross * kSide, i / kAcross * kSide, kSide, kSide);
-    DrawPicture(painter, names[static_cast<std::size_t>(i)], QRectF(cell).adjusted(15, 5, -15, -25), 0xFFFFFF);
+    const Box place = ToBox(ToPixelRect(cell.adjusted(15, 5, -15, -25)));
+    PaintPicture(surface, names[static_cast<std::size_t>(i)], place, 0xFFFFFF);
     painter.drawText(cell, Qt::AlignBottom | Qt::AlignHCenter, Text(names[static_cast<std::size_t>(i)]));
   }
   return sheet;

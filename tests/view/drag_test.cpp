@@ -1,5 +1,6 @@
 // Automatic drag: what targets are told, by pointer and by keyboard.
 #include "view/Bench.h"
+#include "view/Driver.h"
 
 #include <gtest/gtest.h>
 
@@ -372,6 +373,22 @@ TEST(KeyboardDrag, MovesAHandleByOneUnitOrTen) {
   EXPECT_EQ(bench.Notes, (Lines{"picChart enter picHandle(0) 104,63", "picChart over picHandle(0) 104,63",
                                 "picChart over picHandle(0) 104,73", "picChart over picHandle(0) 94,73",
                                 "picChart over picHandle(0) 94,72"}));
+}
+
+// What was picked up, and given up again, keeps no form alive that is released.
+TEST(GivenUpDrag, LetsItsFormGo) {
+  const std::unique_ptr<Driver> driver = MakeHeadlessDriver();
+  auto form = std::make_shared<BenchForm>(driver->Screen());
+  driver->Screen()->Created(*form);
+  driver->Screen()->Show(*form);
+  driver->Grab(form->cmdSource);
+  ASSERT_TRUE(driver->Screen()->Drag.Active());
+  driver->Screen()->Hand.CancelDrag();
+  EXPECT_FALSE(driver->Screen()->Drag.Active());
+  const std::weak_ptr<Form> watched = form;
+  driver->Screen()->Release(*form);
+  form.reset();
+  EXPECT_TRUE(watched.expired());
 }
 
 }  // namespace

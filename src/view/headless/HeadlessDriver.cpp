@@ -11,6 +11,13 @@ namespace {
 
 class HeadlessDriver : public Driver {
  public:
+  HeadlessDriver() {
+    toolkit_->Released = [this](const Form& form) {
+      if (held_ && held_->Tree() == &form) held_->LetFormGo();
+    };
+  }
+  ~HeadlessDriver() override { toolkit_->Released = {}; }
+
   std::shared_ptr<Platform> Screen() override { return screen_; }
   void SetPump(std::function<bool()> pump) override { toolkit_->Pump = std::move(pump); }
 
@@ -56,7 +63,8 @@ class HeadlessDriver : public Driver {
   void Over(Control& target, ControlPoint at) override { screen_->Drag.Over(target, at.X, at.Y); }
   void OverNothing() override { screen_->Drag.OverNothing(); }
   void Drop() override {
-    if (const auto mirror = std::move(held_))
+    const auto mirror = std::move(held_);
+    if (mirror && screen_->Hand.DragsByMouse())
       mirror->LetGo(*screen_->Drag.Source());
     else
       screen_->Drag.Drop();

@@ -28,4 +28,9 @@ void HeadlessMirror::LetGo(Control& control) {
   });
 }
 
+void HeadlessMirror::LetFormGo() {
+  Release();
+  held_.reset();
+}
+
 }  // namespace Tarnwise

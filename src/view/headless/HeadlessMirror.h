@@ -23,6 +23,7 @@ class HeadlessMirror : public Mirror {
   // The left button on a control's middle: down, and up again.
   bool Press(Control& control);
   void LetGo(Control& control);
+  void LetFormGo();  // it has been released
 
  protected:
   bool Create(Control& /*control*/) override { return true; }
@@ -37,7 +38,7 @@ class HeadlessMirror : public Mirror {
   void RunTimer(Timer& /*timer*/, int /*interval*/) override {}
 
  private:
-  const std::shared_ptr<Form> held_;
+  std::shared_ptr<Form> held_;
   int row_;
 };
 

@@ -14,7 +14,9 @@ constexpr Single kTwipsPerCharacter = 90.0F;
 
 void HeadlessToolkit::Show(Form& /*form*/, Showing /*how*/) {}
 void HeadlessToolkit::Hide(Form& /*form*/) {}
-void HeadlessToolkit::Release(Form& /*form*/) {}
+void HeadlessToolkit::Release(Form& form) {
+  if (Released) Released(form);
+}
 void HeadlessToolkit::ControlUnloaded(Control& /*control*/) {}
 void HeadlessToolkit::Sync(Form& /*form*/) {}
 

@@ -3,6 +3,8 @@
 
 #include "view/Platform.h"
 
+#include <functional>
+
 namespace Tarnwise {
 
 class HeadlessToolkit : public Toolkit {
@@ -23,6 +25,8 @@ class HeadlessToolkit : public Toolkit {
   Single TextWidth(const String& text) override;
   Single ScreenWidth() override;
   Single ScreenHeight() override;
+
+  std::function<void(const Form&)> Released;  // who still shows the form lets it go
 };
 
 // A key typed at the control with the focus of a form: events, then what the key itself does.

@@ -22,6 +22,3 @@ if(TARNWISE_MINGW STREQUAL i686)
   set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse -mstackrealign")
 endif()
 add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
-
-# With <string> precompiled, this compiler warns of overflows in its own concatenation where there are none.
-set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)

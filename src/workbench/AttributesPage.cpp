@@ -189,8 +189,8 @@ void AttributesPage::ShowColumn() {
   }
   const DataColumn& column = document_.Data().Columns[*place];
   showing_ = true;
-  description_->setText(FromText(column.Description));
-  unit_->setText(FromText(column.Unit));
+  ShowIn(*description_, FromText(column.Description));
+  ShowIn(*unit_, FromText(column.Unit));
   worst_->setText(NumberText(column.Worst));
   best_->setText(NumberText(column.Best));
   chart_->SetTitle(tr("Value curve of %1").arg(FromText(column.Name)));

@@ -287,8 +287,8 @@ void JudgmentsPage::ShowSession() {
     return chart_->SetRows({});
   }
   const JudgmentSession& judged = document_.Data().Sessions[*session];
-  by_->setText(FromText(judged.By));
-  note_->setText(FromText(judged.Note));
+  ShowIn(*by_, FromText(judged.By));
+  ShowIn(*note_, FromText(judged.Note));
   const std::vector<JudgmentLine> lines = JudgmentLinesOf(document_.Data(), *session);
   const auto compared = Compared();
   ShowTable(lines);

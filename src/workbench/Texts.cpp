@@ -3,6 +3,7 @@
 #include "project/NumberText.h"
 
 #include <QDateTime>
+#include <QLineEdit>
 #include <QLocale>
 
 namespace Tarnwise {
@@ -18,6 +19,11 @@ QString NumberText(const std::optional<double>& number) { return number ? FromTe
 QString TimeText(const String& made) {
   const QDateTime time = QDateTime::fromString(FromText(made), Qt::ISODate);
   return time.isValid() ? time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm")) : FromText(made);
+}
+
+void ShowIn(QLineEdit& field, const QString& text) {
+  field.setText(text);
+  if (!field.hasFocus()) field.setCursorPosition(0);
 }
 
 }  // namespace Tarnwise

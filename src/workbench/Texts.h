@@ -8,6 +8,8 @@
 
 #include <optional>
 
+class QLineEdit;
+
 namespace Tarnwise {
 
 inline QString FromText(const String& text) { return QString::fromStdString(text); }
@@ -21,6 +23,9 @@ QString NumberText(const std::optional<double>& number);
 
 // "2024-05-17T09:30:00Z" as this place's people write it; as it is where it is no time.
 QString TimeText(const String& made);
+
+// A text that is too long for its field is seen from its beginning, but where somebody types.
+void ShowIn(QLineEdit& field, const QString& text);
 
 template <class Widget>
 Widget* Named(Widget* widget, const char* objectName, const QString& spokenName) {

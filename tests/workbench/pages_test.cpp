@@ -151,6 +151,18 @@ TEST(JudgmentsPage, ComparesTwoSessions) {
   EXPECT_EQ(rows[3].First.High, 3.25);
 }
 
+TEST(AttributesPage, ALongDescriptionIsSeenFromItsBeginning) {
+  OpenWindow open;
+  open.Window.ShowPage(PageKind::Attributes);
+  open.Window.Work().Edit(QStringLiteral("Description"), [](Project& project) {
+    for (DataColumn& column : project.Columns)
+      column.Description = "Posts, full-time equivalents, at the end of the year";
+  });
+  const QLineEdit& description = Find<QLineEdit>(open.Window, "description");
+  ASSERT_EQ(description.text(), QStringLiteral("Posts, full-time equivalents, at the end of the year"));
+  EXPECT_EQ(description.cursorPosition(), 0);
+}
+
 TEST(JudgmentsPage, ANoteIsTypedAndKept) {
   OpenWindow open;
   Activate(open.Window);

@@ -12,8 +12,7 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-// Numbers beyond these would leave the range of Double in a product with others.
-constexpr Double kLargest = 1e100;
+// What is smaller would be lost in a product with others.
 constexpr Double kSmallest = 1e-100;
 
 String CellName(const Problem& problem, const Column& column, std::size_t unit) {

@@ -7,8 +7,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kDigits = 5;
-
 // "Doctors (posts)".
 String NameAndMeasure(const Project& project, const String& name) {
   const DataColumn* const column = FindColumn(project, name);
@@ -17,10 +15,10 @@ String NameAndMeasure(const Project& project, const String& name) {
 }
 
 String IntervalText(double low, const std::optional<double>& high) {
-  if (!high) return ">= " + SignificantText(low, kDigits);
-  if (low == 0.0) return "<= " + SignificantText(*high, kDigits);
-  if (low == *high) return "= " + SignificantText(low, kDigits);
-  return "= " + SignificantText(low, kDigits) + " .. " + SignificantText(*high, kDigits);
+  if (!high) return ">= " + SignificantText(low, kRatioDigits);
+  if (low == 0.0) return "<= " + SignificantText(*high, kRatioDigits);
+  if (low == *high) return "= " + SignificantText(low, kRatioDigits);
+  return "= " + SignificantText(low, kRatioDigits) + " .. " + SignificantText(*high, kRatioDigits);
 }
 
 }  // namespace
@@ -49,8 +47,8 @@ String CrossText(const Project& project, const Asked& asked) {
   }
   String ratio = ShortestText(*cross->Ratio);
   if (asked.CrossBand > 1.0) {
-    ratio = SignificantText(*cross->Ratio / asked.CrossBand, kDigits) + " to " +
-            SignificantText(*cross->Ratio * asked.CrossBand, kDigits);
+    ratio = SignificantText(*cross->Ratio / asked.CrossBand, kRatioDigits) + " to " +
+            SignificantText(*cross->Ratio * asked.CrossBand, kRatioDigits);
   }
   return "Cross ratio: " + JudgedSwing(project, session, session.CostReference) + " is worth " + ratio + " times " +
          JudgedSwing(project, session, session.BenefitReference) + ".";

@@ -5,6 +5,8 @@
 
 namespace Tarnwise {
 
+constexpr int kRatioDigits = 5;  // significant digits of a judged ratio in a text
+
 // "Doctors from 60 to 15": what a swing is.
 String SwingText(const String& name, const ColumnScale& scale);
 

@@ -1,5 +1,7 @@
 #include "view/Pictures.h"
 
+#include "view/Controls.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -12,7 +14,6 @@ constexpr Colour Rgb(Colour red, Colour green, Colour blue) { return red | (gree
 
 constexpr Colour kInk = Rgb(55, 65, 81);
 constexpr Colour kFaint = Rgb(226, 232, 240);
-constexpr Colour kWhite = Rgb(255, 255, 255);
 constexpr Colour kBenefit = Rgb(201, 66, 62);
 constexpr Colour kBenefitLight = Rgb(255, 205, 200);
 constexpr Colour kCost = Rgb(66, 108, 196);

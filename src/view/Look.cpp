@@ -165,8 +165,12 @@ Colour TextOn(Colour ground, const Palette& palette) {
   return ground == palette.Base ? palette.Text : InkFor(ground, palette.Text);
 }
 
+bool IsSign(const Label& label) { return label.ForeColor == kHighlightText; }
+
+Colour FaintOf(Colour ink, Colour ground) { return Blend(ink, ground, 50); }
+
 LabelLook LookOf(const Label& label, const Palette& palette) {
-  if (label.ForeColor == kHighlightText) return {palette.HighlightText, palette.Highlight, true};
+  if (IsSign(label)) return {palette.HighlightText, palette.Highlight, true};
   const bool seeThrough = label.BackColor == kButtonFace;
   const Colour ground = seeThrough ? GroundOf(label, palette) : Named(label.BackColor, palette);
   LabelLook look;
@@ -185,7 +189,7 @@ ButtonLook LookOf(const CommandButton& button, const Palette& palette, bool enab
                                           : own;
   look.Edge = Blend(look.Face, kBlack, !enabled ? 10 : pressed == Pressed::Hover ? 38 : 26);
   look.Ink = InkFor(look.Face, palette.Text);
-  if (!enabled) look.Ink = Blend(look.Ink, look.Face, 50);
+  if (!enabled) look.Ink = FaintOf(look.Ink, look.Face);
   return look;
 }
 

@@ -48,9 +48,15 @@ struct LabelLook {
   bool Lit = false;              // a sign: its ground is rounded
 };
 LabelLook LookOf(const Label& label, const Palette& palette);
+bool IsSign(const Label& label);            // its caption is in the colour of highlighted text
+Colour FaintOf(Colour ink, Colour ground);  // of what is disabled
 
 // Sizes, in pixels of the design.
-constexpr int kSidePadding = 6;         // beside a button's caption
+constexpr int kSidePadding = 6;  // beside a button's caption
+constexpr int kSignPadding = 4;  // beside a lit one
+constexpr int kFrameTitleLeft = 12;
+constexpr int kFrameTitleHeight = 16;
+constexpr int kFrameTitleGap = 4;       // of the line, on both sides
 constexpr int kIndicatorRoom = 24;      // of a check box or an option button
 constexpr int kCarriedSide = 28;        // the picture that stands for what is dragged
 constexpr int kCarriedOpacity = 70;     // percent

@@ -53,6 +53,12 @@ void Mirror::Bring(Control& control) {
   if (order != control.Order) RestackLater(*control.Parent);
   order = control.Order;
   Apply(control);
+  ShowTip(control, HasCaption(control) ? Fitted(control).Tip : control.ToolTipText());
+}
+
+FittedCaption Mirror::Fitted(const Control& control) const {
+  return FitCaption(control, Scale(),
+                    [this](const String& text, const TypeFace& face) { return TextWidth(text, face); });
 }
 
 // Where it was and where it is now.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "view/Drag.h"
+#include "view/Lettering.h"
 #include "view/Pixels.h"
 #include "view/Reach.h"
 
@@ -46,8 +47,8 @@ class Mirror {
   Form* Tree() const { return form_; }  // null once it is released
   Gesture& Hand() const;                // while it is not
 
-  void SyncAll();  // all that there is
-  void Sync();     // what the tree has marked
+  void SyncAll();       // all that there is
+  virtual void Sync();  // what the tree has marked
   void SyncControl(Control& control);
   // After what a person did: what no handler has brought to the screen, and the control as the tree has it, whatever
   // its window did by itself; null: none.
@@ -58,6 +59,7 @@ class Mirror {
 
   // --- what gestures need of a toolkit ---
   virtual double Scale() const { return 1.0; }
+  FittedCaption Fitted(const Control& control) const;
   virtual bool HasWindow(const Control& control) const = 0;
   virtual void FocusTree() = 0;  // the keyboard goes to the window of the tree's active control, or to the form's own
   virtual Touch TouchOf(const Control& control, FormPoint at) const = 0;
@@ -65,6 +67,8 @@ class Mirror {
   virtual Entered EnteredIn(const TextBox& box) const = 0;
   virtual void HoldMouse() {}  // moves and the release come here, wherever the pointer goes
   virtual void LetMouseGo() {}
+  virtual void Announce(const Label& label,
+                        bool renamed) = 0;  // to a screen reader; `renamed`: it is to read the name anew
   virtual void ShowCarried(const Carried& carried) = 0;
   virtual void HideCarried() = 0;
 
@@ -72,10 +76,12 @@ class Mirror {
   // --- what synchronising needs of it ---
   virtual bool Create(Control& control) = 0;  // its window in that of its container, hidden; false: it has none
   virtual void PutAt(Control& control, const PixelRect& place) = 0;
-  virtual void Apply(Control& control) = 0;          // what its record says
-  virtual void ApplyForm() = 0;                      // the same for the form's own window
-  virtual void Destroy(const Control& control) = 0;  // hides at once, and buries
-  virtual void DestroyAll() = 0;                     // hides the form; its windows go with the mirror
+  virtual void Apply(Control& control) = 0;                                   // what its record says
+  virtual void ShowTip(const Control& control, const String& tip) = 0;        // empty: none
+  virtual int TextWidth(const String& text, const TypeFace& face) const = 0;  // without marks, pixels
+  virtual void ApplyForm() = 0;                                               // the same for the form's own window
+  virtual void Destroy(const Control& control) = 0;                           // hides at once, and buries
+  virtual void DestroyAll() = 0;  // hides the form; its windows go with the mirror
   virtual void Repaint(const Control& container, const PixelRect& area) = 0;
   virtual void ToFront(const Control& control) = 0;
   virtual void BorderToFront(const Control& container) = 0;  // the line around it stands in front of what it contains

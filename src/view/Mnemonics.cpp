@@ -2,6 +2,7 @@
 
 #include "view/Captions.h"
 #include "view/Input.h"
+#include "view/Lettering.h"
 #include "view/Reach.h"
 
 #include <algorithm>
@@ -9,16 +10,6 @@
 namespace Tarnwise::Input {
 
 namespace {
-
-const String* CaptionOf(const Control& control) {
-  switch (control.Type) {
-    case Kind::CommandButton: return &static_cast<const CommandButton&>(control).Caption();
-    case Kind::OptionButton: return &static_cast<const OptionButton&>(control).Caption();
-    case Kind::CheckBox: return &static_cast<const CheckBox&>(control).Caption();
-    case Kind::Label: return &static_cast<const Label&>(control).Caption();
-    default: return nullptr;
-  }
-}
 
 // What the caption's mnemonic leads to now; null where a person can't get there.
 Control* LedTo(Control& control) {
@@ -35,8 +26,7 @@ bool Mnemonic(Form& form, int character) {
   std::vector<Control*> meant;
   bool names = false;  // the last one found is a label's
   for (Control* control : form.Controls()) {
-    const String* const caption = CaptionOf(*control);
-    if (caption == nullptr || MnemonicOf(*caption) != lower) continue;
+    if (!HasCaption(*control) || MnemonicOf(CaptionOf(*control)) != lower) continue;
     Control* const found = LedTo(*control);
     if (found == nullptr) continue;
     meant.push_back(found);

@@ -1,5 +1,6 @@
 #include "view/Painting.h"
 
+#include "view/Captions.h"
 #include "view/Pictures.h"
 #include "view/Reach.h"
 
@@ -69,6 +70,54 @@ void PaintShape(const Brushes& brushes, const Shape& shape) {
   PaintBody(brushes.On, place, shape.Round, kCorner * brushes.Scale, {look.Fill, look.Edge, brushes.Scale});
 }
 
+void PaintTitle(const Brushes& brushes, const Frame& frame, const PixelRect& client, int height) {
+  const TypeFace bold{9, true, kNormalStretch};
+  const Palette& colours = brushes.Colours;
+  const int left = Scaled(kFrameTitleLeft, brushes.Scale);
+  const int gap = Scaled(kFrameTitleGap, brushes.Scale);
+  const int room = client.Width() - 2 * left;
+  const int width = std::min(brushes.On.WidthOf(UnmarkedCaption(frame.Caption), bold), room);
+  brushes.On.Fill(ToBox({left - gap, 0, left + width + gap, height}), colours.Window);
+  const Colour ink = IsUsable(frame) ? colours.WindowText : FaintOf(colours.WindowText, colours.Window);
+  brushes.On.Text(ToBox({left, 0, left + room, height}), {MarkedCaption(frame.Caption), bold, Align::Left, false}, ink);
+}
+
+void PaintFrame(const Brushes& brushes, const Frame& frame, const PixelRect& client) {
+  const int titleHeight = frame.Caption().empty() ? 0 : Scaled(kFrameTitleHeight, brushes.Scale);
+  PaintFrameLine(brushes, client, titleHeight);
+  if (titleHeight > 0) PaintTitle(brushes, frame, client, titleHeight);
+}
+
+void PaintCaption(const Brushes& brushes, const Control& control, const PixelRect& room, Colour ink) {
+  const Surface& on = brushes.On;
+  const auto widthOf = [&on](const String& text, const TypeFace& face) { return on.WidthOf(text, face); };
+  brushes.On.Text(ToBox(room), FitCaption(control, brushes.Scale, widthOf).Shown, ink);
+}
+
+void PaintLabel(const Brushes& brushes, const Label& label, const PixelRect& client) {
+  const LabelLook look = LookOf(label, brushes.Colours);
+  PixelRect room = client;
+  if (look.Lit) {
+    PaintSign(brushes, client, *look.Ground);
+    room.Left += Scaled(kSignPadding, brushes.Scale);
+    room.Right -= Scaled(kSignPadding, brushes.Scale);
+  } else if (look.Ground) {
+    brushes.On.Fill(ToBox(client), *look.Ground);
+  }
+  const Colour ground = look.Ground.value_or(GroundOf(label, brushes.Colours));
+  PaintCaption(brushes, label, room, IsUsable(label) ? look.Ink : FaintOf(look.Ink, ground));
+}
+
+void PaintButton(const Brushes& brushes, const CommandButton& button, const PixelRect& client, PaintState state) {
+  const Pressed how = state.Pressed ? Pressed::Down : state.Hovered ? Pressed::Hover : Pressed::No;
+  const ButtonLook look = LookOf(button, brushes.Colours, IsUsable(button), how);
+  PaintFace(brushes, client, look, state.Focused);
+  const int padding = Scaled(kSidePadding, brushes.Scale);
+  const int sunk = state.Pressed ? Scaled(1, brushes.Scale) : 0;
+  PaintCaption(brushes, button, {client.Left + padding, client.Top, client.Right - padding, client.Bottom + sunk},
+               look.Ink);
+}
+
 Ink InkOf(const PictureShape& shape, Colour ground, double scale) {
   Ink ink;
   if (shape.Fill) ink.Fill = MarkOn(*shape.Fill, ground);
@@ -126,6 +175,8 @@ void PaintContainer(const Brushes& brushes, const Control& container, const Pixe
     PaintPicture(brushes.On, box.Picture, ToBox(client).Shrunk(kPictureMargin * brushes.Scale), ground);
     const double unit = PixelsPerUnit(box, brushes.Scale);
     for (const Drawn& drawn : box.Drawing) PaintDrawn(brushes, drawn, unit, ground);
+  } else if (container.Type == Kind::Frame) {
+    PaintFrame(brushes, static_cast<const Frame&>(container), client);
   }
   PaintChildren(brushes, container, area);
 }
@@ -136,7 +187,7 @@ void PaintFrameLine(const Brushes& brushes, const PixelRect& client, int titleHe
   brushes.On.RoundBox(line, kFrameCorner * brushes.Scale, {std::nullopt, FrameEdge(brushes.Colours), brushes.Scale});
 }
 
-void PaintHandle(const Brushes& brushes, const Control& handle, const PixelRect& client, HandleState state) {
+void PaintHandle(const Brushes& brushes, const Control& handle, const PixelRect& client, PaintState state) {
   const bool isShape = handle.Type == Kind::Shape;
   const bool round = !isShape || static_cast<const Shape&>(handle).Round;
   const Colour colour =
@@ -159,6 +210,30 @@ void PaintHandle(const Brushes& brushes, const Control& handle, const PixelRect&
   if (!state.Focused && !state.Hovered) return;
   brushes.On.Ellipse(around(side - brushes.Scale),
                      {std::nullopt, brushes.Colours.Highlight, 2.0 * brushes.Scale, state.Focused ? 1.0 : 0.5});
+}
+
+bool IsOpaque(const Control& control) {
+  return control.Type == Kind::Form || control.Type == Kind::Frame ||
+         (control.Type == Kind::PictureBox && !IsHandle(control));
+}
+
+void PaintControl(const Brushes& brushes, const Control& control, const PixelRect& client, const PixelRect& area,
+                  PaintState state) {
+  if (control.Type == Kind::Label) {
+    PaintLabel(brushes, static_cast<const Label&>(control), client);
+  } else if (control.Type == Kind::CommandButton) {
+    PaintButton(brushes, static_cast<const CommandButton&>(control), client, state);
+  } else if (control.Type == Kind::Image) {
+    PaintPicture(brushes.On, static_cast<const Image&>(control).Picture, ToBox(client),
+                 GroundOf(control, brushes.Colours));
+  } else if (!IsOpaque(control)) {
+    PaintHandle(brushes, control, client, state);
+  } else {
+    PaintContainer(brushes, control, client, area);
+    if (!state.Focused || !control.DragAutomatic) return;
+    const Ink ring{std::nullopt, brushes.Colours.Highlight, 2.0 * brushes.Scale};
+    brushes.On.RoundBox(ToBox(client).Shrunk(brushes.Scale), 0.0, ring);
+  }
 }
 
 void PaintSign(const Brushes& brushes, const PixelRect& client, Colour colour) {

@@ -1,5 +1,5 @@
-// What of a form is painted and not left to native controls: charts, drawings, lines, shapes, handles, signs, pictures,
-// coloured buttons. Once for every toolkit.
+// What of a form is painted and not left to native controls: labels, frames, charts, drawings, lines, shapes, handles,
+// pictures, coloured buttons. Once for every toolkit.
 #pragma once
 
 #include "view/Look.h"
@@ -14,20 +14,28 @@ struct Brushes {
   double Scale = 1.0;  // pixels in one of the design
 };
 
+// What a person does to a control.
+struct PaintState {
+  bool Focused = false;
+  bool Hovered = false;
+  bool Pressed = false;
+};
+
 Box ToBox(const PixelRect& place);
 
-// Of a container what meets the area: its ground, its picture and its drawing, then its lines and shapes.
+// A control, of its window `client` what meets the area. What is behind one that is not opaque is there already.
+void PaintControl(const Brushes& brushes, const Control& control, const PixelRect& client, const PixelRect& area,
+                  PaintState state);
+bool IsOpaque(const Control& control);
+
+// Of a container what meets the area: its ground, its picture and its drawing, or its title, then its lines and shapes.
 void PaintContainer(const Brushes& brushes, const Control& container, const PixelRect& client, const PixelRect& area);
 // The lines and shapes alone.
 void PaintChildren(const Brushes& brushes, const Control& container, const PixelRect& area);
 void PaintFrameLine(const Brushes& brushes, const PixelRect& client, int titleHeight);
 
-struct HandleState {
-  bool Focused = false;
-  bool Hovered = false;
-};
 // A small drag source in the middle of its window.
-void PaintHandle(const Brushes& brushes, const Control& handle, const PixelRect& client, HandleState state);
+void PaintHandle(const Brushes& brushes, const Control& handle, const PixelRect& client, PaintState state);
 void PaintSign(const Brushes& brushes, const PixelRect& client, Colour colour);  // the ground of a lit label
 // The face of a button that the form gives a colour of its own.
 void PaintFace(const Brushes& brushes, const PixelRect& client, const ButtonLook& look, bool focused);

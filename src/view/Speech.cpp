@@ -1,6 +1,7 @@
 #include "view/Speech.h"
 
 #include "view/Captions.h"
+#include "view/Lettering.h"
 #include "view/Reach.h"
 
 #include <utility>
@@ -25,8 +26,8 @@ bool TakeSaid(Label& label) {
 }  // namespace
 
 String SpokenName(const Control& control) {
-  if (control.Type != Kind::Label) return control.AccessibleName;
-  const String caption = UnmarkedCaption(static_cast<const Label&>(control).Caption);
+  if (control.Type != Kind::Label && control.Type != Kind::Frame) return control.AccessibleName;
+  const String caption = UnmarkedCaption(CaptionOf(control));
   return control.AccessibleName().empty() ? caption : control.AccessibleName() + ": " + caption;
 }
 

@@ -5,8 +5,8 @@
 
 namespace Tarnwise {
 
-// What it is called. A label says its caption, without marks, behind the accessible name where it has one: "Cost
-// reference: Nurses". Empty where the native control's own text says it.
+// What it is called. A label or a frame says its caption, without marks, behind the accessible name where it has one:
+// "Cost reference: Nurses". Empty where the native control's own text says it.
 String SpokenName(const Control& control);
 
 // What the form's labels say, when it comes to the screen, is no news.

@@ -1,8 +1,8 @@
-// What shapes are drawn on: a widget's painter, a bitmap of Windows, a test's list of what was drawn. Lengths are
-// pixels of the container's window; edges are smooth but where it says otherwise.
+// What shapes and texts are drawn on: a widget's painter, a bitmap of Windows, a test's list of what was drawn. Lengths
+// are pixels of the container's window; edges are smooth but where it says otherwise.
 #pragma once
 
-#include <tarnwise/Scalars.h>
+#include "view/Lettering.h"
 
 #include <optional>
 #include <vector>
@@ -45,6 +45,8 @@ class Surface {
   virtual void Polygon(const std::vector<Spot>& spots, const Ink& ink) = 0;
   virtual void Ellipse(const Box& box, const Ink& ink) = 0;
   virtual void RoundBox(const Box& box, double radius, const Ink& ink) = 0;
+  virtual void Text(const Box& room, const Writing& text, Colour ink) = 0;
+  virtual int WidthOf(const String& text, const TypeFace& face) const = 0;  // without marks
 };
 
 }  // namespace Tarnwise

@@ -6,6 +6,7 @@
 #include "forms/SelMethodForm.h"
 #include "forms/TradeOffsBForm.h"
 #include "view/Captions.h"
+#include "view/Lettering.h"
 #include "view/Platform.h"
 
 #include <gtest/gtest.h>
@@ -77,16 +78,6 @@ inline std::vector<MnemonicForm> MnemonicForms() {
       {"the trade-offs' results", [](const Screen& screen) { return std::make_shared<TradeOffsBForm>(screen); },
        WithFoot({{'p', {"cmdTarnwisePrint"}}}, "cmdTarnwiseHelp")},
   };
-}
-
-inline String CaptionOf(const Control& control) {
-  switch (control.Type) {
-    case Kind::CommandButton: return static_cast<const CommandButton&>(control).Caption;
-    case Kind::OptionButton: return static_cast<const OptionButton&>(control).Caption;
-    case Kind::CheckBox: return static_cast<const CheckBox&>(control).Caption;
-    case Kind::Label: return static_cast<const Label&>(control).Caption;
-    default: return {};
-  }
 }
 
 // Shows each form in turn and presses Alt with every letter that a caption on it marks, by what the toolkit has for a

@@ -23,6 +23,16 @@ class RecordingSurface : public Surface {
   void RoundBox(const Box& box, double radius, const Ink& ink) override {
     Lines.push_back("box " + Of(box) + " corner " + Of(radius) + Of(ink));
   }
+  void Text(const Box& room, const Writing& text, Colour ink) override {
+    std::string look = text.Face.Bold ? " bold" : "";
+    if (text.Face.Stretch != kNormalStretch) look += " narrow " + std::to_string(text.Face.Stretch);
+    if (text.Wraps) look += " wrapped";
+    Lines.push_back("text " + Of(room) + " " + Of(ink) + look + ": " + text.Text);
+  }
+  // A hundredth of the stretch to a letter and point.
+  int WidthOf(const String& text, const TypeFace& face) const override {
+    return static_cast<int>(text.size()) * face.Points * face.Stretch / kNormalStretch;
+  }
 
  private:
   static std::string Of(double number) {

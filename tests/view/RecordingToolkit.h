@@ -32,6 +32,7 @@ class RecordingMirror : public Mirror {
     return std::abs(to.X - from.X) + std::abs(to.Y - from.Y) > 100.0;
   }
   Entered EnteredIn(const TextBox& box) const override { return {box.Text, box.SelStart, box.SelLength, 0}; }
+  void Announce(const Label& label, bool /*renamed*/) override { Note("announce", label); }
   void ShowCarried(const Carried& carried) override { Note(carried.Taken ? "carried" : "refused", carried.Source); }
   void HideCarried() override { lines_.emplace_back("carried no more"); }
 
@@ -42,6 +43,12 @@ class RecordingMirror : public Mirror {
   }
   void PutAt(Control& /*control*/, const PixelRect& /*place*/) override {}
   void Apply(Control& control) override { Note("apply", control); }
+  void ShowTip(const Control& control, const String& tip) override {
+    if (!tip.empty()) lines_.push_back("tip " + control.FullName() + ": " + tip);
+  }
+  int TextWidth(const String& text, const TypeFace& face) const override {
+    return static_cast<int>(text.size()) * face.Points;
+  }
   void ApplyForm() override { Note("apply", *Tree()); }
   void Destroy(const Control& control) override {
     if (windows_.erase(&control) != 0) Note("destroy", control);

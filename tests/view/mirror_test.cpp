@@ -18,6 +18,7 @@ struct SmallForm : Form {
   explicit SmallForm(std::shared_ptr<Platform> platform) : Form(std::move(platform), "frmSmall") {
     Place(*this, 0, 0, 6000, 4500);
     Place(picBox, 3000, 150, 2400, 2400);
+    Place(lblInside, 150, 150, 1500, 300);
     Place(cmdGo, 150, 150, 1500, 420);
     Place(cmdSource, 150, 750, 1500, 420);
     cmdGo.TabIndex = 0;

@@ -23,7 +23,7 @@ struct Painted : Bench {
     PaintContainer({Surface_, kLight, scale}, container, WindowPlace(container, scale), area);
     return Surface_.Lines;
   }
-  Shapes HandleAt(const Control& handle, double scale, const PixelRect& client, HandleState state) {
+  Shapes HandleAt(const Control& handle, double scale, const PixelRect& client, PaintState state) {
     Surface_.Lines.clear();
     PaintHandle({Surface_, kLight, scale}, handle, client, state);
     return Surface_.Lines;

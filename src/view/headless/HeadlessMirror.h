@@ -17,6 +17,7 @@ class HeadlessMirror : public Mirror {
   Touch TouchOf(const Control& /*control*/, FormPoint /*at*/) const override { return {true, row_}; }
   bool IsFar(FormPoint /*from*/, FormPoint /*to*/) const override { return true; }
   Entered EnteredIn(const TextBox& box) const override;
+  void Announce(const Label& /*label*/, bool /*renamed*/) override {}
   void ShowCarried(const Carried& /*carried*/) override {}
   void HideCarried() override {}
 
@@ -29,6 +30,8 @@ class HeadlessMirror : public Mirror {
   bool Create(Control& /*control*/) override { return true; }
   void PutAt(Control& /*control*/, const PixelRect& /*place*/) override {}
   void Apply(Control& /*control*/) override {}
+  void ShowTip(const Control& /*control*/, const String& /*tip*/) override {}
+  int TextWidth(const String& /*text*/, const TypeFace& /*face*/) const override { return 0; }
   void ApplyForm() override {}
   void Destroy(const Control& /*control*/) override {}
   void DestroyAll() override {}

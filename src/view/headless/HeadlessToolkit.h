@@ -30,7 +30,7 @@ class HeadlessToolkit : public Toolkit {
 };
 
 // A key typed at the control with the focus of a form: events, then what the key itself does.
-// `code` is the virtual key, `character` what it types (0: nothing), `shift` 1 Shift, 2 Ctrl.
+// `code` is the virtual key, `character` what it types (0: nothing), `shift` as of Shift.
 void TypeKey(Form& form, int code, int character, int shift);
 
 }  // namespace Tarnwise

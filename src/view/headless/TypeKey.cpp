@@ -74,8 +74,11 @@ void TypeKey(Form& form, int code, int character, int shift) {
   HeadlessMirror mirror(form);
   Gesture& hand = mirror.Hand();
   const Control& at = form.ActiveControl != nullptr ? *form.ActiveControl : form;
-  if (hand.KeyDown(mirror, at, {code, shift}) == KeyGoes::ToBox) {
+  const KeyGoes goes = hand.KeyDown(mirror, at, {code, shift});
+  if (goes == KeyGoes::ToBox) {
     TypeIntoBox(mirror, *static_cast<TextBox*>(form.ActiveControl), {code, character, shift});
+  } else if (goes == KeyGoes::ToMenu) {
+    hand.Mnemonic(mirror, character);
   }
   // Where the focus has gone elsewhere meanwhile, the key comes up there.
   hand.KeyUp(mirror, {code, shift});

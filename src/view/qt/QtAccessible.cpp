@@ -3,8 +3,8 @@
 #include "view/Platform.h"
 #include "view/Reach.h"
 #include "view/qt/QtForm.h"
+#include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
-#include "view/qt/QtPictureBox.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -130,18 +130,6 @@ void InstallAccessibility() {
   static bool installed = false;
   if (!installed) QAccessible::installFactory(MakeInterface);
   installed = true;
-}
-
-// Some platforms pass on an alert, others a changed name alone. A new caption has changed the widget's name already.
-void TellOf(QtForm& form, const Label& label) {
-  QWidget* const widget = form.WidgetOf(label);
-  if (widget == nullptr) return;
-  if (label.Announces == Announce::Lit) {
-    QAccessibleEvent named(widget, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&named);
-  }
-  QAccessibleEvent alert(widget, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
 }
 
 }  // namespace Tarnwise

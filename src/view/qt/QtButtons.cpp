@@ -1,13 +1,10 @@
 // Command buttons, option buttons, check boxes and tool bars.
-#include "view/Painting.h"
 #include "view/Pictures.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
-#include "view/qt/QtSurface.h"
 
 #include <QCheckBox>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -32,38 +29,25 @@ class ButtonWidget : public QPushButton {
   }
 
   void paintEvent(QPaintEvent* event) override {
-    const auto* const button = static_cast<const CommandButton*>(form_.ControlOf(this));
-    if (Flat && button != nullptr)
-      PaintFlat(LookOf(*button, form_.Colours(), isEnabled(),
-                       isDown()       ? Pressed::Down
-                       : underMouse() ? Pressed::Hover
-                                      : Pressed::No));
+    if (Flat)
+      form_.Paint(*this, event->rect());
     else
       QPushButton::paintEvent(event);
   }
 
  private:
-  void PaintFlat(const ButtonLook& look) {
-    QPainter painter(this);
-    QtSurface surface(painter);
-    PaintFace({surface, form_.Colours()}, ToPixelRect(rect()), look, hasFocus());
-    painter.setPen(ToQColor(look.Ink));
-    painter.drawText(rect().adjusted(kSidePadding, 0, -kSidePadding, isDown() ? 1 : 0),
-                     Qt::AlignCenter | Qt::TextShowMnemonic, text());
-  }
-
   QtForm& form_;
 };
 
-void SetCaption(QAbstractButton& button, const Control& control, const String& caption, int room) {
-  const QString plain = PlainCaption(caption);
-  const QFont font = FittedFont(BaseFont(), plain, room);
+void SetCaption(const QtForm& form, const Control& control, QAbstractButton& button) {
+  const FittedCaption caption = form.Fitted(control);
+  const QFont font = FontOf(caption.Shown.Face);
   if (button.font() != font) button.setFont(font);
-  const QFontMetrics metrics(font);
-  const bool cut = metrics.horizontalAdvance(plain) > room;
-  const QString text = cut ? metrics.elidedText(plain, Qt::ElideRight, room).replace("&", "&&") : Caption(caption);
+  const QString plain = PlainCaption(CaptionOf(control));
+  const QString text = caption.Cut
+                           ? QFontMetrics(font).elidedText(plain, Qt::ElideRight, caption.Room).replace("&", "&&")
+                           : Text(caption.Shown.Text);
   if (button.text() != text) button.setText(text);
-  SetFullText(button, control, plain, cut);
 }
 
 // The widget's own toggling is undone or confirmed by what the tree says afterwards.
@@ -80,11 +64,10 @@ QWidget* MakeButton(QtForm& form, Control& control, QWidget& parent) {
   return button;
 }
 
-void SyncButton(QtForm& /*form*/, Control& control, QWidget& widget) {
-  auto& button = static_cast<CommandButton&>(control);
+void SyncButton(QtForm& form, Control& control, QWidget& widget) {
   auto& shown = static_cast<ButtonWidget&>(widget);
-  SetCaption(shown, control, button.Caption, std::max(widget.width() - 2 * kSidePadding, 1));
-  shown.Flat = button.BackColor != kButtonFace;
+  SetCaption(form, control, shown);
+  shown.Flat = static_cast<CommandButton&>(control).BackColor != kButtonFace;
   if (shown.Flat) widget.update();
 }
 
@@ -110,11 +93,10 @@ QWidget* MakeOption(QtForm& form, Control& /*control*/, QWidget& parent) {
 }
 
 void SyncOption(QtForm& form, Control& control, QWidget& widget) {
-  auto& option = static_cast<OptionButton&>(control);
   auto& shown = static_cast<QRadioButton&>(widget);
   SetInk(form, widget, control);
-  SetCaption(shown, control, option.Caption, std::max(widget.width() - kIndicatorRoom, 1));
-  Check(shown, option.Value);
+  SetCaption(form, control, shown);
+  Check(shown, static_cast<OptionButton&>(control).Value);
 }
 
 QWidget* MakeCheck(QtForm& form, Control& /*control*/, QWidget& parent) {
@@ -124,11 +106,10 @@ QWidget* MakeCheck(QtForm& form, Control& /*control*/, QWidget& parent) {
 }
 
 void SyncCheck(QtForm& form, Control& control, QWidget& widget) {
-  auto& box = static_cast<CheckBox&>(control);
   auto& shown = static_cast<QCheckBox&>(widget);
   SetInk(form, widget, control);
-  SetCaption(shown, control, box.Caption, std::max(widget.width() - kIndicatorRoom, 1));
-  Check(shown, box.Value != 0);
+  SetCaption(form, control, shown);
+  Check(shown, static_cast<CheckBox&>(control).Value != 0);
 }
 
 QWidget* MakeToolbar(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new QWidget(&parent); }

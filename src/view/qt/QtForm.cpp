@@ -11,6 +11,8 @@
 #include "view/qt/QtTextBox.h"
 #include "view/qt/QtToolkit.h"
 
+#include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
@@ -20,9 +22,9 @@ namespace Tarnwise {
 namespace {
 
 // The window. Its children never hand the keyboard to each other: the tree says who has it.
-class FormWindow : public QWidget {
+class FormWindow : public Painted<QWidget> {
  public:
-  explicit FormWindow(QtForm& form) : QWidget(nullptr, Qt::Dialog), form_(form) {}
+  explicit FormWindow(QtForm& form) : Painted(form, nullptr) { setWindowFlags(Qt::Dialog); }
 
  protected:
   void closeEvent(QCloseEvent* event) override {
@@ -33,15 +35,6 @@ class FormWindow : public QWidget {
     setFocus(Qt::OtherFocusReason);
     return true;
   }
-  void paintEvent(QPaintEvent* event) override {
-    if (form_.Tree() == nullptr) return;
-    QPainter painter(this);
-    QtSurface surface(painter);
-    PaintChildren({surface, form_.Colours()}, *form_.Tree(), ToPixelRect(event->rect()));
-  }
-
- private:
-  QtForm& form_;
 };
 
 void SetName(QWidget& widget, const Control& control) {
@@ -76,15 +69,10 @@ void SetCursorOf(QWidget& widget, const Control& control) {
 
 }  // namespace
 
-void SetFullText(QWidget& widget, const Control& control, const QString& text, bool cut) {
-  const QString tip = cut && control.ToolTipText().empty() ? text : Text(control.ToolTipText);
-  if (widget.toolTip() != tip) widget.setToolTip(tip);
-}
-
 QtForm::QtForm(Form& form, QtToolkit& toolkit)
     : Mirror(form), toolkit_(toolkit), window_(std::make_unique<FormWindow>(*this)) {
   window_->setObjectName(Text(form.Name));
-  window_->setFont(BaseFont());
+  window_->setFont(FontOf());
   window_->setWindowIcon(WindowIcon());
   TakeColours();
   window_->setFocus();
@@ -133,12 +121,35 @@ void QtForm::PutAt(Control& control, const PixelRect& place) {
 void QtForm::Apply(Control& control) {
   QWidget& widget = *WidgetOf(control);
   KindOf(control)->Sync(*this, control, widget);
-  if (!HasCaption(control)) SetFullText(widget, control, {}, false);
   SetName(widget, control);
   if (HasOutline(control)) ShowOutline(widget, colours_);
   SetCursorOf(widget, control);
   if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) widget.setEnabled(control.Enabled);
   if (widget.isHidden() == control.Visible) widget.setVisible(control.Visible);
+}
+
+void QtForm::ShowTip(const Control& control, const String& tip) {
+  QWidget& widget = *WidgetOf(control);
+  if (widget.toolTip() != Text(tip)) widget.setToolTip(Text(tip));
+}
+
+int QtForm::TextWidth(const String& text, const TypeFace& face) const { return TextWidthIn(face, text); }
+
+void QtForm::Paint(QWidget& widget, const QRect& area) const {
+  const Control* const control = ControlOf(&widget);
+  if (control == nullptr) return;
+  QPainter painter(&widget);
+  QtSurface surface(painter);
+  const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+  const PaintState state{widget.hasFocus(), widget.underMouse(), button != nullptr && button->isDown()};
+  PaintControl({surface, colours_}, *control, ToPixelRect(widget.rect()), ToPixelRect(area), state);
+}
+
+void QtForm::Announce(const Label& label, bool renamed) {
+  QAccessibleEvent named(WidgetOf(label), QAccessible::NameChanged);
+  if (renamed) QAccessible::updateAccessibility(&named);
+  QAccessibleEvent alert(WidgetOf(label), QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
 }
 
 void QtForm::ApplyForm() {

@@ -34,9 +34,11 @@ class QtForm : public QObject, public Mirror {
   // Events of this object are the control's: of its widget, and of parts of it.
   void Watch(QObject& object, Control& control);
 
+  void Paint(QWidget& widget, const QRect& area) const;  // as the tree has it
+
   // What widgets tell, all of it by a person's hand.
   void Clicked(QWidget& widget);             // a button's release, or a screen reader's press
-  void RowChosen(QWidget& widget, int row);  // in the control's own numbers
+  void RowChosen(QWidget& widget, int row);  // from 0
   void ToolPressed(QWidget& widget, std::size_t button);
   void Scrolled(QWidget& widget, int value, bool dragging);
   void CaretMoved(const QWidget& widget);
@@ -50,6 +52,7 @@ class QtForm : public QObject, public Mirror {
   Touch TouchOf(const Control& control, FormPoint at) const override;
   bool IsFar(FormPoint from, FormPoint to) const override;
   Entered EnteredIn(const TextBox& box) const override;
+  void Announce(const Label& label, bool renamed) override;
   void ShowCarried(const Carried& carried) override;
   void HideCarried() override;
 
@@ -57,6 +60,8 @@ class QtForm : public QObject, public Mirror {
   bool Create(Control& control) override;
   void PutAt(Control& control, const PixelRect& place) override;
   void Apply(Control& control) override;
+  void ShowTip(const Control& control, const String& tip) override;
+  int TextWidth(const String& text, const TypeFace& face) const override;
   void ApplyForm() override;
   void Destroy(const Control& control) override;
   void DestroyAll() override;

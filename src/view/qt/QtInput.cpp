@@ -2,6 +2,7 @@
 // their own behaviour is wanted; what they would choose or toggle by themselves is put to the tree, which decides.
 #include "view/Gesture.h"
 #include "view/Keys.h"
+#include "view/Rows.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKeys.h"
 #include "view/qt/QtTextBox.h"
@@ -39,16 +40,14 @@ QPointF QtForm::InPixels(FormPoint at) { return QPointF(at.X, at.Y) / kTwipsPerD
 Touch QtForm::TouchOf(const Control& control, FormPoint at) const {
   const QWidget* const widget = WidgetOf(control);
   if (widget == nullptr) return {false, -1};
-  Touch touch;
-  touch.Inside = widget->rect().contains(widget->mapFrom(&Window(), InPixels(at)).toPoint());
-  if (control.Type == Kind::ListBox) {
-    const auto& list = static_cast<const QListWidget&>(*widget);
-    touch.Row = list.indexAt(list.viewport()->mapFrom(&Window(), InPixels(at)).toPoint()).row();
-  } else if (control.Type == Kind::TabStrip) {
-    const int tab = static_cast<const QTabBar&>(*widget).tabAt(widget->mapFrom(&Window(), InPixels(at)).toPoint());
-    touch.Row = tab < 0 ? -1 : tab + 1;
+  const QPoint inside = widget->mapFrom(&Window(), InPixels(at)).toPoint();
+  int row = -1;
+  if (const auto* const list = qobject_cast<const QListWidget*>(widget)) {
+    row = list->indexAt(list->viewport()->mapFrom(&Window(), InPixels(at)).toPoint()).row();
+  } else if (const auto* const tabs = qobject_cast<const QTabBar*>(widget)) {
+    row = tabs->tabAt(inside);
   }
-  return touch;
+  return {widget->rect().contains(inside), row < 0 ? -1 : RowsOf(control).First + row};
 }
 
 bool QtForm::IsFar(FormPoint from, FormPoint to) const {
@@ -87,7 +86,7 @@ void QtForm::Clicked(QWidget& widget) {
 }
 
 void QtForm::RowChosen(QWidget& widget, int row) {
-  if (Control* const list = ControlOf(&widget)) Hand().RowChosen(*this, *list, row);
+  if (Control* const list = ControlOf(&widget)) Hand().RowChosen(*this, *list, RowsOf(*list).First + row);
 }
 
 void QtForm::ToolPressed(QWidget& widget, std::size_t button) {

@@ -53,6 +53,14 @@ Qt::Key QtKeyOf(int code) {
   return code >= '0' && code <= 'Z' ? static_cast<Qt::Key>(code) : Qt::Key_unknown;
 }
 
+Qt::KeyboardModifiers ModifiersOf(int shift) {
+  Qt::KeyboardModifiers held;
+  held.setFlag(Qt::ShiftModifier, (shift & kShift) != 0);
+  held.setFlag(Qt::ControlModifier, (shift & kControl) != 0);
+  held.setFlag(Qt::AltModifier, (shift & kAlt) != 0);
+  return held;
+}
+
 int CharacterOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   const int key = event.key();

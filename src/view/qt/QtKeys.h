@@ -9,8 +9,9 @@ class QKeyEvent;
 
 namespace Tarnwise {
 
-int VirtualKey(const QKeyEvent& event);   // 0: a modifier alone, or nothing that the forms know
-Qt::Key QtKeyOf(int code);                // the other way round
+int VirtualKey(const QKeyEvent& event);  // 0: a modifier alone, or nothing that the forms know
+Qt::Key QtKeyOf(int code);               // the other way round
+Qt::KeyboardModifiers ModifiersOf(int shift);
 int CharacterOf(const QKeyEvent& event);  // the code point it types, 0: none
 int ShiftOf(const QKeyEvent& event);      // what is held, as of Shift
 

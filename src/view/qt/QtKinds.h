@@ -3,12 +3,12 @@
 #pragma once
 
 #include "view/Controls.h"
+#include "view/qt/QtForm.h"
 
+#include <QPaintEvent>
 #include <QWidget>
 
 namespace Tarnwise {
-
-class QtForm;
 
 struct QtKind {
   QWidget* (*Make)(QtForm& form, Control& control, QWidget& parent);
@@ -19,8 +19,8 @@ struct QtKind {
 const QtKind* KindOf(const Control& control);
 
 extern const QtKind kQtLabel;
-extern const QtKind kQtImage;
 extern const QtKind kQtFrame;
+extern const QtKind kQtBox;  // images, picture boxes, handles
 extern const QtKind kQtCommandButton;
 extern const QtKind kQtOptionButton;
 extern const QtKind kQtCheckBox;
@@ -32,10 +32,22 @@ extern const QtKind kQtComboBox;
 extern const QtKind kQtImageCombo;
 extern const QtKind kQtGrid;
 extern const QtKind kQtScrollBar;
-extern const QtKind kQtPictureBox;
-extern const QtKind kQtShape;
 
-// Text that is elided in its widget is told in full by the tool tip, unless the control has one of its own.
-void SetFullText(QWidget& widget, const Control& control, const QString& text, bool cut);
+// A widget of Qt's that the tree paints: what is left of its own are its role, its name and its mnemonic.
+template <class Base>
+class Painted : public Base {
+ public:
+  Painted(QtForm& form, QWidget* parent) : Base(parent), form_(form) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override { form_.Paint(*this, event->rect()); }
+  QtForm& form_;
+};
+
+class QtBox : public Painted<QWidget> {
+ public:
+  using Painted::Painted;
+  Control* Source() const;  // the control while it is there
+};
 
 }  // namespace Tarnwise

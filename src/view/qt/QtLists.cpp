@@ -1,9 +1,10 @@
 // List boxes, tab strips and combos.
+#include "view/Rows.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
 
-#include <QAbstractItemView>
+#include <QAbstractItemModel>
 #include <QComboBox>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -15,37 +16,38 @@ namespace {
 
 constexpr int kRowHeight = 24;  // pixels, of a list box
 
+// Counted from 0, as Qt does; -1: none.
+int ChosenOf(const Control& list) { return RowsOf(list).Chosen - RowsOf(list).First; }
+
+void SyncRows(QAbstractItemModel& model, const Control& list) {
+  const std::vector<String> texts = RowTexts(list);
+  const int wanted = static_cast<int>(texts.size());
+  if (model.rowCount() > wanted) model.removeRows(wanted, model.rowCount() - wanted);
+  if (model.rowCount() < wanted) model.insertRows(model.rowCount(), wanted - model.rowCount());
+  for (int row = 0; row < wanted; ++row) {
+    const QModelIndex at = model.index(row, 0);
+    const QString text = Text(texts[static_cast<std::size_t>(row)]);
+    if (at.data().toString() != text) model.setData(at, text);
+  }
+}
+
 QWidget* MakeListBox(QtForm& form, Control& control, QWidget& parent) {
   auto* const list = new QListWidget(&parent);
   list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list->setUniformItemSizes(true);
+  list->setCurrentIndex({});  // else the list would choose its first row as the keyboard comes
   form.Watch(*list->viewport(), control);
   QObject::connect(list, &QListWidget::currentRowChanged, &form,
                    [&form, list](int row) { form.RowChosen(*list, row); });
   return list;
 }
 
-QStringList Texts(const std::vector<String>& list) {
-  QStringList texts;
-  for (const String& text : list) texts << Text(text);
-  return texts;
-}
-
 void SyncListBox(QtForm& /*form*/, Control& control, QWidget& widget) {
-  auto& box = static_cast<ListBox&>(control);
   auto& list = static_cast<QListWidget&>(widget);
   const QSignalBlocker quiet(list);
-  const QStringList texts = Texts(box.List);
-  while (list.count() > texts.size()) delete list.takeItem(list.count() - 1);
-  for (int i = 0; i < texts.size(); ++i) {
-    if (i >= list.count()) {
-      list.addItem(texts[i]);
-      list.item(i)->setSizeHint(QSize(0, kRowHeight));
-    } else if (list.item(i)->text() != texts[i]) {
-      list.item(i)->setText(texts[i]);
-    }
-  }
-  if (list.currentRow() != box.ListIndex) list.setCurrentRow(box.ListIndex);
+  SyncRows(*list.model(), control);
+  for (int row = 0; row < list.count(); ++row) list.item(row)->setSizeHint(QSize(0, kRowHeight));
+  if (list.currentRow() != ChosenOf(control)) list.setCurrentRow(ChosenOf(control));
 }
 
 QWidget* MakeTabStrip(QtForm& form, Control& /*control*/, QWidget& parent) {
@@ -53,63 +55,46 @@ QWidget* MakeTabStrip(QtForm& form, Control& /*control*/, QWidget& parent) {
   bar->setDrawBase(true);
   bar->setExpanding(false);
   bar->setElideMode(Qt::ElideRight);
-  QObject::connect(bar, &QTabBar::currentChanged, &form, [&form, bar](int tab) { form.RowChosen(*bar, tab + 1); });
+  QObject::connect(bar, &QTabBar::currentChanged, &form, [&form, bar](int tab) { form.RowChosen(*bar, tab); });
   return bar;
 }
 
 void SyncTabStrip(QtForm& /*form*/, Control& control, QWidget& widget) {
-  auto& strip = static_cast<TabStrip&>(control);
   auto& bar = static_cast<QTabBar&>(widget);
   const QSignalBlocker quiet(bar);
-  while (bar.count() > static_cast<int>(strip.Tabs.size())) bar.removeTab(bar.count() - 1);
-  for (int i = 0; i < static_cast<int>(strip.Tabs.size()); ++i) {
-    const QString caption = Caption(strip.Tabs[static_cast<std::size_t>(i)].Caption);
-    if (i >= bar.count())
-      bar.addTab(caption);
-    else if (bar.tabText(i) != caption)
-      bar.setTabText(i, caption);
+  const std::vector<String> captions = RowTexts(control);
+  const int wanted = static_cast<int>(captions.size());
+  while (bar.count() > wanted) bar.removeTab(bar.count() - 1);
+  while (bar.count() < wanted) bar.addTab({});
+  for (int tab = 0; tab < wanted; ++tab) {
+    const QString caption = Caption(captions[static_cast<std::size_t>(tab)]);
+    if (bar.tabText(tab) != caption) bar.setTabText(tab, caption);
   }
-  if (bar.currentIndex() != strip.SelectedItem - 1) bar.setCurrentIndex(strip.SelectedItem - 1);
+  if (bar.currentIndex() != ChosenOf(control)) bar.setCurrentIndex(ChosenOf(control));
 }
 
-QComboBox* NewCombo(QtForm& form, QWidget& parent, int firstNumber) {
+QWidget* MakeCombo(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const combo = new QComboBox(&parent);
   combo->setMaxVisibleItems(16);
-  QObject::connect(combo, &QComboBox::activated, &form,
-                   [&form, combo, firstNumber](int row) { form.RowChosen(*combo, row + firstNumber); });
+  QObject::connect(combo, &QComboBox::activated, &form, [&form, combo](int row) { form.RowChosen(*combo, row); });
   return combo;
 }
 
-QWidget* MakeComboBox(QtForm& form, Control& /*control*/, QWidget& parent) { return NewCombo(form, parent, 0); }
-QWidget* MakeImageCombo(QtForm& form, Control& /*control*/, QWidget& parent) { return NewCombo(form, parent, 1); }
-
-void SyncRows(QComboBox& combo, const QStringList& texts, int current) {
-  while (combo.count() > texts.size()) combo.removeItem(combo.count() - 1);
-  for (int i = 0; i < texts.size(); ++i) {
-    if (i >= combo.count())
-      combo.addItem(texts[i]);
-    else if (combo.itemText(i) != texts[i])
-      combo.setItemText(i, texts[i]);
-  }
-  if (combo.currentIndex() != current) combo.setCurrentIndex(current);
-}
-
-void SyncComboBox(QtForm& /*form*/, Control& control, QWidget& widget) {
-  auto& box = static_cast<ComboBox&>(control);
-  const QSignalBlocker quiet(widget);
-  SyncRows(static_cast<QComboBox&>(widget), Texts(box.List), box.ListIndex);
+void SyncCombo(QtForm& /*form*/, Control& control, QWidget& widget) {
+  auto& combo = static_cast<QComboBox&>(widget);
+  const QSignalBlocker quiet(combo);
+  SyncRows(*combo.model(), control);
+  if (combo.currentIndex() != ChosenOf(control)) combo.setCurrentIndex(ChosenOf(control));
 }
 
 void SyncImageCombo(QtForm& form, Control& control, QWidget& widget) {
-  auto& box = static_cast<ImageCombo&>(control);
+  SyncCombo(form, control, widget);
+  const auto& record = static_cast<const ImageCombo&>(control);
   auto& combo = static_cast<QComboBox&>(widget);
   const QSignalBlocker quiet(combo);
-  QStringList texts;
-  for (const ImageCombo::Item& item : box.Items) texts << Text(item.Text);
-  SyncRows(combo, texts, box.SelectedItem - 1);
   for (int i = 0; i < combo.count(); ++i) {
-    const ImageCombo::Item& item = box.Items[static_cast<std::size_t>(i)];
-    const bool chosen = i + 1 == box.SelectedItem && !item.SelectedPicture.empty();
+    const ImageCombo::Item& item = record.Items[static_cast<std::size_t>(i)];
+    const bool chosen = i == ChosenOf(control) && !item.SelectedPicture.empty();
     const String& name = chosen ? item.SelectedPicture : item.Picture;
     const QString drawn = QString("%1 on %2").arg(Text(name)).arg(form.Colours().Base);
     if (combo.itemData(i).toString() == drawn) continue;
@@ -122,7 +107,7 @@ void SyncImageCombo(QtForm& form, Control& control, QWidget& widget) {
 
 const QtKind kQtListBox{MakeListBox, SyncListBox};
 const QtKind kQtTabStrip{MakeTabStrip, SyncTabStrip};
-const QtKind kQtComboBox{MakeComboBox, SyncComboBox};
-const QtKind kQtImageCombo{MakeImageCombo, SyncImageCombo};
+const QtKind kQtComboBox{MakeCombo, SyncCombo};
+const QtKind kQtImageCombo{MakeCombo, SyncImageCombo};
 
 }  // namespace Tarnwise

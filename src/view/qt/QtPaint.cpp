@@ -67,20 +67,16 @@ void ShowOutline(QWidget& widget, const Palette& colours) {
   widget.setPalette(palette);
 }
 
-QFont BaseFont(int points, bool bold) {
+QFont FontOf(const TypeFace& face) {
   QFont font = QApplication::font();
-  font.setPixelSize((points * 4 + 1) / 3);
-  font.setBold(bold);
+  font.setPixelSize((face.Points * 4 + 1) / 3);
+  font.setBold(face.Bold);
+  font.setStretch(face.Stretch);
   return font;
 }
 
-QFont FittedFont(const QFont& font, const QString& text, int width) {
-  QFont fitted = font;
-  for (const int stretch : {100, 95, 90, 85}) {
-    fitted.setStretch(stretch);
-    if (QFontMetrics(fitted).size(Qt::TextShowMnemonic, text).width() <= width) break;
-  }
-  return fitted;
+int TextWidthIn(const TypeFace& face, const String& text) {
+  return QFontMetrics(FontOf(face)).size(0, Text(text)).width();
 }
 
 QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity) {

@@ -1,6 +1,7 @@
 // How the tree's lengths, colours and pictures look in Qt.
 #pragma once
 
+#include "view/Lettering.h"
 #include "view/Look.h"
 #include "view/Pixels.h"
 
@@ -35,9 +36,8 @@ QPalette WithGrounds(QPalette palette, const Palette& colours);
 // is nothing to see then, the widget gets a lighter one.
 void ShowOutline(QWidget& widget, const Palette& colours);
 
-QFont BaseFont(int points = 9, bool bold = false);
-// The font, a little narrower where the text would not fit the width otherwise.
-QFont FittedFont(const QFont& font, const QString& text, int width);
+QFont FontOf(const TypeFace& face = {});
+int TextWidthIn(const TypeFace& face, const String& text);  // without marks
 
 // Pictures in colours for the ground that they stand on.
 QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity = 100);

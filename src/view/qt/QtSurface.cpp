@@ -52,4 +52,21 @@ void QtSurface::RoundBox(const Box& box, double radius, const Ink& ink) {
   painter_.drawRoundedRect(Rectangle(box), radius, radius);
 }
 
+void QtSurface::Text(const Box& room, const Writing& text, Colour ink) {
+  const QRect place = Rectangle(room).toRect();
+  const int across = text.Across == Align::Left    ? Qt::AlignLeft
+                     : text.Across == Align::Right ? Qt::AlignRight
+                                                   : Qt::AlignHCenter;
+  const int lines = text.Wraps ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter;
+  painter_.setFont(FontOf(text.Face));
+  painter_.setPen(ToQColor(ink));
+  QString shown = Tarnwise::Text(text.Text);
+  if (!text.Wraps) {
+    shown = painter_.fontMetrics().elidedText(shown, Qt::ElideRight, place.width() + 1, Qt::TextShowMnemonic);
+  }
+  painter_.drawText(place, across | lines | Qt::TextShowMnemonic, shown);
+}
+
+int QtSurface::WidthOf(const String& text, const TypeFace& face) const { return TextWidthIn(face, text); }
+
 }  // namespace Tarnwise

@@ -17,6 +17,8 @@ class QtSurface : public Surface {
   void Polygon(const std::vector<Spot>& spots, const Ink& ink) override;
   void Ellipse(const Box& box, const Ink& ink) override;
   void RoundBox(const Box& box, double radius, const Ink& ink) override;
+  void Text(const Box& room, const Writing& text, Colour ink) override;
+  int WidthOf(const String& text, const TypeFace& face) const override;
 
  private:
   void Take(const Ink& ink);

@@ -5,6 +5,7 @@
 #include "view/qt/QtKinds.h"
 #include "view/qt/QtPaint.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -79,38 +80,11 @@ void TypeCharacter(QLineEdit& edit, int character) {
   }
 }
 
-bool PressEditingKey(QLineEdit& edit, int code, int shift) {
-  const bool marks = (shift & kShift) != 0;
-  const bool words = (shift & kControl) != 0;
-  switch (code) {
-    case kKeyDelete:
-      if (marks)
-        edit.cut();
-      else
-        edit.del();
-      return true;
-    case kKeyInsert:
-      if (marks)
-        edit.paste();
-      else if (words)
-        edit.copy();
-      return true;
-    case kKeyHome: edit.home(marks); return true;
-    case kKeyEnd: edit.end(marks); return true;
-    case kKeyLeft:
-      if (words)
-        edit.cursorWordBackward(marks);
-      else
-        edit.cursorBackward(marks);
-      return true;
-    case kKeyRight:
-      if (words)
-        edit.cursorWordForward(marks);
-      else
-        edit.cursorForward(marks);
-      return true;
-    default: return false;
-  }
+void PressEditingKey(QLineEdit& edit, int code, int shift) {
+  const bool edits = code == kKeyDelete || code == kKeyInsert || (code >= kKeyEnd && code <= kKeyRight);
+  if (!edits || code == kKeyUp) return;
+  QKeyEvent press(QEvent::KeyPress, QtKeyOf(code), ModifiersOf(shift));
+  static_cast<QObject&>(edit).event(&press);
 }
 
 const QtKind kQtTextBox{MakeTextBox, SyncTextBox};

@@ -11,7 +11,7 @@ Entered EnteredInto(const QLineEdit& edit);
 
 // What the character does in the box by itself: types, removes, selects all, uses the clipboard.
 void TypeCharacter(QLineEdit& edit, int character);
-// What a key does that types nothing. False: the widget's own way.
-bool PressEditingKey(QLineEdit& edit, int code, int shift);
+// What a key does that types nothing.
+void PressEditingKey(QLineEdit& edit, int code, int shift);
 
 }  // namespace Tarnwise

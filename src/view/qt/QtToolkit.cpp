@@ -5,13 +5,13 @@
 #include "view/qt/QtForm.h"
 #include "view/qt/QtPaint.h"
 
+#include <tarnwise/Platform.h>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QFontMetricsF>
 #include <QScreen>
 #include <QTimer>
-#include <QWindow>
-#include <algorithm>
 
 namespace Tarnwise {
 
@@ -37,28 +37,14 @@ QtToolkit::QtToolkit() {
   InstallAccessibility();
 }
 
-QtToolkit::~QtToolkit() {
-  SetPointer(0);
-  for (auto& [form, window] : forms_) {
-    window->Orphan();
-    Bury([gone = QPointer<QtForm>(window.release())] { delete gone.data(); });
-  }
-}
+QtToolkit::~QtToolkit() { SetPointer(0); }
 
-QtForm* QtToolkit::FormOf(const Form& form) const {
-  const auto found = forms_.find(&form);
-  return found == forms_.end() ? nullptr : found->second.get();
-}
+QtForm* QtToolkit::FormOf(const Form& form) const { return static_cast<QtForm*>(MirrorOf(form)); }
 
-QtForm& QtToolkit::Window(Form& form) {
-  auto& window = forms_[&form];
-  if (!window) window = std::make_unique<QtForm>(form, *this);
-  return *window;
-}
+std::shared_ptr<Mirror> QtToolkit::MakeMirror(Form& form) { return std::make_shared<QtForm>(form, *this); }
 
-void QtToolkit::Show(Form& form, Showing how) {
-  QtForm& shown = Window(form);
-  QWidget& window = shown.Window();
+void QtToolkit::Bring(Mirror& shown, Showing how, Mirror* front) {
+  QWidget& window = static_cast<QtForm&>(shown).Window();
   const Qt::WindowModality modality = how == Showing::Modal ? Qt::ApplicationModal : Qt::NonModal;
   if (window.windowModality() != modality) {
     window.hide();
@@ -67,10 +53,9 @@ void QtToolkit::Show(Form& form, Showing how) {
   shown.Sync();
   window.setAttribute(Qt::WA_ShowWithoutActivating, how == Showing::Blocked);
   window.show();
-  const Form* const front = how == Showing::Blocked ? form.Screen().ActiveForm() : &form;
-  if (QtForm* const top = front != nullptr ? FormOf(*front) : nullptr) {
-    top->Window().raise();
-    top->Window().activateWindow();
+  if (Mirror* const top = how == Showing::Blocked ? front : &shown) {
+    static_cast<QtForm*>(top)->Window().raise();
+    static_cast<QtForm*>(top)->Window().activateWindow();
     top->FocusTree();
   }
 }
@@ -80,51 +65,24 @@ void QtToolkit::Hide(Form& form) {
   Wake(form);
 }
 
-void QtToolkit::Release(Form& form) {
-  const auto found = forms_.find(&form);
-  if (found != forms_.end()) {
-    found->second->Release();
-    Bury([gone = QPointer<QtForm>(found->second.release())] { delete gone.data(); });
-    forms_.erase(found);
-  }
-  Wake(form);
-}
-
 void QtToolkit::Wake(const Form& form) {
   for (ModalCall* const call : calls_) {
     if (call->On != &form) continue;
     call->Woken = true;
-    if (call->Loop != nullptr) call->Loop->quit();
+    call->Loop->quit();
   }
 }
 
-void QtToolkit::ControlUnloaded(Control& control) {
-  if (QtForm* const shown = FormOf(control.Owner)) shown->Forget(control);
-}
-
-void QtToolkit::Sync(Form& form) {
-  if (QtForm* const shown = FormOf(form)) shown->Sync();
-}
-
-void QtToolkit::RunModal(Form& form) {
-  const auto held = form.shared_from_this();
-  ModalCall call{&form};
+bool QtToolkit::WaitFor(const Form& form) {
+  QEventLoop loop;
+  ModalCall call{&form, &loop};
   calls_.push_back(&call);
-  while (form.Visible && !form.Released) {
-    if (Pump) {
-      QCoreApplication::processEvents();
-      if (!form.Visible || form.Released || !Pump()) break;
-      continue;
-    }
-    QEventLoop loop;
-    call.Loop = &loop;
-    call.Woken = false;
-    loop.exec();
-    call.Loop = nullptr;
-    if (!call.Woken) break;  // the application ends
-  }
-  calls_.erase(std::remove(calls_.begin(), calls_.end(), &call), calls_.end());
+  loop.exec();
+  std::erase(calls_, &call);
+  return call.Woken;
 }
+
+void QtToolkit::TakeEvents() { QCoreApplication::processEvents(); }
 
 void QtToolkit::Beep() { QApplication::beep(); }
 
@@ -134,17 +92,13 @@ void QtToolkit::SetPointer(int pointer) {
   if (waiting_) QApplication::setOverrideCursor(CursorFor(pointer));
 }
 
-void QtToolkit::Focus(Control& control) {
-  // What the program has just enabled or shown must be so on the screen before it can take the keyboard.
-  if (QtForm* const shown = FormOf(control.Owner)) shown->Sync();
-}
-
-void QtToolkit::AnnounceChange(Label& label) {
-  if (QtForm* const shown = FormOf(label.Owner)) TellOf(*shown, label);
+WindowHandle QtToolkit::WindowOf(const Form& form) {
+  QtForm* const shown = FormOf(form);
+  return shown == nullptr ? 0 : static_cast<WindowHandle>(shown->Window().winId());
 }
 
 Single QtToolkit::TextWidth(const String& text) {
-  return static_cast<Single>(QFontMetricsF(BaseFont()).horizontalAdvance(Text(text)) * kTwipsPerDesignPixel);
+  return static_cast<Single>(QFontMetricsF(FontOf()).horizontalAdvance(Text(text)) * kTwipsPerDesignPixel);
 }
 
 Single QtToolkit::ScreenWidth() {
@@ -154,5 +108,7 @@ Single QtToolkit::ScreenWidth() {
 Single QtToolkit::ScreenHeight() {
   return static_cast<Single>(QApplication::primaryScreen()->geometry().height() * kTwipsPerDesignPixel);
 }
+
+std::shared_ptr<Platform> MakeQtPlatform() { return std::make_shared<Platform>(std::make_shared<QtToolkit>()); }
 
 }  // namespace Tarnwise

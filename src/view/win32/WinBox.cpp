@@ -1,47 +1,17 @@
-// Boxes: picture boxes, frames, images, handles; and what containers paint themselves: lines, shapes and drawings.
+// What the tree paints: labels, frames, picture boxes, images, handles, coloured buttons; and what containers contain
+// of lines and shapes. What is behind a see-through window is painted once more inside it.
 #include "runtime/windows/OwnModule.h"
-#include "view/Captions.h"
 #include "view/Painting.h"
-#include "view/Platform.h"
-#include "view/Reach.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
 #include "view/win32/WinSurface.h"
-#include "view/win32/WinText.h"
 
 #include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
-
-constexpr int kTitleLeft = 12;  // pixels of the design
-constexpr int kTitleHeight = 16;
-constexpr int kSmooth = 3;
-
-void FillArea(HDC dc, const RECT& area, COLORREF colour) {
-  const Brush brush(CreateSolidBrush(colour));
-  FillRect(dc, &area, brush.get());
-}
-
-void PaintFrameTitle(HDC dc, const Frame& frame, HWND window, const WinForm& form) {
-  if (frame.Caption().empty()) return;
-  const double scale = form.Scale();
-  RECT client{};
-  GetClientRect(window, &client);
-  const std::wstring title = Wide(MarkedCaption(frame.Caption));
-  const Selected font(dc, BaseFont(scale, 9, true));
-  RECT place{Scaled(kTitleLeft, scale), 0, client.right - Scaled(kTitleLeft, scale), Scaled(kTitleHeight, scale)};
-  const RECT room = place;
-  DrawTextW(dc, title.c_str(), -1, &place, DT_CALCRECT | DT_SINGLELINE | DT_LEFT);
-  RECT behind{place.left - Scaled(4, scale), 0, std::min(place.right + Scaled(4, scale), room.right), room.bottom};
-  FillArea(dc, behind, form.Colours().Window);
-  SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, form.Colours().WindowText);
-  place = room;
-  DrawTextW(dc, title.c_str(), -1, &place, DT_SINGLELINE | DT_LEFT | DT_VCENTER | DT_END_ELLIPSIS);
-}
 
 // The frame of a bordered box stands in front of whatever the box contains.
 void SyncBorder(HWND box, double scale) {
@@ -71,6 +41,41 @@ RECT AreaBehind(const Control& control, const WinForm& form, const RECT& client)
   return area;
 }
 
+RECT ClientOf(HWND window) {
+  RECT client{};
+  GetClientRect(window, &client);
+  return client;
+}
+
+// How finely a control wants to be drawn: where there is nothing but texts and grounds, a pixel is a pixel.
+int FineFor(const Control& control) {
+  if (control.Type == Kind::Label && !IsSign(static_cast<const Label&>(control))) return FineFor(*control.Parent);
+  if (!IsOpaque(control)) return kSmooth;
+  if (control.Type == Kind::PictureBox) {
+    const auto& box = static_cast<const PictureBox&>(control);
+    if (!box.Drawing.empty() || !box.Picture().empty()) return kSmooth;
+  }
+  const auto& controls = control.Owner.Controls();
+  const bool paints = std::any_of(controls.begin(), controls.end(), [&control](const Control* child) {
+    return child->Parent == &control && IsPainted(*child);
+  });
+  return paints ? kSmooth : 1;
+}
+
+// The area of what the container itself shows.
+void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area) {
+  WinSurface surface(canvas, form.Scale(), {area.left, area.top});
+  const RECT client = ClientOf(form.WindowOf(container));
+  PaintContainer({surface, form.Colours(), form.Scale()}, container, ToPixelRect(client), ToPixelRect(area));
+}
+
+HWND MakeLabel(WinForm& form, Control& control, HWND parent) {
+  const DWORD notify = control.Click || control.DragAutomatic ? SS_NOTIFY : 0;
+  return NewChild(form, L"STATIC", SS_OWNERDRAW | notify, 0, parent);
+}
+
+void SyncLabel(WinForm& /*form*/, Control& /*control*/, HWND window) { InvalidateRect(window, nullptr, FALSE); }
+
 HWND MakeBox(WinForm& form, Control& control, HWND parent) {
   static const bool registered = [] {
     WNDCLASSEXW type{};
@@ -86,76 +91,34 @@ HWND MakeBox(WinForm& form, Control& control, HWND parent) {
 }
 
 void SyncBox(WinForm& form, Control& control, HWND window) {
-  const bool frame = control.Type == Kind::Frame;
-  SetText(window, Wide(frame ? UnmarkedCaption(static_cast<Frame&>(control).Caption) : control.AccessibleName()));
-  const bool box = control.Type == Kind::PictureBox && !IsHandle(control);
+  const bool box = control.Type == Kind::PictureBox && IsOpaque(control);
   if (box && static_cast<PictureBox&>(control).Bordered) SyncBorder(window, form.Scale());
   RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-// A box that nothing shines through.
-bool IsOpaque(const Control& control) {
-  return control.Type == Kind::Form || control.Type == Kind::Frame ||
-         (control.Type == Kind::PictureBox && !IsHandle(control));
-}
-
 }  // namespace
 
-int FineFor(const Control& container) {
-  if (container.Type == Kind::PictureBox) {
-    const auto& box = static_cast<const PictureBox&>(container);
-    if (!box.Drawing.empty() || !box.Picture().empty()) return kSmooth;
-  }
-  const auto& controls = container.Owner.Controls();
-  const bool paints = std::any_of(controls.begin(), controls.end(), [&container](const Control* control) {
-    return control->Parent == &container && IsPainted(*control);
-  });
-  return paints ? kSmooth : 1;
+void PaintOnto(HDC dc, const WinForm& form, const Control& control, const RECT& wanted, bool pressed) {
+  const HWND window = form.WindowOf(control);
+  const RECT client = ClientOf(window);
+  const RECT area = IsOpaque(control) ? wanted : client;
+  if (WidthOf(area) <= 0 || HeightOf(area) <= 0) return;
+  Canvas canvas(WidthOf(area), HeightOf(area), FineFor(control));
+  if (!IsOpaque(control)) PaintGround(canvas, form, *control.Parent, AreaBehind(control, form, client));
+  WinSurface surface(canvas, form.Scale(), {area.left, area.top});
+  PaintControl({surface, form.Colours(), form.Scale()}, control, ToPixelRect(client), ToPixelRect(area),
+               {GetFocus() == window, false, pressed});
+  surface.PutOnto(dc);
 }
 
-void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area) {
-  WinSurface surface(canvas, {area.left, area.top});
-  const Brushes brushes{surface, form.Colours(), form.Scale()};
-  RECT client{};
-  GetClientRect(form.WindowOf(container), &client);
-  PaintContainer(brushes, container, ToPixelRect(client), ToPixelRect(area));
-  if (container.Type != Kind::Frame) return;
-  const bool hasTitle = !static_cast<const Frame&>(container).Caption().empty();
-  PaintFrameLine(brushes, ToPixelRect(client), hasTitle ? Scaled(kTitleHeight, form.Scale()) : 0);
-}
-
-void PaintBehind(HDC dc, const WinForm& form, const Control& control, const RECT& client) {
-  Canvas canvas(WidthOf(client), HeightOf(client), FineFor(*control.Parent));
-  PaintGround(canvas, form, *control.Parent, AreaBehind(control, form, client));
-  canvas.PutOnto(dc, client.left, client.top);
-}
-
-void PaintBoxWindow(WinForm& form, Control& control, HWND window) {
+void PaintBoxWindow(const WinForm& form, const Control& control, HWND window) {
   PAINTSTRUCT paint;
   const HDC dc = BeginPaint(window, &paint);
-  const RECT area = paint.rcPaint;
-  if (WidthOf(area) > 0 && HeightOf(area) > 0 && IsOpaque(control)) {
-    Canvas canvas(WidthOf(area), HeightOf(area), FineFor(control));
-    PaintGround(canvas, form, control, area);
-    canvas.PutOnto(dc, area.left, area.top);
-    if (control.Type == Kind::Frame) PaintFrameTitle(dc, static_cast<Frame&>(control), window, form);
-  } else if (WidthOf(area) > 0 && HeightOf(area) > 0) {
-    RECT client{};
-    GetClientRect(window, &client);
-    Canvas canvas(WidthOf(client), HeightOf(client), kSmooth);
-    PaintGround(canvas, form, *control.Parent, AreaBehind(control, form, client));
-    WinSurface surface(canvas);
-    if (control.Type == Kind::Image) {
-      PaintPicture(surface, static_cast<Image&>(control).Picture, ToBox(ToPixelRect(client)),
-                   GroundOf(control, form.Colours()));
-    } else {
-      PaintHandle({surface, form.Colours(), form.Scale()}, control, ToPixelRect(client), {GetFocus() == window, false});
-    }
-    canvas.PutOnto(dc, 0, 0);
-  }
+  PaintOnto(dc, form, control, paint.rcPaint, false);
   EndPaint(window, &paint);
 }
 
-const WinKind kWinBox{MakeBox, SyncBox, nullptr};
+const WinKind kWinLabel{MakeLabel, SyncLabel};
+const WinKind kWinBox{MakeBox, SyncBox};
 
 }  // namespace Tarnwise

@@ -1,33 +1,17 @@
 // Command buttons, option buttons and check boxes.
-#include "view/Captions.h"
-#include "view/Painting.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
-#include "view/win32/WinSurface.h"
 #include "view/win32/WinText.h"
-
-#include <commctrl.h>
-
-#include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr int kSmooth = 3;
-
-void SetCaption(WinForm& form, HWND window, const Control& control, const String& caption, int padding) {
-  const std::wstring plain = Wide(UnmarkedCaption(caption));
-  RECT client{};
-  GetClientRect(window, &client);
-  const int room = std::max(static_cast<int>(client.right) - Scaled(padding, form.Scale()), 1);
-  const HFONT font = FittedFont(form.Scale(), 9, false, plain, room);
-  if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) != font) {
-    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
-  }
-  SetText(window, Wide(MarkedCaption(caption)));
-  if (control.ToolTipText().empty()) form.SetTip(window, TextWidthIn(font, plain) > room ? plain : std::wstring());
+void SetCaption(const WinForm& form, const Control& control, HWND window) {
+  const Writing shown = form.Fitted(control).Shown;
+  UseFont(window, BaseFont(form.Scale(), shown.Face));
+  SetText(window, Wide(shown.Text));
 }
 
 void SetStyleBits(HWND window, LONG_PTR mask, LONG_PTR bits) {
@@ -46,32 +30,8 @@ void SyncButton(WinForm& form, Control& control, HWND window) {
   const bool coloured = button.BackColor != kButtonFace || button.DragAutomatic;
   const LONG_PTR look = button.Default && button.Enabled ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
   SetStyleBits(window, BS_TYPEMASK, coloured ? BS_OWNERDRAW : look);
-  SetCaption(form, window, control, button.Caption, 2 * kSidePadding);
+  SetCaption(form, control, window);
   if (coloured) InvalidateRect(window, nullptr, FALSE);
-}
-
-// A button that the form gives a colour of its own.
-void DrawButton(WinForm& form, Control& control, const DRAWITEMSTRUCT& item) {
-  const auto& button = static_cast<const CommandButton&>(control);
-  const ButtonLook look = LookOf(button, form.Colours(), (item.itemState & ODS_DISABLED) == 0,
-                                 (item.itemState & ODS_SELECTED) != 0 ? Pressed::Down : Pressed::No);
-  const RECT& client = item.rcItem;
-  {
-    Canvas canvas(WidthOf(client), HeightOf(client), kSmooth);
-    RECT area = client;
-    MapWindowPoints(item.hwndItem, form.WindowOf(*control.Parent), reinterpret_cast<POINT*>(&area), 2);
-    PaintGround(canvas, form, *control.Parent, area);
-    WinSurface surface(canvas);
-    PaintFace({surface, form.Colours(), form.Scale()}, ToPixelRect(client), look, GetFocus() == item.hwndItem);
-    canvas.PutOnto(item.hDC, 0, 0);
-  }
-  RECT room = client;
-  InflateRect(&room, -Scaled(kSidePadding, form.Scale()), 0);
-  const Selected font(item.hDC, reinterpret_cast<HFONT>(SendMessageW(item.hwndItem, WM_GETFONT, 0, 0)));
-  SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, look.Ink);
-  const std::wstring text = Wide(MarkedCaption(button.Caption));
-  DrawTextW(item.hDC, text.c_str(), -1, &room, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
 }
 
 void Check(HWND window, bool on) {
@@ -86,9 +46,8 @@ HWND MakeOption(WinForm& form, Control& /*control*/, HWND parent) {
 }
 
 void SyncOption(WinForm& form, Control& control, HWND window) {
-  auto& option = static_cast<OptionButton&>(control);
-  SetCaption(form, window, control, option.Caption, kIndicatorRoom);
-  Check(window, option.Value);
+  SetCaption(form, control, window);
+  Check(window, static_cast<OptionButton&>(control).Value);
 }
 
 HWND MakeCheck(WinForm& form, Control& /*control*/, HWND parent) {
@@ -96,15 +55,14 @@ HWND MakeCheck(WinForm& form, Control& /*control*/, HWND parent) {
 }
 
 void SyncCheck(WinForm& form, Control& control, HWND window) {
-  auto& box = static_cast<CheckBox&>(control);
-  SetCaption(form, window, control, box.Caption, kIndicatorRoom);
-  Check(window, box.Value != 0);
+  SetCaption(form, control, window);
+  Check(window, static_cast<CheckBox&>(control).Value != 0);
 }
 
 }  // namespace
 
-const WinKind kWinCommandButton{MakeButton, SyncButton, DrawButton};
-const WinKind kWinOptionButton{MakeOption, SyncOption, nullptr};
-const WinKind kWinCheckBox{MakeCheck, SyncCheck, nullptr};
+const WinKind kWinCommandButton{MakeButton, SyncButton};
+const WinKind kWinOptionButton{MakeOption, SyncOption};
+const WinKind kWinCheckBox{MakeCheck, SyncCheck};
 
 }  // namespace Tarnwise

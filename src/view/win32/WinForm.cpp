@@ -3,6 +3,7 @@
 #include "runtime/windows/OwnModule.h"
 #include "view/Lifetime.h"
 #include "view/Platform.h"
+#include "view/Speech.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinNames.h"
@@ -55,16 +56,20 @@ RECT WorkAreaOf(HWND window) {
   return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
-// Its window's text is not seen, and read by a screen reader.
-bool SaysItsName(const Control& control) {
-  return control.Type == Kind::ListBox || control.Type == Kind::TabStrip || control.Type == Kind::Toolbar ||
-         control.Type == Kind::VScrollBar;
+// Its window's text is what it shows. That of all others is not seen, and read by a screen reader.
+bool ShowsItsText(const Control& control) {
+  if (HasCaption(control)) return control.Type != Kind::Label;
+  return control.Type == Kind::TextBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo;
 }
 
-// Its window text is what it shows, not what it is called.
-bool HasOwnText(const Control& control) {
-  return control.Type == Kind::TextBox || control.Type == Kind::ComboBox || control.Type == Kind::ImageCombo ||
-         control.Type == Kind::OptionButton || control.Type == Kind::CommandButton;
+void SetName(HWND window, const Control& control) {
+  const std::wstring name = Wide(SpokenName(control));
+  if (!ShowsItsText(control)) {
+    SetText(window, name);
+  } else if (!name.empty()) {
+    NameWindow(window, name);
+    if (const HWND part = GetWindow(window, GW_CHILD)) NameWindow(part, name);
+  }
 }
 
 const wchar_t* FormClass() {
@@ -197,20 +202,24 @@ void WinForm::PutAt(Control& control, const PixelRect& place) {
 void WinForm::Apply(Control& control) {
   const HWND window = WindowOf(control);
   KindOf(control)->Sync(*this, control, window);
-  if (HasOwnText(control) && !control.AccessibleName().empty()) {
-    const std::wstring name = Wide(control.AccessibleName);
-    NameWindow(window, name);
-    if (const HWND part = GetWindow(window, GW_CHILD)) NameWindow(part, name);
-  }
-  if (SaysItsName(control)) SetText(window, Wide(control.AccessibleName));
-  // A caption that is cut short is told by a tip of its own.
-  if (!control.ToolTipText().empty() || !HasCaption(control)) SetTip(window, Wide(control.ToolTipText));
+  SetName(window, control);
   if ((IsWindowEnabled(window) != 0) != control.Enabled) {
     EnableWindow(window, control.Enabled ? TRUE : FALSE);
     InvalidateRect(window, nullptr, FALSE);
   }
   const bool shown = (GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) != 0;
   if (shown != control.Visible) ShowWindow(window, control.Visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void WinForm::ShowTip(const Control& control, const String& tip) { SetTip(WindowOf(control), Wide(tip)); }
+
+int WinForm::TextWidth(const String& text, const TypeFace& face) const {
+  return TextWidthIn(BaseFont(scale_, face), Wide(text));
+}
+
+void WinForm::Announce(const Label& label, bool renamed) {
+  if (renamed) NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, WindowOf(label), OBJID_CLIENT, CHILDID_SELF);
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, WindowOf(label), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void WinForm::ApplyForm() {

@@ -46,14 +46,11 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   // Messages of this window are the control's: of its own window, and of parts of it.
   void Watch(HWND window, Control& control);
   HBRUSH BrushOf(COLORREF colour);
-  // The tool tip of a control's window; empty: none.
-  void SetTip(HWND window, const std::wstring& text);
-
   // The pictures that a toolbar or a combo shows, kept for as long as it lives.
   void KeepImages(HWND window, Images images, Images disabled = nullptr);
 
   void Show(Showing how, HWND behind);  // `behind`: where it is blocked, the window that stays in front of it
-  void Sync();                          // with the look of this module
+  void Sync() override;                 // with the look of this module
 
   std::optional<LRESULT> Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -65,6 +62,7 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   Entered EnteredIn(const TextBox& box) const override;
   void HoldMouse() override { SetCapture(window_); }
   void LetMouseGo() override;
+  void Announce(const Label& label, bool renamed) override;
   void ShowCarried(const Carried& carried) override;
   void HideCarried() override;
 
@@ -72,6 +70,8 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   bool Create(Control& control) override;
   void PutAt(Control& control, const PixelRect& place) override;
   void Apply(Control& control) override;
+  void ShowTip(const Control& control, const String& tip) override;
+  int TextWidth(const String& text, const TypeFace& face) const override;
   void ApplyForm() override;
   void Destroy(const Control& control) override;
   void DestroyAll() override;
@@ -82,6 +82,7 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
 
  private:
   void MakeWindow();
+  void SetTip(HWND window, const std::wstring& text);
   void Rescale(double scale);
   void Recolour();
   void Lost(HWND window);

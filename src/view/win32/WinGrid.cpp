@@ -84,7 +84,6 @@ void SetColours(HWND window, const Palette& colours) {
 void SyncGrid(WinForm& form, Control& control, HWND window) {
   const auto& grid = static_cast<const Grid&>(control);
   SetColours(window, form.Colours());
-  SetText(window, Wide(grid.AccessibleName));
   UseBaseFont(form, window);
   MakeColumns(window, grid);
   SetRowHeight(form, window);
@@ -147,6 +146,6 @@ std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice) {
   return (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 ? TRUE : FALSE;
 }
 
-const WinKind kWinGrid{MakeGrid, SyncGrid, nullptr};
+const WinKind kWinGrid{MakeGrid, SyncGrid};
 
 }  // namespace Tarnwise

@@ -44,8 +44,9 @@ HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyl
   return window;
 }
 
-void UseBaseFont(const WinForm& form, HWND window) {
-  const HFONT font = BaseFont(form.Scale());
+void UseBaseFont(const WinForm& form, HWND window) { UseFont(window, BaseFont(form.Scale())); }
+
+void UseFont(HWND window, HFONT font) {
   if (reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)) == font) return;
   SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }

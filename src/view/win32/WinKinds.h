@@ -1,5 +1,5 @@
-// The native window of each kind of control: how it is made, brought to what its record says, and drawn where Windows
-// leaves that to us. Programmatic changes raise nothing.
+// The native window of each kind of control: how it is made, and how it is brought to what its record says.
+// Programmatic changes raise nothing.
 #pragma once
 
 #include "view/Mirror.h"
@@ -12,13 +12,11 @@
 
 namespace Tarnwise {
 
-class Canvas;
 class WinForm;
 
 struct WinKind {
   HWND (*Make)(WinForm& form, Control& control, HWND parent);
   void (*Sync)(WinForm& form, Control& control, HWND window);
-  void (*Draw)(WinForm& form, Control& control, const DRAWITEMSTRUCT& item);  // null: the window draws itself
 };
 
 // Null for kinds without a window of their own: timers, lines, and shapes that only stand there.
@@ -46,6 +44,7 @@ HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyl
 
 // The form's font, in the size of the present scale.
 void UseBaseFont(const WinForm& form, HWND window);
+void UseFont(HWND window, HFONT font);
 
 // The number of the row chosen in a native list, in the control's own numbers.
 int ChosenRow(const Control& control, HWND window);
@@ -67,15 +66,13 @@ LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn
 std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice);
 void SpreadColumns(const Grid& grid, HWND list, double scale);
 
-// --- what boxes and containers paint ---
+// --- what is drawn by the tree ---
 
 constexpr int kBorderId = 1;  // the child window that is a bordered box's frame
 
-// The area (pixels of the container) of what the container itself shows: ground, picture, drawing, lines and shapes.
-void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, const RECT& area);
-int FineFor(const Control& container);  // how finely its content wants to be drawn
-// What stands behind a control of the container, onto the control's own window.
-void PaintBehind(HDC dc, const WinForm& form, const Control& control, const RECT& client);
-void PaintBoxWindow(WinForm& form, Control& control, HWND window);
+// The area of the control's window, with what is behind it.
+void PaintOnto(HDC dc, const WinForm& form, const Control& control, const RECT& area, bool pressed);
+void PaintBoxWindow(const WinForm& form, const Control& control, HWND window);
+void DrawRow(WinForm& form, const DRAWITEMSTRUCT& item);  // of a list box
 
 }  // namespace Tarnwise

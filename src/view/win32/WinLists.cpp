@@ -1,5 +1,6 @@
 // List boxes, tab strips and combos.
 #include "view/Captions.h"
+#include "view/Rows.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
@@ -16,19 +17,9 @@ namespace {
 constexpr int kRowHeight = 24;  // pixels of the design, of a list box
 constexpr int kIconSide = 16;
 
-using Texts = std::vector<std::wstring>;
-
-Texts WideTexts(const std::vector<String>& list) {
-  Texts texts;
-  for (const String& text : list) texts.push_back(Wide(text));
-  return texts;
-}
-
 LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
   return SendMessageW(window, message, wParam, lParam);
 }
-
-LPARAM Pointer(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
 // A list box or a plain combo, by its own numbers of the same messages.
 struct ListMessages {
@@ -46,25 +37,30 @@ constexpr ListMessages kOfListBox{LB_GETCOUNT,     LB_GETTEXTLEN, LB_GETTEXT,  L
 constexpr ListMessages kOfCombo{CB_GETCOUNT,     CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_DELETESTRING,
                                 CB_INSERTSTRING, CB_GETCURSEL,    CB_SETCURSEL};
 
-std::wstring RowText(HWND window, const ListMessages& list, int row) {
+std::wstring NativeText(HWND window, const ListMessages& list, int row) {
   std::wstring text(static_cast<std::size_t>(Tell(window, list.TextLength, static_cast<WPARAM>(row))) + 1, L'\0');
   const LRESULT length = Tell(window, list.Text, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)));
   return text;
 }
 
-void SyncRows(HWND window, const ListMessages& list, const Texts& texts, int current) {
+// Counted from 0, as Windows does; -1: none.
+int ChosenOf(const Control& control) { return RowsOf(control).Chosen - RowsOf(control).First; }
+
+void SyncRows(HWND window, const ListMessages& list, const Control& control) {
+  const std::vector<String> texts = RowTexts(control);
   const int wanted = static_cast<int>(texts.size());
   while (Tell(window, list.Count) > wanted) Tell(window, list.Delete, static_cast<WPARAM>(wanted));
   for (int i = 0; i < wanted; ++i) {
-    const std::wstring& text = texts[static_cast<std::size_t>(i)];
+    const std::wstring text = Wide(texts[static_cast<std::size_t>(i)]);
     const auto row = static_cast<WPARAM>(i);
     const bool there = i < Tell(window, list.Count);
-    if (there && RowText(window, list, i) == text) continue;
+    if (there && NativeText(window, list, i) == text) continue;
     if (there) Tell(window, list.Delete, row);
-    Tell(window, list.Insert, row, Pointer(text));
+    Tell(window, list.Insert, row, reinterpret_cast<LPARAM>(text.c_str()));
   }
-  if (Tell(window, list.Current) != current) Tell(window, list.SetCurrent, static_cast<WPARAM>(current));
+  const int chosen = ChosenOf(control);
+  if (Tell(window, list.Current) != chosen) Tell(window, list.SetCurrent, static_cast<WPARAM>(chosen));
 }
 
 HWND MakeListBox(WinForm& form, Control& /*control*/, HWND parent) {
@@ -73,26 +69,10 @@ HWND MakeListBox(WinForm& form, Control& /*control*/, HWND parent) {
 }
 
 void SyncListBox(WinForm& form, Control& control, HWND window) {
-  auto& box = static_cast<ListBox&>(control);
   UseBaseFont(form, window);
   const int height = Scaled(kRowHeight, form.Scale());
   if (Tell(window, LB_GETITEMHEIGHT) != height) Tell(window, LB_SETITEMHEIGHT, 0, height);
-  SyncRows(window, kOfListBox, WideTexts(box.List), box.ListIndex);
-}
-
-// A row with its text in the middle of its height.
-void DrawRow(WinForm& form, Control& /*control*/, const DRAWITEMSTRUCT& item) {
-  if (item.itemID == static_cast<UINT>(-1)) return;
-  const bool chosen = (item.itemState & ODS_SELECTED) != 0;
-  FillRect(item.hDC, &item.rcItem, form.BrushOf(chosen ? form.Colours().Highlight : form.Colours().Base));
-  SetBkMode(item.hDC, TRANSPARENT);
-  SetTextColor(item.hDC, chosen ? form.Colours().HighlightText : form.Colours().Text);
-  const Selected font(item.hDC, BaseFont(form.Scale()));
-  RECT room = item.rcItem;
-  InflateRect(&room, -Scaled(6, form.Scale()), 0);
-  const std::wstring text = RowText(item.hwndItem, kOfListBox, static_cast<int>(item.itemID));
-  DrawTextW(item.hDC, text.c_str(), -1, &room, DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
-  if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
+  SyncRows(window, kOfListBox, control);
 }
 
 HWND MakeTabStrip(WinForm& form, Control& /*control*/, HWND parent) {
@@ -100,21 +80,19 @@ HWND MakeTabStrip(WinForm& form, Control& /*control*/, HWND parent) {
 }
 
 void SyncTabStrip(WinForm& form, Control& control, HWND window) {
-  auto& strip = static_cast<TabStrip&>(control);
   UseBaseFont(form, window);
-  const int wanted = static_cast<int>(strip.Tabs.size());
+  const std::vector<String> captions = RowTexts(control);
+  const int wanted = static_cast<int>(captions.size());
   while (TabCtrl_GetItemCount(window) > wanted) TabCtrl_DeleteItem(window, wanted);
   for (int i = 0; i < wanted; ++i) {
-    std::wstring caption = Wide(MarkedCaption(strip.Tabs[static_cast<std::size_t>(i)].Caption));
+    std::wstring caption = Wide(MarkedCaption(captions[static_cast<std::size_t>(i)]));
     TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = caption.data();
-    if (i >= TabCtrl_GetItemCount(window))
-      Tell(window, TCM_INSERTITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
-    else
-      Tell(window, TCM_SETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+    const UINT put = i >= TabCtrl_GetItemCount(window) ? TCM_INSERTITEMW : TCM_SETITEMW;
+    Tell(window, put, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
   }
-  if (TabCtrl_GetCurSel(window) != strip.SelectedItem - 1) TabCtrl_SetCurSel(window, strip.SelectedItem - 1);
+  if (TabCtrl_GetCurSel(window) != ChosenOf(control)) TabCtrl_SetCurSel(window, ChosenOf(control));
 }
 
 constexpr DWORD kDropList = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_HASSTRINGS;
@@ -132,10 +110,9 @@ void SetClosedHeight(HWND combo, const Control& control, double scale) {
 }
 
 void SyncComboBox(WinForm& form, Control& control, HWND window) {
-  auto& box = static_cast<ComboBox&>(control);
   UseBaseFont(form, window);
   SetClosedHeight(window, control, form.Scale());
-  SyncRows(window, kOfCombo, WideTexts(box.List), box.ListIndex);
+  SyncRows(window, kOfCombo, control);
 }
 
 HWND MakeImageCombo(WinForm& form, Control& control, HWND parent) {
@@ -202,18 +179,33 @@ void SyncImageCombo(WinForm& form, Control& control, HWND window) {
   for (int i = 0; i < wanted; ++i) {
     SetItem(window, i, box.Items[static_cast<std::size_t>(i)], names, i >= Tell(window, CB_GETCOUNT));
   }
-  if (Tell(window, CB_GETCURSEL) != box.SelectedItem - 1) {
-    Tell(window, CB_SETCURSEL, static_cast<WPARAM>(box.SelectedItem - 1));
-  }
+  const int chosen = ChosenOf(control);
+  if (Tell(window, CB_GETCURSEL) != chosen) Tell(window, CB_SETCURSEL, static_cast<WPARAM>(chosen));
   InvalidateRect(window, nullptr, FALSE);
 }
 
 }  // namespace
 
+// A row with its text in the middle of its height.
+void DrawRow(WinForm& form, const DRAWITEMSTRUCT& item) {
+  if (item.itemID == static_cast<UINT>(-1)) return;
+  const bool chosen = (item.itemState & ODS_SELECTED) != 0;
+  FillRect(item.hDC, &item.rcItem, form.BrushOf(chosen ? form.Colours().Highlight : form.Colours().Base));
+  SetBkMode(item.hDC, TRANSPARENT);
+  SetTextColor(item.hDC, chosen ? form.Colours().HighlightText : form.Colours().Text);
+  const Selected font(item.hDC, BaseFont(form.Scale()));
+  RECT room = item.rcItem;
+  InflateRect(&room, -Scaled(6, form.Scale()), 0);
+  const std::wstring text = NativeText(item.hwndItem, kOfListBox, static_cast<int>(item.itemID));
+  DrawTextW(item.hDC, text.c_str(), -1, &room, DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_NOPREFIX | DT_END_ELLIPSIS);
+  if ((item.itemState & ODS_FOCUS) != 0) DrawFocusRect(item.hDC, &item.rcItem);
+}
+
 int ChosenRow(const Control& control, HWND window) {
-  if (control.Type == Kind::TabStrip) return TabCtrl_GetCurSel(window) + 1;
-  const int row = static_cast<int>(Tell(window, control.Type == Kind::ListBox ? LB_GETCURSEL : CB_GETCURSEL));
-  return control.Type == Kind::ImageCombo ? row + 1 : row;
+  const UINT asked = control.Type == Kind::ListBox    ? LB_GETCURSEL
+                     : control.Type == Kind::TabStrip ? TCM_GETCURSEL
+                                                      : CB_GETCURSEL;
+  return RowsOf(control).First + static_cast<int>(Tell(window, asked));
 }
 
 int RowAt(const Control& control, HWND window, POINT at) {
@@ -227,9 +219,9 @@ int RowAt(const Control& control, HWND window, POINT at) {
   return tab < 0 ? -1 : tab + 1;
 }
 
-const WinKind kWinListBox{MakeListBox, SyncListBox, DrawRow};
-const WinKind kWinTabStrip{MakeTabStrip, SyncTabStrip, nullptr};
-const WinKind kWinComboBox{MakeComboBox, SyncComboBox, nullptr};
-const WinKind kWinImageCombo{MakeImageCombo, SyncImageCombo, nullptr};
+const WinKind kWinListBox{MakeListBox, SyncListBox};
+const WinKind kWinTabStrip{MakeTabStrip, SyncTabStrip};
+const WinKind kWinComboBox{MakeComboBox, SyncComboBox};
+const WinKind kWinImageCombo{MakeImageCombo, SyncImageCombo};
 
 }  // namespace Tarnwise

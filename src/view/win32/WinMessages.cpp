@@ -1,4 +1,4 @@
-// Message boxes, the beep and help.
+// Message boxes and help.
 #include "view/win32/WinForm.h"
 #include "view/win32/WinLifetime.h"
 #include "view/win32/WinText.h"
@@ -38,11 +38,8 @@ class Answers {
 
 }  // namespace
 
-void WinToolkit::MessageBox(Form* over, const String& text, int style, const String& title) {
-  const WinForm* const shown = over != nullptr ? FormOf(*over) : nullptr;
-  const std::shared_ptr<Form> held = over != nullptr ? over->shared_from_this() : nullptr;
-  const HWND owner = shown != nullptr && over->Visible ? shown->Window() : GetActiveWindow();
-  if (!AutoAnswer && over != nullptr) over->Screen().Hand.CancelDrag();  // the release goes to the box
+void WinToolkit::Ask(Mirror* over, const String& text, int style, const String& title) {
+  const HWND owner = over != nullptr ? static_cast<WinForm*>(over)->Window() : GetActiveWindow();
   if (GetCapture() != nullptr) ReleaseCapture();
   const Answers answers(AutoAnswer);
   const OwnLook look;
@@ -50,24 +47,13 @@ void WinToolkit::MessageBox(Form* over, const String& text, int style, const Str
   MessageBoxW(owner, Wide(text).c_str(), Wide(title).c_str(), MB_OK | static_cast<UINT>(style) | modality);
 }
 
-void WinToolkit::Beep() { MessageBeep(MB_OK); }
-
-void WinToolkit::Help(Form& form, const String& path, int command, int context) {
-  if (AutoAnswer) return;
-  String ansi;
-  {
-    const std::wstring wide = Wide(path);
-    const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
-    ansi.resize(static_cast<std::size_t>(length));
-    WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, ansi.data(), length, nullptr, nullptr);
-  }
+void WinToolkit::OpenHelp(Form& form, const String& path, int command, int context) {
+  const std::wstring wide = Wide(path);
+  const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
+  String ansi(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_ACP, 0, wide.c_str(), -1, ansi.data(), length, nullptr, nullptr);
   WinHelpA(reinterpret_cast<HWND>(WindowOf(form)), ansi.c_str(), static_cast<UINT>(command),
            static_cast<ULONG_PTR>(context));
-}
-
-WindowHandle WinToolkit::WindowOf(const Form& form) {
-  const WinForm* const shown = FormOf(form);
-  return shown == nullptr ? 0 : reinterpret_cast<WindowHandle>(shown->Window());
 }
 
 }  // namespace Tarnwise

@@ -37,9 +37,11 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
       Control* const control = ControlOf(item.hwndItem);
-      const WinKind* const kind = control != nullptr ? KindOf(*control) : nullptr;
-      if (kind == nullptr || kind->Draw == nullptr) return std::nullopt;
-      kind->Draw(*this, *control, item);
+      if (control == nullptr) return std::nullopt;
+      if (control->Type == Kind::ListBox)
+        DrawRow(*this, item);
+      else
+        PaintOnto(item.hDC, *this, *control, item.rcItem, (item.itemState & ODS_SELECTED) != 0);
       return TRUE;
     }
     case WM_CTLCOLORSTATIC:

@@ -11,14 +11,14 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace Tarnwise {
 
 namespace {
 
-constexpr int kSmooth = 4;  // how many times larger a picture is drawn
+constexpr int kSmoothIcon = 4;  // the same of an icon, which is small
 
 LOGFONTW MessageFont() {
   NONCLIENTMETRICSW metrics{};
@@ -40,15 +40,15 @@ int AverageWidth(HFONT font) {
   return metrics.tmAveCharWidth;
 }
 
-Font NewFont(double scale, int points, bool bold, int stretch) {
+Font NewFont(double scale, const TypeFace& face) {
   LOGFONTW look = MessageFont();
-  look.lfHeight = -static_cast<LONG>(std::lround((points * 4 + 1) / 3 * scale));
+  look.lfHeight = -static_cast<LONG>(std::lround((face.Points * 4 + 1) / 3 * scale));
   look.lfWidth = 0;
-  look.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+  look.lfWeight = face.Bold ? FW_BOLD : FW_NORMAL;
   look.lfQuality = CLEARTYPE_QUALITY;
   Font font(CreateFontIndirectW(&look));
-  if (stretch == kNormalStretch) return font;
-  look.lfWidth = AverageWidth(font.get()) * stretch / kNormalStretch;
+  if (face.Stretch == kNormalStretch) return font;
+  look.lfWidth = AverageWidth(font.get()) * face.Stretch / kNormalStretch;
   return Font(CreateFontIndirectW(&look));
 }
 
@@ -78,21 +78,11 @@ void UseFittingStyle(HWND window, const Palette& colours) {
   }
 }
 
-HFONT BaseFont(double scale, int points, bool bold, int stretch) {
-  using Look = std::tuple<int, int, bool, int>;
-  static PerThread<std::map<Look, Font>> fonts;
-  Font& font = fonts.Get()[{static_cast<int>(std::lround(scale * 96)), points, bold, stretch}];
-  if (!font) font = NewFont(scale, points, bold, stretch);
+HFONT BaseFont(double scale, const TypeFace& face) {
+  static PerThread<std::map<std::pair<int, TypeFace>, Font>> fonts;
+  Font& font = fonts.Get()[{static_cast<int>(std::lround(scale * 96)), face}];
+  if (!font) font = NewFont(scale, face);
   return font.get();
-}
-
-HFONT FittedFont(double scale, int points, bool bold, const std::wstring& text, int width) {
-  HFONT font = nullptr;
-  for (const int stretch : {kNormalStretch, 95, 90, 85}) {
-    font = BaseFont(scale, points, bold, stretch);
-    if (TextWidthIn(font, text) <= width) break;
-  }
-  return font;
 }
 
 int TextWidthIn(HFONT font, const std::wstring& text) {
@@ -182,8 +172,8 @@ void Canvas::PutOnto(HDC target, int x, int y) {
 // What covers a pixel is found by drawing once on black and once on white.
 HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity) {
   if (FindPicture(name) == nullptr) return nullptr;
-  Canvas dark(side, side, kSmooth);
-  Canvas light(side, side, kSmooth);
+  Canvas dark(side, side, kSmoothIcon);
+  Canvas light(side, side, kSmoothIcon);
   const Box place{0.0, 0.0, static_cast<double>(side), static_cast<double>(side)};
   dark.Fill(RGB(0, 0, 0));
   light.Fill(RGB(255, 255, 255));

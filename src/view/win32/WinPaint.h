@@ -2,11 +2,13 @@
 // of them make a pixel of 96 to the inch.
 #pragma once
 
+#include "view/Lettering.h"
 #include "view/Look.h"
 #include "view/Pixels.h"
 
 #include "view/win32/WinApi.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <type_traits>
@@ -46,12 +48,10 @@ Palette SystemColours();
 // the system's for high contrast: the window and those in it are then drawn in the system's colours alone.
 void UseFittingStyle(HWND window, const Palette& colours);
 
-constexpr int kNormalStretch = 100;
+constexpr int kSmooth = 3;  // how many times larger than it becomes what has smooth edges is drawn
 
-// The font of labels and buttons. `stretch` is a percentage of the ordinary width. Kept for the life of the thread.
-HFONT BaseFont(double scale, int points = 9, bool bold = false, int stretch = kNormalStretch);
-// The font, a little narrower where the text would not fit the width otherwise.
-HFONT FittedFont(double scale, int points, bool bold, const std::wstring& text, int width);
+// The font of labels and buttons. Kept for the life of the thread.
+HFONT BaseFont(double scale, const TypeFace& face = {});
 int TextWidthIn(HFONT font, const std::wstring& text);
 
 // A picture in memory that is drawn larger than it becomes, so that its edges are smooth.

@@ -1,5 +1,7 @@
 #include "view/win32/WinSurface.h"
 
+#include "runtime/windows/WideText.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -96,6 +98,29 @@ void WinSurface::RoundBox(const Box& box, double radius, const Ink& ink) {
   const RECT r = At(box);
   const int corner = static_cast<int>(std::lround(2.0 * radius * fine_));
   RoundRect(drawing.Dc(), r.left, r.top, r.right, r.bottom, corner, corner);
+}
+
+void WinSurface::Text(const Box& room, const Writing& text, Colour ink) {
+  const auto edge = [](double at) { return std::lround(at); };
+  texts_.push_back({{edge(room.Left), edge(room.Top), edge(room.Right), edge(room.Bottom)}, text, ink});
+}
+
+int WinSurface::WidthOf(const String& text, const TypeFace& face) const {
+  return TextWidthIn(BaseFont(scale_, face), Wide(text));
+}
+
+void WinSurface::PutOnto(HDC target) const {
+  canvas_.PutOnto(target, origin_.x, origin_.y);
+  SetBkMode(target, TRANSPARENT);
+  for (Written text : texts_) {
+    const Selected font(target, BaseFont(scale_, text.Text.Face));
+    SetTextColor(target, text.Ink);
+    const UINT across = text.Text.Across == Align::Left    ? DT_LEFT
+                        : text.Text.Across == Align::Right ? DT_RIGHT
+                                                           : DT_CENTER;
+    const UINT lines = text.Text.Wraps ? DT_WORDBREAK | DT_TOP : DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS;
+    DrawTextW(target, Wide(text.Text.Text).c_str(), -1, &text.Room, across | lines);
+  }
 }
 
 }  // namespace Tarnwise

@@ -149,7 +149,7 @@ int ScrolledValue(const VScrollBar& bar, HWND window, int code) {
   }
 }
 
-const WinKind kWinTextBox{MakeTextBox, SyncTextBox, nullptr};
-const WinKind kWinScrollBar{MakeScrollBar, SyncScrollBar, nullptr};
+const WinKind kWinTextBox{MakeTextBox, SyncTextBox};
+const WinKind kWinScrollBar{MakeScrollBar, SyncScrollBar};
 
 }  // namespace Tarnwise

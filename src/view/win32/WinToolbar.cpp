@@ -119,6 +119,6 @@ LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn
   return kNoBackground | TBCDRF_NOEDGES | TBCDRF_NOMARK;
 }
 
-const WinKind kWinToolbar{MakeToolbar, SyncToolbar, nullptr};
+const WinKind kWinToolbar{MakeToolbar, SyncToolbar};
 
 }  // namespace Tarnwise

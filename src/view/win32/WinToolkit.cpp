@@ -102,10 +102,6 @@ WinToolkit::WinToolkit() {
 }
 
 WinToolkit::~WinToolkit() {
-  for (auto& [form, window] : forms_) {
-    window->Orphan();
-    Bury([kept = std::move(window)] { (void)kept; });
-  }
   for (const auto& [side, icon] : icons_) DestroyIcon(icon);
 }
 
@@ -115,20 +111,15 @@ HICON WinToolkit::WindowIcon(int side) {
   return icon;
 }
 
-WinForm* WinToolkit::FormOf(const Form& form) const {
-  const auto found = forms_.find(&form);
-  return found == forms_.end() ? nullptr : found->second.get();
-}
+WinForm* WinToolkit::FormOf(const Form& form) const { return static_cast<WinForm*>(MirrorOf(form)); }
 
-void WinToolkit::Show(Form& form, Showing how) {
-  auto& window = forms_[&form];
-  if (!window) window = std::make_shared<WinForm>(form, *this);
-  const std::shared_ptr<WinForm> shown = window;
-  const Form* const front = form.Screen().ActiveForm();
-  const WinForm* const top = how == Showing::Blocked && front != nullptr ? FormOf(*front) : nullptr;
-  shown->Show(how, top != nullptr ? top->Window() : nullptr);
+std::shared_ptr<Mirror> WinToolkit::MakeMirror(Form& form) { return std::make_shared<WinForm>(form, *this); }
+
+void WinToolkit::Bring(Mirror& shown, Showing how, Mirror* front) {
+  auto& form = static_cast<WinForm&>(shown);
+  form.Show(how, front != nullptr ? static_cast<WinForm*>(front)->Window() : nullptr);
   // It was hidden, and its call still runs; or it came while another one's does.
-  if (!modal_.empty() && (how == Showing::Blocked || modal_.back()->IsOf(form))) modal_.back()->Disable();
+  if (!modal_.empty() && (how == Showing::Blocked || modal_.back()->IsOf(*form.Tree()))) modal_.back()->Disable();
 }
 
 void WinToolkit::Hide(Form& form) {
@@ -139,24 +130,7 @@ void WinToolkit::Hide(Form& form) {
   if (WinForm* const shown = FormOf(form)) ShowWindow(shown->Window(), SW_HIDE);
 }
 
-void WinToolkit::Release(Form& form) {
-  const auto found = forms_.find(&form);
-  if (found == forms_.end()) return;
-  const std::shared_ptr<WinForm> window = std::move(found->second);
-  forms_.erase(found);
-  window->Release();
-  Bury([window] { (void)window; });
-}
-
-void WinToolkit::ControlUnloaded(Control& control) {
-  if (WinForm* const shown = FormOf(control.Owner)) shown->Forget(control);
-}
-
-void WinToolkit::Sync(Form& form) {
-  if (WinForm* const shown = FormOf(form)) shown->Sync();
-}
-
-void WinToolkit::TakeMessages() {
+void WinToolkit::TakeEvents() {
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != 0) {
     if (message.message == WM_QUIT) {
@@ -172,19 +146,17 @@ void WinToolkit::RunModal(Form& form) {
   const auto held = form.shared_from_this();
   const WinForm* const shown = FormOf(form);
   const OthersDisabled others(modal_, form, shown != nullptr ? shown->Window() : nullptr);
-  while (form.Visible && !form.Released) {
-    if (Pump) {
-      TakeMessages();
-      if (!form.Visible || form.Released || !Pump()) break;
-      continue;
-    }
-    MSG message;
-    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-    if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));  // the host ends: its own loop must hear of it
-    if (got <= 0) break;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
+  WindowedToolkit::RunModal(form);
+}
+
+bool WinToolkit::WaitFor(const Form& /*form*/) {
+  MSG message;
+  const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+  if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));  // the host ends: its own loop must hear of it
+  if (got <= 0) return false;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+  return true;
 }
 
 void WinToolkit::SetPointer(int pointer) {
@@ -192,19 +164,12 @@ void WinToolkit::SetPointer(int pointer) {
   SetCursor(CursorFor(pointer));
 }
 
-void WinToolkit::Focus(Control& control) {
-  // What the program has just enabled or shown must be so on the screen before it can take the keyboard.
-  if (WinForm* const shown = FormOf(control.Owner)) shown->Sync();
+WindowHandle WinToolkit::WindowOf(const Form& form) {
+  const WinForm* const shown = FormOf(form);
+  return shown == nullptr ? 0 : reinterpret_cast<WindowHandle>(shown->Window());
 }
 
-// A new caption has changed the window's text, and Windows has told of that.
-void WinToolkit::AnnounceChange(Label& label) {
-  const WinForm* const shown = FormOf(label.Owner);
-  const HWND window = shown != nullptr ? shown->WindowOf(label) : nullptr;
-  if (window == nullptr) return;
-  if (label.Announces == Announce::Lit) NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
-  NotifyWinEvent(EVENT_SYSTEM_ALERT, window, OBJID_CLIENT, CHILDID_SELF);
-}
+void WinToolkit::Beep() { MessageBeep(MB_OK); }
 
 Single WinToolkit::TextWidth(const String& text) {
   return static_cast<Single>(TextWidthIn(BaseFont(1.0), Wide(text))) * kTwips;

@@ -17,6 +17,7 @@ ContractForm::ContractForm(std::shared_ptr<Platform> platform, const String& nam
   Place(tbTools, 3000, 5250, 900, 450);
   Place(vsrBar, 6300, 150, 255, 3000);
   Place(lblText, 150, 5550, 1500, 300);
+  Place(fraBox, 3000, 5850, 3000, 1200);
   Place(picRows, 3000, 150, 3000, 3000);
   Place(picRow[0], 150, 150, 1500, 600);
   Place(picRow.Load(1), 150, 900, 1500, 600);

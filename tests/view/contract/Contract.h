@@ -37,6 +37,7 @@ struct ContractForm : Form {
   Toolbar tbTools{*this, this, "tbTools"};
   VScrollBar vsrBar{*this, this, "vsrBar"};
   Label lblText{*this, this, "lblText"};
+  Frame fraBox{*this, this, "fraBox"};
   Timer tmrClock{*this, this, "tmrClock"};
   PictureBox picRows{*this, this, "picRows"};
   ControlArray<PictureBox> picRow{*this, &picRows, "picRow", [](PictureBox& /*row*/) {}};

@@ -55,6 +55,36 @@ TEST_F(Contract, SpacePressesAndArrowsChoose) {
   EXPECT_EQ(form->lstRows.ListIndex(), 1);
 }
 
+TEST_F(Contract, TheKeyboardThatComesToAListChoosesNoRow) {
+  driver->Focus(form->lstRows);
+  EXPECT_EQ(form->lstRows.ListIndex(), -1);
+  EXPECT_EQ(Took(), (Lines{"txtFirst lost", "lstRows got"}));
+}
+
+TEST_F(Contract, AltWithItsLetterPressesAButton) {
+  form->cmdGo.Caption = "&Go";
+  screen->SyncAll();
+  driver->Focus(form->txtFirst);
+  Took();
+  Key('G', 'g', kAlt);
+  EXPECT_EQ(Took(), (Lines{"txtFirst lost", "cmdGo got", "cmdGo click"}));
+  form->cmdGo.Enabled = false;
+  screen->SyncAll();
+  Key('G', 'g', kAlt);
+  EXPECT_EQ(Took(), Lines{});
+}
+
+TEST_F(Contract, AltWithALabelsLetterGoesToWhatItNames) {
+  form->lblText.Caption = "&Second:";
+  form->lblText.TabIndex = form->txtSecond.TabIndex;
+  screen->SyncAll();
+  driver->Focus(form->cmdGo);
+  Key('S', 's', kAlt);
+  EXPECT_EQ(form->ActiveControl, &form->txtSecond);
+  EXPECT_EQ(form->txtFirst.Text(), "");
+  EXPECT_EQ(form->txtSecond.Text(), "") << "it types nothing";
+}
+
 TEST_F(Contract, ADragEntersIsOverAndDrops) {
   driver->Grab(form->cmdSource[0]);
   driver->Over(form->picRow[0], {300, 150});

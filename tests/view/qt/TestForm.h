@@ -53,7 +53,7 @@ class QtFormTest : public testing::Test {
  protected:
   QtFormTest() {
     toolkit->RealTimers = false;
-    toolkit->AutoAnswer = [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton); };
+    toolkit->AutoAnswer = true;
     platform->Created(*form);
   }
   ~QtFormTest() override {

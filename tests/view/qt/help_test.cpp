@@ -13,7 +13,7 @@ namespace Tarnwise {
 class QtHelp : public QtFormTest {
  protected:
   QtHelp() {
-    toolkit->AutoAnswer = nullptr;
+    toolkit->AutoAnswer = false;
     platform->Trace.MessageBox = [this](const String& text, int style, const String& title) {
       form->Log.push_back(title + std::to_string(style) + ": " + text);
     };
@@ -81,7 +81,7 @@ TEST_F(QtHelp, OpensTheFileAndDoesNotAskWhatCameOfIt) {
 }
 
 TEST_F(QtHelp, OfAScriptOpensNothing) {
-  toolkit->AutoAnswer = [](QMessageBox& /*box*/) {};
+  toolkit->AutoAnswer = true;
   Show();
   Ask("/nowhere\\KESTA.HLP");
   EXPECT_EQ(boxes, 0);

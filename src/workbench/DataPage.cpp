@@ -49,7 +49,7 @@ DataPage::DataPage(Document& document, QWidget* parent)
   columns_->setParent(this);
   Named(this, "dataPage", tr("Data"));
   auto* const layout = new QVBoxLayout(this);
-  auto* const splitter = new QSplitter;
+  auto* const splitter = Named(new QSplitter, "dataSplitter", tr("Divided page"));
   filled_ = splitter;
   splitter->addWidget(MakeTable());
   splitter->addWidget(MakeColumns());

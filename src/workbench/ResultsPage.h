@@ -2,7 +2,7 @@
 #pragma once
 
 #include "workbench/Document.h"
-#include "workbench/ResultsModel.h"
+#include "workbench/SaveReport.h"
 
 #include <QWidget>
 
@@ -31,13 +31,19 @@ class ResultsPage : public QWidget {
   explicit ResultsPage(Document& document, QWidget* parent = nullptr);
 
   void Compute();
+  void Cancel();
   void Hide(bool hidden);  // while somebody judges
   bool IsBusy() const;
+  bool IsSolving() const;
   SharedEvaluation Shown() const { return model_->Shown(); }
+  Found Newest() const { return {shownOf_, model_->Shown()}; }
+  QString Message() const;  // what is said of the results, or why there are none
   BarChart& Ranges() const { return *chart_; }
 
  Q_SIGNALS:
   void Told(const QString& text);  // for the status line
+  void StateChanged();             // computing, computed, or why not
+  void Progressed(int ofAThousand);
 
  private:
   QLayout* MakeChoices();
@@ -75,11 +81,14 @@ class ResultsPage : public QWidget {
   QPushButton* compute_ = nullptr;
   QPushButton* cancel_ = nullptr;
   QPushButton* save_ = nullptr;
+  QComboBox* bars_ = nullptr;
   QProgressBar* progress_ = nullptr;
   QLabel* summary_ = nullptr;
   QTableView* table_ = nullptr;
   BarChart* chart_ = nullptr;
   QTextBrowser* details_ = nullptr;
+  std::shared_ptr<const Project> solving_;
+  std::shared_ptr<const Project> shownOf_;
   bool showing_ = false;
   bool hidden_ = false;
 };

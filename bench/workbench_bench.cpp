@@ -4,8 +4,8 @@
 //   Window/EditCell       a number typed into a cell, with its way back kept
 //   Window/ScrollData     a step of a page of the table Data; also the first one, and the longest
 //   Window/ScrollResults  the same of the results, with the chart beside them
-//   Window/SolveAndShow   from the press on Compute to the table and the chart; also the longest time in which the window
-//                         answers nobody
+//   Window/SolveAndShow   from the press on Compute to the table and the chart; also for how long the window answers
+//                         nobody at worst
 //   Window/Cancel         from the press on Cancel to what it says then, in the longest of several moments
 #include "project/ProjectFile.h"
 #include "workbench/MainWindow.h"

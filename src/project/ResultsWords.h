@@ -2,22 +2,9 @@
 #pragma once
 
 #include "project/Evaluation.h"
+#include "project/Signs.h"
 
 namespace Tarnwise {
-
-constexpr const char* kNoNumber = "-";
-
-// What stands between the numbers. These are a terminal's and a report's; the window has its own, in its language.
-struct ResultsSigns {
-  String NoNumber = kNoNumber;
-  String Span = " - ";
-  String RankSpan = "-";
-  String Seen = ", seen ";
-  String AtLeast = " >= ";
-  String AtMost = " <= ";
-  String More = " and %1 more";
-};
-inline const ResultsSigns kPlainSigns;
 
 bool IsOne(const std::optional<double>& score);
 bool IsBest(const Dea::UnitResult& unit);  // for some of the weights, in the value form

@@ -16,11 +16,11 @@ String NameAndMeasure(const Project& project, const String& name) {
   return column == nullptr || column->Unit.empty() ? shown : shown + " (" + ShownName(column->Unit) + ")";
 }
 
-String IntervalText(double low, const std::optional<double>& high) {
-  if (!high) return ">= " + SignificantText(low, kDigits);
-  if (low == 0.0) return "<= " + SignificantText(*high, kDigits);
-  if (low == *high) return "= " + SignificantText(low, kDigits);
-  return "= " + SignificantText(low, kDigits) + " .. " + SignificantText(*high, kDigits);
+String IntervalText(double low, const std::optional<double>& high, const ResultsSigns& signs) {
+  if (!high) return signs.AtLeast + SignificantText(low, kDigits);
+  if (low == 0.0) return signs.AtMost + SignificantText(*high, kDigits);
+  if (low == *high) return " = " + SignificantText(low, kDigits);
+  return " = " + SignificantText(low, kDigits) + " .. " + SignificantText(*high, kDigits);
 }
 
 }  // namespace
@@ -56,10 +56,11 @@ String CrossText(const Project& project, const Asked& asked) {
          JudgedSwing(project, session, session.BenefitReference) + ".";
 }
 
-String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence) {
+String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence,
+                       const ResultsSigns& signs) {
   const auto name = [&problem](int column) { return problem.Columns[static_cast<std::size_t>(column)].Name; };
-  return "1 " + NameAndMeasure(project, name(equivalence.Column)) + " " +
-         IntervalText(equivalence.Low, equivalence.High) + " " + NameAndMeasure(project, name(equivalence.Of));
+  return "1 " + NameAndMeasure(project, name(equivalence.Column)) +
+         IntervalText(equivalence.Low, equivalence.High, signs) + " " + NameAndMeasure(project, name(equivalence.Of));
 }
 
 String SessionTitle(const Project& project, std::size_t session) {

@@ -130,6 +130,7 @@ QWidget* AttributesPage::MakeFields() {
   points_->setTabKeyNavigation(false);
   points_->horizontalHeader()->setHighlightSections(false);
   SetCompactRows(*points_);
+  NameEditors(*points_);
   title->setBuddy(points_);
   layout->addWidget(title);
   layout->addWidget(points_, 1);

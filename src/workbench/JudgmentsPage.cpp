@@ -49,7 +49,7 @@ std::map<String, QString> OwnUnits(const Project& project, std::size_t session) 
     const JudgedProblem judged = JudgedProblemOf(project, asked);
     for (const Dea::Equivalence& equivalence : judged.Equivalences) {
       const String& name = judged.Problem.Columns[static_cast<std::size_t>(equivalence.Column)].Name;
-      texts[name] = FromText(EquivalenceText(project, judged.Problem, equivalence));
+      texts[name] = FromText(EquivalenceText(project, judged.Problem, equivalence, Signs()));
     }
   } catch (const ModelFault&) {
     texts.clear();

@@ -81,6 +81,10 @@ QWidget* MainWindow::MakeAdvice() {
   advice_ = Named(new QLabel, "advice", tr("What is missing"));
   advice_->setWordWrap(true);
   go_ = Named(new QPushButton, "adviceGo", tr("Go to the page"));
+  // The pages stay where they are while it is hidden.
+  QSizePolicy policy = go_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  go_->setSizePolicy(policy);
   layout->addWidget(advice_, 1);
   layout->addWidget(go_);
   connect(go_, &QPushButton::clicked, this, [this] { ShowPage(AdviceFor(document_.Data()).Where); });

@@ -34,13 +34,6 @@ std::vector<ResultField> FieldsOf(const Evaluation& evaluation) {
   return fields;
 }
 
-// As the window writes them.
-const ResultsSigns& Signs() {
-  static const ResultsSigns signs{
-      "–", "–", "–", ToText(ResultsModel::tr(", seen ")), " ≥ ", " ≤ ", ToText(ResultsModel::tr(" and %1 more"))};
-  return signs;
-}
-
 QString BoundOf(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
   return FromText(BoundText(evaluation, bound, Signs()));
 }

@@ -55,43 +55,43 @@ ResultsPage::ResultsPage(Document& document, QWidget* parent)
   ShowDocument();
 }
 
-QComboBox* ResultsPage::AddChoice(QBoxLayout& layout, const char* name, const QString& title,
+QComboBox* ResultsPage::AddChoice(QGridLayout& grid, const char* name, const QString& title,
                                   const QStringList& choices) {
-  auto* const column = new QVBoxLayout;
-  auto* const label = new QLabel(title);
   auto* const box = Named(new QComboBox, name, QString(title).remove(QLatin1Char('&')));
   box->addItems(choices);
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box->setMinimumContentsLength(14);
-  label->setBuddy(box);
-  column->addWidget(label);
-  column->addWidget(box);
-  layout.addLayout(column, 1);
+  box->setMinimumContentsLength(12);
+  AddField(grid, title, *box);
   connect(box, &QComboBox::activated, this, &ResultsPage::TakeChoice);
   return box;
 }
 
+// Below its title, in a column of its own.
+void ResultsPage::AddField(QGridLayout& grid, const QString& title, QWidget& field) {
+  auto* const label = new QLabel(title);
+  label->setBuddy(&field);
+  const int column = grid.columnCount();
+  grid.addWidget(label, 0, column);
+  grid.addWidget(&field, 1, column);
+  grid.setColumnStretch(column, 1);
+}
+
 QLayout* ResultsPage::MakeChoices() {
-  auto* const row = new QHBoxLayout;
-  session_ = AddChoice(*row, "resultsSession", tr("&Judgments"), {});
-  form_ = AddChoice(*row, "form", tr("F&orm"), {tr("Ratio (efficiency)"), tr("Value (distance)")});
-  returns_ = AddChoice(*row, "returns", tr("&Returns to scale"),
+  auto* const grid = new QGridLayout;
+  session_ = AddChoice(*grid, "resultsSession", tr("&Judgments"), {});
+  form_ = AddChoice(*grid, "form", tr("F&orm"), {tr("Ratio (efficiency)"), tr("Value (distance)")});
+  returns_ = AddChoice(*grid, "returns", tr("&Returns to scale"),
                        {tr("Constant"), tr("Variable"), tr("Not increasing"), tr("Not decreasing")});
-  orientation_ = AddChoice(*row, "orientation", tr("Orien&tation"), {tr("Inputs"), tr("Outputs")});
-  auto* const column = new QVBoxLayout;
-  auto* const label = new QLabel(tr("&Widen intervals by"));
+  orientation_ = AddChoice(*grid, "orientation", tr("Orien&tation"), {tr("Inputs"), tr("Outputs")});
   widen_ = Named(new QDoubleSpinBox, "widen", tr("Widen all intervals by this factor"));
   widen_->setRange(1.0, 3.0);
   widen_->setSingleStep(0.1);
   widen_->setPrefix(QStringLiteral("× "));
   widen_->setKeyboardTracking(false);
   widen_->setLocale(QLocale::c());
-  label->setBuddy(widen_);
-  column->addWidget(label);
-  column->addWidget(widen_);
-  row->addLayout(column);
+  AddField(*grid, tr("&Widen intervals by"), *widen_);
   connect(widen_, &QDoubleSpinBox::valueChanged, this, &ResultsPage::ComputeSoon);
-  return row;
+  return grid;
 }
 
 QLayout* ResultsPage::MakeSearch() {

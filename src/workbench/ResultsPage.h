@@ -6,9 +6,9 @@
 
 #include <QWidget>
 
-class QBoxLayout;
 class QComboBox;
 class QDoubleSpinBox;
+class QGridLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -49,7 +49,8 @@ class ResultsPage : public QWidget {
   QLayout* MakeChoices();
   QLayout* MakeSearch();
   QWidget* MakeTables();
-  QComboBox* AddChoice(QBoxLayout& layout, const char* name, const QString& title, const QStringList& choices);
+  QComboBox* AddChoice(QGridLayout& grid, const char* name, const QString& title, const QStringList& choices);
+  static void AddField(QGridLayout& grid, const QString& title, QWidget& field);
   void ConnectSolver();
 
   void ShowDocument();

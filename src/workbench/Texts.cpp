@@ -23,6 +23,12 @@ QString AttributesText(std::size_t count) {
   return count == 1 ? Tr::tr("1 attribute") : Tr::tr("%1 attributes").arg(count);
 }
 
+const ResultsSigns& Signs() {
+  static const ResultsSigns signs{
+      "–", "–", "–", ToText(Tr::tr(", seen ")), " ≥ ", " ≤ ", ToText(Tr::tr(" and %1 more"))};
+  return signs;
+}
+
 QString RowsText(std::size_t count) { return count == 1 ? Tr::tr("1 row") : Tr::tr("%1 rows").arg(count); }
 
 std::optional<double> TypedNumber(const QString& text) {

@@ -2,7 +2,7 @@
 // people who hear the window.
 #pragma once
 
-#include <tarnwise/Scalars.h>
+#include "project/Signs.h"
 
 #include <QString>
 
@@ -25,6 +25,9 @@ QString NumberText(const std::optional<double>& number);
 QString UnitsText(std::size_t count);
 QString AttributesText(std::size_t count);
 QString RowsText(std::size_t count);
+
+// What stands between numbers in the window.
+const ResultsSigns& Signs();
 
 // "2024-05-17T09:30:00Z" as this place's people write it; as it is where it is no time.
 QString TimeText(const String& made);

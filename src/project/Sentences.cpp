@@ -14,11 +14,11 @@ String NameAndMeasure(const Project& project, const String& name) {
   return column == nullptr || column->Unit.empty() ? shown : shown + " (" + ShownName(column->Unit) + ")";
 }
 
-String IntervalText(double low, const std::optional<double>& high) {
-  if (!high) return ">= " + SignificantText(low, kRatioDigits);
-  if (low == 0.0) return "<= " + SignificantText(*high, kRatioDigits);
-  if (low == *high) return "= " + SignificantText(low, kRatioDigits);
-  return "= " + SignificantText(low, kRatioDigits) + " .. " + SignificantText(*high, kRatioDigits);
+String IntervalText(double low, const std::optional<double>& high, const ResultsSigns& signs) {
+  if (!high) return signs.AtLeast + SignificantText(low, kRatioDigits);
+  if (low == 0.0) return signs.AtMost + SignificantText(*high, kRatioDigits);
+  if (low == *high) return " = " + SignificantText(low, kRatioDigits);
+  return " = " + SignificantText(low, kRatioDigits) + " .. " + SignificantText(*high, kRatioDigits);
 }
 
 }  // namespace
@@ -54,10 +54,11 @@ String CrossText(const Project& project, const Asked& asked) {
          JudgedSwing(project, session, session.BenefitReference) + ".";
 }
 
-String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence) {
+String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence,
+                       const ResultsSigns& signs) {
   const auto name = [&problem](int column) { return problem.Columns[static_cast<std::size_t>(column)].Name; };
-  return "1 " + NameAndMeasure(project, name(equivalence.Column)) + " " +
-         IntervalText(equivalence.Low, equivalence.High) + " " + NameAndMeasure(project, name(equivalence.Of));
+  return "1 " + NameAndMeasure(project, name(equivalence.Column)) +
+         IntervalText(equivalence.Low, equivalence.High, signs) + " " + NameAndMeasure(project, name(equivalence.Of));
 }
 
 String SessionTitle(const Project& project, std::size_t session) {

@@ -8,7 +8,7 @@ namespace Tarnwise {
 
 namespace {
 
-struct Tr {
+struct BarsTr {
   Q_DECLARE_TR_FUNCTIONS(ResultsBars)
 };
 
@@ -39,13 +39,13 @@ Bar RankBar(const Dea::RankRange& ranks) {
 
 void PutScores(const Evaluation& evaluation, const Dea::UnitResult& unit, BarRow& row) {
   row.First = ScoreBar(evaluation, unit);
-  row.Value = row.First.IsNothing ? Tr::tr("no score")
-                                  : Tr::tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
-  if (row.First.Mark) row.Value += Tr::tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
+  row.Value = row.First.IsNothing ? BarsTr::tr("no score")
+                                  : BarsTr::tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
+  if (row.First.Mark) row.Value += BarsTr::tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
 }
 
 void PutRanks(const Dea::UnitResult& unit, BarRow& row) {
-  row.Value = unit.Ranks ? Tr::tr("ranks %1").arg(RanksLabel(unit)) : Tr::tr("no rank");
+  row.Value = unit.Ranks ? BarsTr::tr("ranks %1").arg(RanksLabel(unit)) : BarsTr::tr("no rank");
   if (!unit.Ranks) return;
   row.First = RankBar(*unit.Ranks);
   const auto& seen = unit.RanksSeen;
@@ -88,9 +88,9 @@ std::pair<double, double> BarsShown(const std::vector<BarRow>& rows, const Evalu
 }
 
 QString BarsLabel(const Evaluation& evaluation, BarKind kind) {
-  if (kind == BarKind::Ranks) return Tr::tr("rank; hatched: seen in weights drawn from the judgments");
-  return evaluation.How.Form == ScoreForm::Ratio ? Tr::tr("efficiency; the tick is that without judgments")
-                                                 : Tr::tr("value");
+  if (kind == BarKind::Ranks) return BarsTr::tr("rank; hatched: seen in weights drawn from the judgments");
+  return evaluation.How.Form == ScoreForm::Ratio ? BarsTr::tr("efficiency; the tick is that without judgments")
+                                                 : BarsTr::tr("value");
 }
 
 }  // namespace Tarnwise

@@ -11,7 +11,7 @@ namespace Tarnwise {
 namespace {
 
 // Without alternatives, as the wizard's own models are.
-const char* const kModel = R"({
+const char* const kJudgedModel = R"({
   "attributes": [
     {"name": "Beds", "orientation": "benefit", "scoreMin": 0, "scoreMax": 100, "worst": 10, "best": 90},
     {"name": "Doctors", "orientation": "cost", "scoreMin": 1.5, "scoreMax": 9.5, "worst": 9, "best": 2},
@@ -34,7 +34,7 @@ DataColumn ColumnOf(const char* name, Role role, double worst, double best, std:
 
 class ImportSessionTest : public testing::Test {
  protected:
-  Json description = ParseDescription(kModel);
+  Json description = ParseDescription(kJudgedModel);
   Project project;
 
   ImportSessionTest() {

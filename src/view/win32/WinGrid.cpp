@@ -13,7 +13,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kRowHeight = 24;  // pixels of the design
+constexpr int kGridRowHeight = 24;  // pixels of the design
 
 HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
   const HWND window = NewChild(
@@ -65,7 +65,7 @@ void SetCell(HWND window, int row, int col, std::wstring text) {
 
 // Rows are as high as the pictures of the list, of which there are none.
 void SetRowHeight(WinForm& form, HWND window) {
-  const int height = Scaled(kRowHeight, form.Scale());
+  const int height = Scaled(kGridRowHeight, form.Scale());
   int width = 0;
   int now = 0;
   const HIMAGELIST images = ListView_GetImageList(window, LVSIL_SMALL);

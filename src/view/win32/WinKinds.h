@@ -12,6 +12,10 @@
 
 namespace Tarnwise {
 
+inline LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  return SendMessageW(window, message, wParam, lParam);
+}
+
 class WinForm;
 
 struct WinKind {

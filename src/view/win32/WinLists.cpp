@@ -17,10 +17,6 @@ namespace {
 constexpr int kRowHeight = 24;  // pixels of the design, of a list box
 constexpr int kIconSide = 16;
 
-LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  return SendMessageW(window, message, wParam, lParam);
-}
-
 // A list box or a plain combo, by its own numbers of the same messages.
 struct ListMessages {
   UINT Count;

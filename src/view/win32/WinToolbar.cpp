@@ -22,10 +22,6 @@ constexpr const wchar_t* kGround = L"TarnwiseGround";  // that its pictures are 
 
 constexpr LRESULT kNoBackground = 0x00400000;  // TBCDRF_NOBACKGROUND, of Windows 6
 
-LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  return SendMessageW(window, message, wParam, lParam);
-}
-
 HWND MakeToolbar(WinForm& form, Control& /*control*/, HWND parent) {
   const HWND window = NewChild(form, TOOLBARCLASSNAMEW, kStyle, 0, parent);
   Tell(window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));

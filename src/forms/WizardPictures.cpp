@@ -1,3 +1,4 @@
+// The pictures that the wizard's forms name.
 #include "view/Pictures.h"
 
 #include "view/Controls.h"
@@ -270,7 +271,9 @@ Picture WindowIcon() {
   return picture;
 }
 
-const std::map<String, Picture>& AllPictures() {
+}  // namespace
+
+const std::map<String, Picture>& NamedPictures() {
   static const std::map<String, Picture> pictures{
       {"approach.direct", DirectApproach()},
       {"approach.tradeoffs", TradeOffApproach()},
@@ -301,28 +304,6 @@ const std::map<String, Picture>& AllPictures() {
       {"window", WindowIcon()},
   };
   return pictures;
-}
-
-}  // namespace
-
-const Picture* FindPicture(const String& name) {
-  const auto found = AllPictures().find(name);
-  return found == AllPictures().end() ? nullptr : &found->second;
-}
-
-String PictureNameOf(const String& path) {
-  const std::size_t slash = path.find_last_of("\\/");
-  String name = slash == String::npos ? path : path.substr(slash + 1);
-  name = name.substr(0, name.rfind('.'));
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return name;
-}
-
-std::vector<String> PictureNames() {
-  std::vector<String> names;
-  for (const auto& [name, picture] : AllPictures()) names.push_back(name);
-  return names;
 }
 
 }  // namespace Tarnwise

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <unordered_map>
+#include <map>
 #include <vector>
 
 namespace Tarnwise {
@@ -43,13 +43,20 @@ struct Shades {
 
 // By every `step`-th pixel of every `step`-th row.
 inline Shades ShadesOf(const Pixels& pixels, const Rect& place, double scale, int step = 1) {
-  std::unordered_map<Colour, int> counts;
+  // A map in order: shades of yellow are multiples of 257, which hashes to one bucket of as many.
+  std::map<Colour, int> counts;
+  auto last = counts.end();
   const auto edge = [scale](double at, int most) {
     return std::clamp(static_cast<int>(std::lround(at * scale)), 0, most);
   };
+  const int left = edge(place.X, pixels.Width);
+  const int right = edge(place.X + place.W, pixels.Width);
   for (int y = edge(place.Y, pixels.Height); y < edge(place.Y + place.H, pixels.Height); y += step) {
-    for (int x = edge(place.X, pixels.Width); x < edge(place.X + place.W, pixels.Width); x += step)
-      ++counts[pixels.At(x, y)];
+    for (int x = left; x < right; x += step) {
+      const Colour colour = pixels.At(x, y);
+      if (last == counts.end() || last->first != colour) last = counts.try_emplace(colour, 0).first;
+      ++last->second;
+    }
   }
   Shades shades;
   int most = 0;

@@ -75,8 +75,11 @@ QWidget* DataPage::MakeInvitation() {
   drop->setAlignment(Qt::AlignCenter);
   layout->addStretch();
   layout->addWidget(title);
-  layout->addWidget(open, 0, Qt::AlignCenter);
-  layout->addWidget(paste, 0, Qt::AlignCenter);
+  const int width = std::max(open->sizeHint().width(), paste->sizeHint().width());
+  for (QPushButton* const button : {open, paste}) {
+    button->setMinimumWidth(width);
+    layout->addWidget(button, 0, Qt::AlignCenter);
+  }
   layout->addWidget(drop);
   layout->addStretch();
   connect(open, &QPushButton::clicked, this, &DataPage::OpenWanted);
@@ -186,7 +189,8 @@ void DataPage::ShowState() {
                        : tr("Used columns have no missing, zero or negative cells."));
   next_->setEnabled(any);
   columnsTable_->resizeColumnsToContents();
-  for (int j = 0; j < ColumnsModel::kFields; ++j) {
+  columnsTable_->setColumnWidth(ColumnsModel::kFields - 1, columnsTable_->horizontalHeader()->minimumSectionSize());
+  for (int j = 0; j + 1 < ColumnsModel::kFields; ++j) {  // the last one takes what is left
     columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 170));
   }
   for (int j = 0; j < std::min(data_->columnCount(), 40); ++j) {

@@ -152,7 +152,8 @@ QWidget* ResultsPage::MakeTables() {
   auto* const splitter = Named(new QSplitter(Qt::Vertical), "resultsSplitter", tr("Divided page"));
   splitter->addWidget(above);
   splitter->addWidget(details_);
-  splitter->setStretchFactor(0, 1);
+  splitter->setStretchFactor(0, 2);
+  splitter->setStretchFactor(1, 1);
   splitter->setSizes({390, 190});
   splitter->setChildrenCollapsible(false);
   chartSoon_->setSingleShot(true);

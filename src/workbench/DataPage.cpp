@@ -53,7 +53,8 @@ DataPage::DataPage(Document& document, QWidget* parent)
   filled_ = splitter;
   splitter->addWidget(MakeTable());
   splitter->addWidget(MakeColumns());
-  splitter->setStretchFactor(0, 1);
+  splitter->setStretchFactor(0, 2);
+  splitter->setStretchFactor(1, 1);
   splitter->setSizes({690, 470});
   splitter->setChildrenCollapsible(false);
   invitation_ = MakeInvitation();

@@ -283,7 +283,7 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   ShowBusy(false);
   model_->Show(evaluation);
   QStringList lines = {SummaryText(*evaluation)};
-  for (const String& note : evaluation->Results.Notes) lines += FromText(note);
+  for (const Dea::Note& note : evaluation->Results.Notes) lines += NoteText(*evaluation, note);
   for (const Dea::LeftOut& left : evaluation->Results.LeftOut) {
     if (lines.size() > 4) break;
     lines += tr("Left out: %1 (%2).")

@@ -46,11 +46,16 @@ void WindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
 
 void WindowStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
+  const bool isChosenTab = element == CE_TabBarTabShape && option->state.testFlag(State_Selected);
+  if (isChosenTab && IsHighContrast(option->palette)) {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    return Outline(*option, *painter);
+  }
   const auto* const box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
   if (element != CE_ComboBoxLabel || box == nullptr || box->editable) {
     return QProxyStyle::drawControl(element, option, painter, widget);
   }
-  constexpr int kMargins = 8;
+  constexpr int kMargins = 2;
   QStyleOptionComboBox fitted = *box;
   const int width = proxy()->subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget).width() - kMargins;
   fitted.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideRight, width);

@@ -105,5 +105,27 @@ TEST(Pages, DoNotEndWithAHeadingWhateverStandsAboveIt) {
   EXPECT_GT(moved, 1);
 }
 
+// Where each block stands, in the order of the text.
+std::vector<double> PlacesIn(const QTextDocument& document) {
+  std::vector<double> places;
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    places.push_back(document.documentLayout()->blockBoundingRect(block).top());
+  }
+  return places;
+}
+
+TEST(Pages, OfAReportHoldAllOfItInItsOrder) {
+  const Report report = ReportNow(FoundOf(JudgedHospitals()));
+  for (int height = 500; height < 900; height += 37) {
+    QTextDocument document;
+    FillReport(report, document);
+    document.setPageSize(QSizeF(600, height));
+    KeepHeadingsWithWhatFollows(document);
+    const std::vector<double> places = PlacesIn(document);
+    EXPECT_TRUE(std::is_sorted(places.begin(), places.end())) << height;
+    EXPECT_LT(places.back(), document.pageCount() * height);
+  }
+}
+
 }  // namespace
 }  // namespace Tarnwise

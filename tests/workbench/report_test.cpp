@@ -5,6 +5,7 @@
 #include "workbench/ReportDocument.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPdfWriter>
 #include <QTextTable>
 
 namespace Tarnwise {
@@ -114,16 +115,23 @@ std::vector<double> PlacesIn(const QTextDocument& document) {
   return places;
 }
 
-TEST(Pages, OfAReportHoldAllOfItInItsOrder) {
+TEST(Pages, OfAReportAreThoseOfAWholeLayoutAndHoldAllOfItInItsOrder) {
   const Report report = ReportNow(FoundOf(JudgedHospitals()));
-  for (int height = 500; height < 900; height += 37) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter paper(&buffer);
+  for (int height = 9000; height < 15000; height += 517) {
     QTextDocument document;
     FillReport(report, document);
-    document.setPageSize(QSizeF(600, height));
+    document.documentLayout()->setPaintDevice(&paper);
+    document.setPageSize(QSizeF(9920, height));
     KeepHeadingsWithWhatFollows(document);
     const std::vector<double> places = PlacesIn(document);
     EXPECT_TRUE(std::is_sorted(places.begin(), places.end())) << height;
     EXPECT_LT(places.back(), document.pageCount() * height);
+    document.setPageSize(QSizeF(9920, height + 1));
+    document.setPageSize(QSizeF(9920, height));
+    EXPECT_EQ(PlacesIn(document), places) << height;
   }
 }
 

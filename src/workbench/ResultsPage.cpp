@@ -149,6 +149,7 @@ QWidget* ResultsPage::MakeTables() {
   above->setChildrenCollapsible(false);
   details_ = Named(new QTextBrowser, "details", tr("The chosen unit"));
   details_->setTabChangesFocus(true);
+  details_->document()->setDefaultStyleSheet(QStringLiteral("p { margin-top: 2px; margin-bottom: 4px; }"));
   auto* const splitter = Named(new QSplitter(Qt::Vertical), "resultsSplitter", tr("Divided page"));
   splitter->addWidget(above);
   splitter->addWidget(details_);

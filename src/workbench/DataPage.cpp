@@ -160,6 +160,7 @@ QWidget* DataPage::MakeColumns() {
   NameEditors(*columnsTable_);
   columnsTable_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   columnsTable_->horizontalHeader()->setStretchLastSection(true);
+  columnsTable_->horizontalHeader()->setTextElideMode(Qt::ElideRight);
   layout->addWidget(columnsTable_, 1);
   auto* const hint =
       new QLabel(tr("Inputs are better when they are less, outputs when they are more. Worst and best "
@@ -189,10 +190,11 @@ void DataPage::ShowState() {
                              .arg(counts.Negative)
                        : tr("Used columns have no missing, zero or negative cells."));
   next_->setEnabled(any);
+  constexpr int kLeastLastColumn = 60;
   columnsTable_->resizeColumnsToContents();
-  columnsTable_->setColumnWidth(ColumnsModel::kFields - 1, columnsTable_->horizontalHeader()->minimumSectionSize());
+  columnsTable_->setColumnWidth(ColumnsModel::kFields - 1, kLeastLastColumn);
   for (int j = 0; j + 1 < ColumnsModel::kFields; ++j) {  // the last one takes what is left
-    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 170));
+    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 150));
   }
   for (int j = 0; j < std::min(data_->columnCount(), 40); ++j) {
     const int width = std::max(table_->horizontalHeader()->sectionSizeHint(j), j == 0 ? 140 : 80);

@@ -33,8 +33,8 @@ bool IsFramedOutside(const QWidget* widget) {
 bool IsHighContrast(const QPalette& palette) {
   constexpr int kNearlyAll = 250;
   constexpr int kNearlyNone = 5;
-  const int ground = palette.color(QPalette::Window).lightness();
-  const int text = palette.color(QPalette::WindowText).lightness();
+  const int ground = palette.color(QPalette::Active, QPalette::Window).lightness();
+  const int text = palette.color(QPalette::Active, QPalette::WindowText).lightness();
   return (ground <= kNearlyNone && text >= kNearlyAll) || (ground >= kNearlyAll && text <= kNearlyNone);
 }
 

@@ -265,8 +265,9 @@ void ResultsPage::ShowBusy(bool busy) {
   progress_->setVisible(busy);
   cancel_->setVisible(busy);
   compute_->setVisible(!busy);
-  if (busy) progress_->setValue(0);
-  if (busy) Q_EMIT StateChanged();
+  if (!busy) return;
+  progress_->setValue(0);
+  Q_EMIT StateChanged();
 }
 
 void ResultsPage::ShowMessage(const QString& text) {

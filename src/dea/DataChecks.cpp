@@ -106,8 +106,9 @@ void NoteZeroInputs(const Problem& problem, Checked& checked) {
       if (column.Values[At(k)] == 0.0) zeros.push_back(k);
     }
     if (zeros.empty()) continue;
-    checked.Notes.push_back("Column " + column.Name + " is zero for " + SomeOf(problem, zeros) +
-                            ": as long as it is not judged, an input of zero can make a unit efficient by itself.");
+    const String text = "Column " + column.Name + " is zero for " + SomeOf(problem, zeros) +
+                        ": as long as it is not judged, an input of zero can make a unit efficient by itself.";
+    checked.Notes.push_back({NoteKind::ZeroInput, text, i, zeros});
   }
 }
 
@@ -120,8 +121,9 @@ void NoteClampedScores(const Problem& problem, Checked& checked) {
       if (at < -1e-9 || at > 1.0 + 1e-9) beyond.push_back(k);
     }
     if (beyond.empty()) continue;
-    checked.Notes.push_back("Column " + problem.Columns[j].Name +
-                            ": scores beyond the values 0 to 1 count as the end: " + SomeOf(problem, beyond) + ".");
+    const String text = "Column " + problem.Columns[j].Name +
+                        ": scores beyond the values 0 to 1 count as the end: " + SomeOf(problem, beyond) + ".";
+    checked.Notes.push_back({NoteKind::ClampedScores, text, static_cast<int>(j), beyond});
   }
 }
 

@@ -29,7 +29,7 @@ struct Checked {
   int CostReference = -1;
   std::optional<Double> Cross;  // as judged, where both groups are there
 
-  std::vector<String> Notes;
+  std::vector<Note> Notes;
 
   int ReferenceOf(const Problem& problem, int column) const {
     return problem.Columns[static_cast<std::size_t>(column)].Use == Role::Input ? CostReference : BenefitReference;

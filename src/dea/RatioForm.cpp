@@ -222,7 +222,8 @@ void TakeHeldBack(Evaluation& evaluation, const std::vector<std::vector<int>>& u
 
 void TakeRanks(Evaluation& evaluation, const RatioRegion& region, const Watch& watch) {
   if (evaluation.Units() > kMostRankedUnits) {
-    evaluation.Found.Notes.emplace_back("Ranks are worked out for 20,000 units at most.");
+    evaluation.Found.Notes.push_back(
+        {NoteKind::TooManyForRanks, "Ranks are worked out for 20,000 units at most.", -1, {}});
     return;
   }
   const RatioData& data = evaluation.Made.Data;

@@ -73,13 +73,23 @@ struct Departure {
       FromChord;  // in shares of the values over the range; absent where the curve comes back to its start
 };
 
+// What a person should know besides, as a sentence in English, and what it is about for those who say it in their own
+// words.
+enum class NoteKind { ZeroInput, ClampedScores, NoLowBound, NoHighBound, NoBounds, NotJudged, TooManyForRanks, Other };
+struct Note {
+  NoteKind Kind = NoteKind::Other;
+  String Text;
+  int Column = -1;         // index into Problem::Columns
+  std::vector<int> Units;  // indices into Problem::Units
+};
+
 struct Results {
   std::vector<UnitResult> Units;      // those evaluated, in the problem's order
   std::vector<Dea::LeftOut> LeftOut;  // in the problem's order
   std::vector<Equivalence> Equivalences;
   std::vector<Departure> Departures;
   Double WorstViolation = 0.0;  // the certificate: how far any unit passes what the prices of any score allow
-  std::vector<String> Notes;
+  std::vector<Note> Notes;
 };
 
 }  // namespace Tarnwise::Dea

@@ -103,8 +103,13 @@ void TakeJudgment(const Problem& problem, const Judgment& judgment, Checked& che
   const String where = problem.Session->Name + ": column " + problem.Columns[At(judgment.Column)].Name;
   CheckBounds(where, judgment);
   if (judgment.Low == 0.0 || judgment.High == 0.0) {
-    const String side = judgment.Low != 0.0 ? "The high bound" : judgment.High != 0.0 ? "The low bound" : "Each bound";
-    checked.Notes.push_back(where + ": " + side + " is zero and counts as none.");
+    const NoteKind kind = judgment.Low != 0.0    ? NoteKind::NoHighBound
+                          : judgment.High != 0.0 ? NoteKind::NoLowBound
+                                                 : NoteKind::NoBounds;
+    const String side = kind == NoteKind::NoHighBound  ? "The high bound"
+                        : kind == NoteKind::NoLowBound ? "The low bound"
+                                                       : "Each bound";
+    checked.Notes.push_back({kind, where + ": " + side + " is zero and counts as none.", judgment.Column, {}});
   }
   if (judgment.Low == 0.0 && judgment.High == 0.0) return;
   JudgedInterval interval;
@@ -116,8 +121,9 @@ void TakeJudgment(const Problem& problem, const Judgment& judgment, Checked& che
 void NoteWhatIsNotJudged(const Problem& problem, Checked& checked) {
   for (int j = 0; At(j) < problem.Columns.size(); ++j) {
     if (checked.Judged[At(j)] || j == checked.ReferenceOf(problem, j)) continue;
-    checked.Notes.push_back(problem.Session->Name + ": column " + problem.Columns[At(j)].Name +
-                            " is not judged; its price is free.");
+    const String text =
+        problem.Session->Name + ": column " + problem.Columns[At(j)].Name + " is not judged; its price is free.";
+    checked.Notes.push_back({NoteKind::NotJudged, text, j, {}});
   }
 }
 

@@ -153,7 +153,7 @@ void EvaluateValues(const Problem& problem, const Checked& checked, const Watch&
   results.WorstViolation = scorer.WorstViolation();
   if (!problem.Session || !problem.Options.Ranks) return;
   if (data.Units > kMostRankedUnits) {
-    results.Notes.emplace_back("Ranks are worked out for 20,000 units at most.");
+    results.Notes.push_back({NoteKind::TooManyForRanks, "Ranks are worked out for 20,000 units at most.", -1, {}});
     return;
   }
   const auto sure = scorer.SureRanks(watch.Part(0.6, 0.9));

@@ -29,9 +29,7 @@ struct Exported {
   std::optional<PointArrays> Points;  // for beside a model
 };
 
-Exported OfResults(const Evaluation& evaluation, String text) {
-  return {std::move(text), evaluation.Results.Notes, {}};
-}
+Exported OfResults(const Evaluation& evaluation, String text) { return {std::move(text), NoteTexts(evaluation), {}}; }
 
 Exported OfRestrictions(const Project& project, const Asked& asked) {
   const JudgedProblem judged = JudgedProblemOf(project, asked);

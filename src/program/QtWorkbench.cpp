@@ -2,6 +2,7 @@
 #include "program/Workbench.h"
 #include "workbench/MainWindow.h"
 #include "workbench/ResultsPage.h"
+#include "workbench/WindowStyle.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -59,6 +60,7 @@ int OpenWorkbench(const OpenOptions& options, int& argc, char** argv) {
   const auto application = StartQt(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("Tarnwise"));
   QApplication::setApplicationName(QStringLiteral("Tarnwise"));
+  QApplication::setStyle(new WindowStyle);
   MainWindow window;
   window.show();
   if (!options.File.empty() && !window.Open(QString::fromStdString(options.File)) && !options.Pictures.empty())

@@ -69,7 +69,7 @@ int SolveProject(const SolveOptions& options, const Console& console) {
     console.Err << options.Project << ": the solver failed, and no result is shown. " << fault.what() << "\n";
     return kFailed;
   }
-  for (const String& note : evaluation->Results.Notes) console.Err << "note: " << note << "\n";
+  for (const Dea::Note& note : evaluation->Results.Notes) console.Err << "note: " << note.Text << "\n";
   try {
     Write(options, *project, *evaluation, console);
     return kDone;

@@ -130,6 +130,12 @@ Dea::Problem ProblemOf(const Project& project, const Asked& asked) {
   return problem;
 }
 
+std::vector<String> NoteTexts(const Evaluation& evaluation) {
+  std::vector<String> texts;
+  for (const Dea::Note& note : evaluation.Results.Notes) texts.push_back(note.Text);
+  return texts;
+}
+
 JudgedProblem JudgedProblemOf(const Project& project, const Asked& asked) {
   JudgedProblem judged;
   judged.Problem = ProblemOf(project, asked);
@@ -137,7 +143,7 @@ JudgedProblem JudgedProblemOf(const Project& project, const Asked& asked) {
   try {
     const Dea::Checked checked = Dea::Check(judged.Problem);
     judged.Equivalences = Dea::EquivalencesOf(judged.Problem, checked);
-    judged.Notes.insert(judged.Notes.end(), checked.Notes.begin(), checked.Notes.end());
+    for (const Dea::Note& note : checked.Notes) judged.Notes.push_back(note.Text);
   } catch (const Dea::Refused& refused) {
     throw ModelFault(refused.what());
   }

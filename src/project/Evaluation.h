@@ -58,6 +58,8 @@ struct Evaluation {
   Dea::Results Results;
 };
 
+std::vector<String> NoteTexts(const Evaluation& evaluation);
+
 // Whether this build can solve linear programs. Where it cannot, Evaluate is a ModelFault that says so.
 bool CanSolve();
 

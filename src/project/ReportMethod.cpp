@@ -86,7 +86,7 @@ void AddLeftOut(const Project& project, const Evaluation& evaluation, Report& re
   for (const std::size_t j : ColumnsIn(project, Role::Unused)) {
     items.push_back("Column " + project.Columns[j].Name + " is not used.");
   }
-  items.insert(items.end(), evaluation.Results.Notes.begin(), evaluation.Results.Notes.end());
+  for (const Dea::Note& note : evaluation.Results.Notes) items.push_back(note.Text);
   if (evaluation.How.Form == ScoreForm::Ratio && evaluation.How.Session &&
       evaluation.How.Returns != ScoreReturns::Crs) {
     items.emplace_back("The least efficiency and the ranks, which are notions of constant returns to scale.");

@@ -139,7 +139,8 @@ void Writer::PutTop() const {
     Out += '}';
   });
   top.Full("worstViolation", Results().WorstViolation);
-  PutLines(top.Key("notes"), Results().Notes, "  ", [this](const String& note) { Out += JsonQuotes(note, "notes"); });
+  PutLines(top.Key("notes"), Results().Notes, "  ",
+           [this](const Dea::Note& note) { Out += JsonQuotes(note.Text, "notes"); });
   Out += "\n}\n";
 }
 

@@ -40,19 +40,33 @@ ComparedPair PairOf(const SessionModel& model, bool benefit) {
   return pair;
 }
 
-void AddMeanings(const SessionModel& model, const ComparedPair& pair, std::vector<String>& lines) {
-  constexpr double kExample = 1.5;
+void AddMeanings(const SessionModel& model, const ComparedPair& pair, std::vector<Meaning>& meanings) {
   if (pair.Attribute < 0) return;
-  const auto swing = [&model](int i, bool whole) {
-    const ColumnScale& scale = model.Scales[At(i)];
-    return SwingText(model.Names[At(i)], whole ? WholeCurve(scale) : scale);
-  };
-  const String given =
-      model.Resumed ? String() : "With " + ShownName(model.Names[At(pair.Reference)]) + " as the reference ";
-  const String direct = RatioMeaning(kExample, swing(pair.Attribute, false), swing(pair.Reference, false));
-  const String traded = RatioMeaning(kExample, swing(pair.Attribute, true), swing(pair.Reference, true));
-  lines.push_back((direct == traded ? "" : "Direct comparisons: ") + given + direct);
-  if (direct != traded) lines.push_back("Trade-offs: " + given + traded);
+  Meaning direct;
+  direct.Attribute = model.Names[At(pair.Attribute)];
+  direct.Scale = model.Scales[At(pair.Attribute)];
+  direct.Reference = model.Names[At(pair.Reference)];
+  direct.ReferenceScale = model.Scales[At(pair.Reference)];
+  direct.IsExample = !model.Resumed;
+  Meaning traded = direct;
+  traded.Scale = WholeCurve(direct.Scale);
+  traded.ReferenceScale = WholeCurve(direct.ReferenceScale);
+  const auto same = [](const ColumnScale& x, const ColumnScale& y) { return x.Worst == y.Worst && x.Best == y.Best; };
+  const bool isOne = same(direct.Scale, traded.Scale) && same(direct.ReferenceScale, traded.ReferenceScale);
+  if (!isOne) direct.By = JudgedBy::DirectComparisons;
+  meanings.push_back(direct);
+  traded.By = JudgedBy::TradeOffs;
+  if (!isOne) meanings.push_back(traded);
+}
+
+String LineOf(const Meaning& meaning) {
+  const char* const by = meaning.By == JudgedBy::Both        ? ""
+                         : meaning.By == JudgedBy::TradeOffs ? "Trade-offs: "
+                                                             : "Direct comparisons: ";
+  const String given = meaning.IsExample ? "With " + ShownName(meaning.Reference) + " as the reference " : String();
+  return by + given +
+         RatioMeaning(meaning.Ratio, SwingText(meaning.Attribute, meaning.Scale),
+                      SwingText(meaning.Reference, meaning.ReferenceScale));
 }
 
 String RatioText(const SessionAttribute& attribute) {
@@ -92,10 +106,16 @@ std::vector<const DataColumn*> Compared(const Project& project, const JudgmentSe
 
 }  // namespace
 
+std::vector<Meaning> MeaningsOf(const SessionModel& model) {
+  std::vector<Meaning> meanings;
+  AddMeanings(model, PairOf(model, false), meanings);
+  AddMeanings(model, PairOf(model, true), meanings);
+  return meanings;
+}
+
 std::vector<String> MeaningLines(const SessionModel& model) {
   std::vector<String> lines;
-  AddMeanings(model, PairOf(model, false), lines);
-  AddMeanings(model, PairOf(model, true), lines);
+  for (const Meaning& meaning : MeaningsOf(model)) lines.push_back(LineOf(meaning));
   return lines;
 }
 

@@ -5,6 +5,19 @@
 
 namespace Tarnwise {
 
+// What a ratio of one attribute to the reference is going to compare.
+enum class JudgedBy { Both, DirectComparisons, TradeOffs };
+struct Meaning {
+  JudgedBy By = JudgedBy::Both;
+  double Ratio = 1.5;
+  String Attribute;
+  ColumnScale Scale;  // from its worst to its best
+  String Reference;
+  ColumnScale ReferenceScale;
+  bool IsExample = false;  // no reference is chosen yet, this one stands for it
+};
+std::vector<Meaning> MeaningsOf(const SessionModel& model);
+
 // What a ratio is going to mean in each group of more than one attribute: "1.5 means: Doctors from 60 to 15 is worth
 // 1.5 times Nurses from 320 to 120." Trade-offs have a line of their own where a curve goes beyond worst and best.
 std::vector<String> MeaningLines(const SessionModel& model);

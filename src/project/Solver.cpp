@@ -17,7 +17,10 @@ Evaluation Evaluate(const Project& project, const Asked& asked, const Dea::Watch
     throw ModelFault(refused.what());
   }
   if (!asked.Session) return evaluation;
-  const std::vector<String> notes = SessionNotes(project, *asked.Session);
+  std::vector<Dea::Note> notes;
+  for (const String& text : SessionNotes(project, *asked.Session)) {
+    notes.push_back({Dea::NoteKind::Other, text, -1, {}});
+  }
   evaluation.Results.Notes.insert(evaluation.Results.Notes.begin(), notes.begin(), notes.end());
   return evaluation;
 }

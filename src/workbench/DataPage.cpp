@@ -53,7 +53,8 @@ DataPage::DataPage(Document& document, QWidget* parent)
   filled_ = splitter;
   splitter->addWidget(MakeTable());
   splitter->addWidget(MakeColumns());
-  splitter->setStretchFactor(0, 1);
+  splitter->setStretchFactor(0, 2);
+  splitter->setStretchFactor(1, 1);
   splitter->setSizes({690, 470});
   splitter->setChildrenCollapsible(false);
   invitation_ = MakeInvitation();
@@ -75,8 +76,11 @@ QWidget* DataPage::MakeInvitation() {
   drop->setAlignment(Qt::AlignCenter);
   layout->addStretch();
   layout->addWidget(title);
-  layout->addWidget(open, 0, Qt::AlignCenter);
-  layout->addWidget(paste, 0, Qt::AlignCenter);
+  const int width = std::max(open->sizeHint().width(), paste->sizeHint().width());
+  for (QPushButton* const button : {open, paste}) {
+    button->setMinimumWidth(width);
+    layout->addWidget(button, 0, Qt::AlignCenter);
+  }
   layout->addWidget(drop);
   layout->addStretch();
   connect(open, &QPushButton::clicked, this, &DataPage::OpenWanted);
@@ -156,6 +160,7 @@ QWidget* DataPage::MakeColumns() {
   NameEditors(*columnsTable_);
   columnsTable_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   columnsTable_->horizontalHeader()->setStretchLastSection(true);
+  columnsTable_->horizontalHeader()->setTextElideMode(Qt::ElideRight);
   layout->addWidget(columnsTable_, 1);
   auto* const hint =
       new QLabel(tr("Inputs are better when they are less, outputs when they are more. Worst and best "
@@ -185,9 +190,11 @@ void DataPage::ShowState() {
                              .arg(counts.Negative)
                        : tr("Used columns have no missing, zero or negative cells."));
   next_->setEnabled(any);
+  constexpr int kLeastLastColumn = 60;
   columnsTable_->resizeColumnsToContents();
-  for (int j = 0; j < ColumnsModel::kFields; ++j) {
-    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 170));
+  columnsTable_->setColumnWidth(ColumnsModel::kFields - 1, kLeastLastColumn);
+  for (int j = 0; j + 1 < ColumnsModel::kFields; ++j) {  // the last one takes what is left
+    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 150));
   }
   for (int j = 0; j < std::min(data_->columnCount(), 40); ++j) {
     const int width = std::max(table_->horizontalHeader()->sectionSizeHint(j), j == 0 ? 140 : 80);

@@ -21,6 +21,8 @@ namespace {
 constexpr Integer kFileIndex = 1;
 constexpr int kInconsistentLight = 2;
 
+QString ShownNumber(double number) { return NumberText(std::optional(number)); }
+
 QString LimitText(double limit) { return FromText(FixedText(limit, 2)); }
 
 QString NameOf(const WizardData& data, int attribute) { return FromText(Trim(data.AttName(attribute))); }
@@ -73,6 +75,27 @@ JudgedInterval RatiosShown(const QString& caption) {
     return part.endsWith(QLatin1String("/1")) ? TypedNumber(part.chopped(2)) : std::nullopt;
   };
   return IntervalOf(ratio(parts[0]), ratio(parts[1]));
+}
+
+QString MeaningText(const Meaning& meaning) {
+  const QString ratio = ShownNumber(meaning.Ratio);
+  const auto swing = [](const String& name, const ColumnScale& scale) {
+    return JudgeSession::tr("%1 from %2 to %3")
+        .arg(FromText(ShownName(name)), ShownNumber(scale.Worst), ShownNumber(scale.Best));
+  };
+  const QString text =
+      JudgeSession::tr("%1 means: %2 is worth %1 times %3.")
+          .arg(ratio, swing(meaning.Attribute, meaning.Scale), swing(meaning.Reference, meaning.ReferenceScale));
+  const QString given =
+      meaning.IsExample
+          ? JudgeSession::tr("With %1 as the reference %2").arg(FromText(ShownName(meaning.Reference)), text)
+          : text;
+  switch (meaning.By) {
+    case JudgedBy::Both: return given;
+    case JudgedBy::DirectComparisons: return JudgeSession::tr("Direct comparisons: %1").arg(given);
+    case JudgedBy::TradeOffs: return JudgeSession::tr("Trade-offs: %1").arg(given);
+  }
+  return given;
 }
 
 QString HintFor(const WizardData& data, int attribute, const JudgedInterval& judged) {

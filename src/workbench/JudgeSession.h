@@ -1,7 +1,7 @@
 // The wizard inside this process, on a project as it stood when it was started: from its first step until it ends.
 #pragma once
 
-#include "project/SessionModel.h"
+#include "project/SessionText.h"
 
 #include <QObject>
 #include <QString>
@@ -22,6 +22,9 @@ QString HintFor(const WizardData& data, int attribute, const JudgedInterval& jud
 
 // The two ratios as the step with trade-offs shows them: "0.50/1,    1.50/1". Nothing where they are no two numbers.
 JudgedInterval RatiosShown(const QString& caption);
+
+// "With Nurses as the reference 1.5 means: Doctors from 60 to 15 is worth 1.5 times Nurses from 320 to 120."
+QString MeaningText(const Meaning& meaning);
 
 class JudgeSession : public QObject {
   Q_OBJECT

@@ -49,6 +49,13 @@ QTextBlock FirstLeftAlone(const QTextDocument& document, QTextBlock from) {
   return {};
 }
 
+// Where only what has changed is laid out anew, tables and charts below a break stay where they were.
+void LayOutAnew(QTextDocument& document) {
+  const QSizeF size = document.pageSize();
+  document.setPageSize(size + QSizeF(0.0, 1.0));
+  document.setPageSize(size);
+}
+
 }  // namespace
 
 void KeepHeadingsWithWhatFollows(QTextDocument& document) {
@@ -57,6 +64,7 @@ void KeepHeadingsWithWhatFollows(QTextDocument& document) {
     QTextBlockFormat format;
     format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
     QTextCursor(alone).mergeBlockFormat(format);
+    LayOutAnew(document);
     alone = FirstLeftAlone(document, alone.next());
   }
 }

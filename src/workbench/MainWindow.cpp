@@ -1,7 +1,6 @@
 #include "workbench/MainWindow.h"
 
 #include "modelfiles/WholeFile.h"
-#include "project/SessionText.h"
 #include "project/StoreSession.h"
 #include "workbench/AttributesPage.h"
 #include "workbench/DataPage.h"
@@ -237,7 +236,7 @@ bool MainWindow::MayJudge() {
 
 bool MainWindow::WantsToBegin(const JudgeSession& session) {
   QStringList lines;
-  for (const String& line : MeaningLines(session.Model())) lines += FromText(line);
+  for (const Meaning& meaning : MeaningsOf(session.Model())) lines += MeaningText(meaning);
   for (const String& note : session.Model().Notes) lines += FromText(note);
   QMessageBox box(QMessageBox::Information, tr("Before you judge"), lines.join(QStringLiteral("\n\n")),
                   QMessageBox::Ok | QMessageBox::Cancel, this);

@@ -85,7 +85,9 @@ void ReportPage::showEvent(QShowEvent* event) {
 void ReportPage::ShowReport() {
   if (shown_ == results_.Shown()) return;
   shown_ = results_.Shown();
+  constexpr double kMargin = 20.0;
   FillReport(ReportNow(results_.Newest()), *preview_->document());
+  preview_->document()->setDocumentMargin(kMargin);
   preview_->moveCursor(QTextCursor::Start);
 }
 

@@ -272,6 +272,33 @@ QString SummaryText(const Evaluation& evaluation) {
       .arg(counted, AttributesText(evaluation.Problem.Columns.size()), UnitsText(units.size()));
 }
 
+QString NoteText(const Evaluation& evaluation, const Dea::Note& note) {
+  constexpr std::size_t kNamed = 5;
+  QStringList names;
+  for (std::size_t i = 0; i < std::min(kNamed, note.Units.size()); ++i) names += NameOfUnit(evaluation, note.Units[i]);
+  QString units = names.join(QStringLiteral(", "));
+  if (note.Units.size() > kNamed) units += ResultsModel::tr(" and %1 more").arg(note.Units.size() - kNamed);
+  const QString column =
+      note.Column < 0 ? QString() : FromText(evaluation.Problem.Columns[static_cast<std::size_t>(note.Column)].Name);
+  switch (note.Kind) {
+    case Dea::NoteKind::ZeroInput:
+      return ResultsModel::
+          tr("%1 is zero for %2: as long as it is not judged, an input of zero can make a unit efficient by itself.")
+              .arg(column, units);
+    case Dea::NoteKind::ClampedScores:
+      return ResultsModel::tr("%1: scores beyond the values 0 to 1 count as the end: %2.").arg(column, units);
+    case Dea::NoteKind::NoLowBound:
+      return ResultsModel::tr("%1: the low bound is zero and counts as none.").arg(column);
+    case Dea::NoteKind::NoHighBound:
+      return ResultsModel::tr("%1: the high bound is zero and counts as none.").arg(column);
+    case Dea::NoteKind::NoBounds: return ResultsModel::tr("%1: both bounds are zero and count as none.").arg(column);
+    case Dea::NoteKind::NotJudged: return ResultsModel::tr("%1 is not judged; its price is free.").arg(column);
+    case Dea::NoteKind::TooManyForRanks: return ResultsModel::tr("Ranks are worked out for 20,000 units at most.");
+    case Dea::NoteKind::Other: break;
+  }
+  return FromText(note.Text);
+}
+
 QString ReasonText(const Evaluation& evaluation, const Dea::LeftOut& left) {
   if (!left.Lacking) return ResultsModel::tr("all inputs are zero");
   const Dea::Column& column = evaluation.Problem.Columns[static_cast<std::size_t>(*left.Lacking)];

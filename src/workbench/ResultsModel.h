@@ -69,6 +69,9 @@ QString RanksLabel(const Dea::UnitResult& unit);  // empty without ranks
 // unit pick its own weights."
 QString SummaryText(const Evaluation& evaluation);
 
+// What a person should know of the results besides.
+QString NoteText(const Evaluation& evaluation, const Dea::Note& note);
+
 // Why a unit has no result.
 QString ReasonText(const Evaluation& evaluation, const Dea::LeftOut& left);
 

@@ -149,10 +149,12 @@ QWidget* ResultsPage::MakeTables() {
   above->setChildrenCollapsible(false);
   details_ = Named(new QTextBrowser, "details", tr("The chosen unit"));
   details_->setTabChangesFocus(true);
+  details_->document()->setDefaultStyleSheet(QStringLiteral("p { margin-top: 2px; margin-bottom: 4px; }"));
   auto* const splitter = Named(new QSplitter(Qt::Vertical), "resultsSplitter", tr("Divided page"));
   splitter->addWidget(above);
   splitter->addWidget(details_);
-  splitter->setStretchFactor(0, 1);
+  splitter->setStretchFactor(0, 2);
+  splitter->setStretchFactor(1, 1);
   splitter->setSizes({390, 190});
   splitter->setChildrenCollapsible(false);
   chartSoon_->setSingleShot(true);
@@ -263,8 +265,9 @@ void ResultsPage::ShowBusy(bool busy) {
   progress_->setVisible(busy);
   cancel_->setVisible(busy);
   compute_->setVisible(!busy);
-  if (busy) progress_->setValue(0);
-  if (busy) Q_EMIT StateChanged();
+  if (!busy) return;
+  progress_->setValue(0);
+  Q_EMIT StateChanged();
 }
 
 void ResultsPage::ShowMessage(const QString& text) {
@@ -282,7 +285,7 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   ShowBusy(false);
   model_->Show(evaluation);
   QStringList lines = {SummaryText(*evaluation)};
-  for (const String& note : evaluation->Results.Notes) lines += FromText(note);
+  for (const Dea::Note& note : evaluation->Results.Notes) lines += NoteText(*evaluation, note);
   for (const Dea::LeftOut& left : evaluation->Results.LeftOut) {
     if (lines.size() > 4) break;
     lines += tr("Left out: %1 (%2).")

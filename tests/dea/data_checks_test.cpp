@@ -21,7 +21,7 @@ void ExpectRefused(const Problem& problem, const std::vector<String>& words) {
 void ExpectNoted(const Problem& problem, const std::vector<String>& words) {
   const Results results = Evaluate(problem);
   const bool found = std::any_of(results.Notes.begin(), results.Notes.end(),
-                                 [&](const String& note) { return Mentions(note, words); });
+                                 [&](const Note& note) { return Mentions(note.Text, words); });
   EXPECT_TRUE(found) << words.front();
 }
 

@@ -286,7 +286,7 @@ TEST(ManyUnits, HaveScoresButNoRanksAbove20000) {
   const Results results = Evaluate(problem);
   EXPECT_TRUE(results.Units[20000].Max && results.Units[20000].Min);
   EXPECT_FALSE(results.Units[0].Ranks || results.Units[0].RanksSeen);
-  EXPECT_NE(String::npos, results.Notes.back().find("20,000"));
+  EXPECT_NE(String::npos, results.Notes.back().Text.find("20,000"));
 }
 
 }  // namespace

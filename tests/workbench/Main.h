@@ -1,6 +1,8 @@
 // What the test programs of the window begin with: an application with settings of its own.
 #pragma once
 
+#include "workbench/WindowStyle.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -18,6 +20,7 @@ inline int RunWindowTests(int argc, char** argv) {
   QApplication::setOrganizationName(QStringLiteral("Tarnwise"));
   QApplication::setApplicationName(QStringLiteral("Tarnwise test"));
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  QApplication::setStyle(new WindowStyle);
   return RUN_ALL_TESTS();
 }
 

@@ -1,5 +1,6 @@
 #include "Window.h"
 #include "support/FaultOf.h"
+#include "workbench/AskForFile.h"
 #include "workbench/charts/BarChart.h"
 #include "workbench/charts/CurveChart.h"
 
@@ -43,6 +44,40 @@ TEST(Charts, TellWhyTheyCannotBeSavedWhateverTheKind) {
     EXPECT_EQ(FaultOf([&] { chart.SavePicture(FromText(path)); }),
               "can't write " + path + ": No such file or directory");
   }
+}
+
+TEST(Charts, ALongLabelStaysWithinTheChartWhateverItsWidth) {
+  BarChart chart(nullptr);
+  const QString label = "weight of the attribute's step from worst to best, in steps of its group's reference";
+  chart.SetAxisLabel(label);
+  chart.SetRows({RowOf("A", 0.5, 0.75)});
+  for (const int width : {200, 340, 700}) {
+    chart.resize(width, 300);
+    chart.show();
+    QCoreApplication::processEvents();
+    const QStringList lines = chart.xAxis->label().split('\n');
+    EXPECT_LE(lines.size(), 2);
+    for (const QString& line : lines) EXPECT_LE(chart.fontMetrics().horizontalAdvance(line), width);
+  }
+  EXPECT_EQ(chart.xAxis->label(), label);
+}
+
+TEST(CurveChart, HasItsLegendOutsideTheCurve) {
+  CurveChart chart(nullptr);
+  CurvePicture picture;
+  picture.Name = "Doctors";
+  picture.Scale = {60.0, 15.0, {{15.0, 0.0}, {30.0, 0.75}, {60.0, 1.0}}};
+  picture.Points = picture.Scale.Curve;
+  chart.resize(400, 320);
+  chart.Show(picture);
+  chart.show();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(chart.legend->rect().intersects(chart.axisRect()->rect()));
+  EXPECT_LE(chart.legend->rect().right(), 400);
+}
+
+TEST(FileNames, HaveNoSignThatAFileCannotHave) {
+  EXPECT_EQ(AsFileName("2024-05-17 09:30, Dr. A/B: \"first\" try"), "2024-05-17 09-30, Dr. A-B- -first- try");
 }
 
 TEST(BarChart, TellsTheRowsInViewOnly) {

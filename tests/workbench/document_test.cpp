@@ -1,4 +1,7 @@
 #include "Window.h"
+#include "modelfiles/ModelWriter.h"
+#include "project/Exports.h"
+#include "runtime/CodePage.h"
 #include "workbench/FileActions.h"
 
 namespace Tarnwise {
@@ -99,6 +102,35 @@ TEST(Files, ThatCannotBeWrittenAreToldAndNothingIsLost) {
   EXPECT_FALSE(open.Window.Files().Save());
   EXPECT_EQ(open.Window.Work().Data().Name, "Mine");
   EXPECT_TRUE(open.Window.Work().IsChanged());
+}
+
+TEST(Files, OfModelsGiveTheirJudgmentsToTheProject) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("judged.kst");
+  WriteFileAtomically(ToText(path), ModelBytes(ModelOf(JudgedHospitals(), {false, 0}, SystemCodePage()).Model.Data));
+  OpenWindow open(HospitalsFromTable());
+  open.Window.ShowPage(PageKind::Judgments);
+  AnswerNext("Open", [&path](QDialog& dialog) { Find<QLineEdit>(dialog, "fileNameEdit").setText(path); });
+  QTest::mouseClick(&Find<QPushButton>(open.Window, "importJudgments"), Qt::LeftButton);
+  ASSERT_EQ(open.Window.Work().Data().Sessions.size(), 1U);
+  EXPECT_EQ(Find<QLineEdit>(open.Window, "note").text(), "from judged.kst");
+  EXPECT_EQ(Find<QTableWidget>(open.Window, "judgments").item(0, 2)->text(), "1 Doctors = 14.583 .. 19.882 Nurses");
+  open.Window.Work().Undo();
+  EXPECT_TRUE(open.Window.Work().Data().Sessions.empty());
+}
+
+TEST(Files, OfModelsWithOtherAttributesAreRefusedByName) {
+  OpenWindow open(HospitalsFromTable());
+  const QString path = TARNWISE_SAMPLES "/universities.kst";
+  QString said;
+  AnswerNext("Open", [&](QDialog& dialog) {
+    Find<QLineEdit>(dialog, "fileNameEdit").setText(path);
+    AnswerNext("OK", [&said](QDialog& fault) { said = static_cast<QMessageBox&>(fault).text(); });
+  });
+  EXPECT_FALSE(open.Window.Files().AskAndImportJudgments());
+  EXPECT_TRUE(said.contains("judges against \"Employment rate\"")) << said.toStdString();
+  EXPECT_TRUE(said.contains("Doctors, Nurses, Outpatients, Inpatients")) << said.toStdString();
+  EXPECT_TRUE(open.Window.Work().Data().Sessions.empty());
 }
 
 TEST(Window, AsksBeforeUnsavedChangesAreLost) {

@@ -57,5 +57,20 @@ TEST(Hints, OfATradeOffNameOnlyTheNeighbourThatBlocksIt) {
             "Inpatients must stay at or below 1.75: Surgery, on the next higher judged rank, is judged from 1.75 on.");
 }
 
+TEST(Meanings, AreSaidAsTheCommandSaysThem) {
+  Meaning meaning;
+  meaning.Attribute = "Doctors";
+  meaning.Scale = {55.0, 19.0, {}};
+  meaning.Reference = "Nurses";
+  meaning.ReferenceScale = {306.0, 131.0, {}};
+  EXPECT_EQ(MeaningText(meaning).toStdString(),
+            "1.5 means: Doctors from 55 to 19 is worth 1.5 times Nurses from 306 to 131.");
+  meaning.IsExample = true;
+  meaning.By = JudgedBy::TradeOffs;
+  EXPECT_EQ(MeaningText(meaning).toStdString(),
+            "Trade-offs: With Nurses as the reference 1.5 means: Doctors from 55 to 19 is worth 1.5 times Nurses from "
+            "306 to 131.");
+}
+
 }  // namespace
 }  // namespace Tarnwise

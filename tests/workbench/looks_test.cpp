@@ -3,6 +3,7 @@
 #include "Window.h"
 #include "workbench/ImportDialog.h"
 #include "workbench/JudgmentsPage.h"
+#include "workbench/WindowStyle.h"
 #include "workbench/charts/Chart.h"
 
 #include <cmath>
@@ -145,6 +146,15 @@ TEST(WorkbenchLook, PagesOnALightPalette) { LookAtPages("light"); }
 TEST(WorkbenchLook, PagesOnADarkPalette) { LookAtPagesOn(Dark(), "dark"); }
 
 TEST(WorkbenchLook, PagesInHighContrast) { LookAtPagesOn(HighContrast(), "contrast"); }
+
+TEST(WorkbenchLook, OutlinesAreAddedInHighContrastOnlyAndToWhatIsOffToo) {
+  EXPECT_FALSE(IsHighContrast(QApplication::palette()));
+  EXPECT_FALSE(IsHighContrast(Dark()));
+  QPalette palette = HighContrast();
+  EXPECT_TRUE(IsHighContrast(palette));
+  palette.setCurrentColorGroup(QPalette::Disabled);
+  EXPECT_TRUE(IsHighContrast(palette));
+}
 
 TEST(WorkbenchLook, InksOfChartsAreReadableOnAllPalettes) {
   for (const QPalette& palette : {QApplication::palette(), Dark(), HighContrast()}) {

@@ -1,7 +1,8 @@
 #include "Window.h"
+#include "project/ResultsWords.h"
 #include "workbench/DataModel.h"
 #include "workbench/Edits.h"
-#include "workbench/ResultsModel.h"
+#include "workbench/ResultsBars.h"
 
 #include <QAbstractItemModelTester>
 
@@ -140,6 +141,55 @@ TEST(ResultsModel, TellsWhenEveryUnitPicksItsOwnWeights) {
   EXPECT_EQ(
       SummaryText(*Evaluated(project)),
       "2 of 2 units are efficient without judgments: 4 attributes for 2 units let every unit pick its own weights.");
+}
+
+TEST(ResultsModel, SaysWhatIsToBeKnownBesidesByItsKind) {
+  Project project = JudgedHospitals();
+  project.Columns[0].Values[3] = 0.0;
+  project.Columns[1].Values[4].reset();
+  project.Sessions[0].Attributes[1].High = 0.0;
+  const SharedEvaluation evaluation = Evaluated(project);
+  QStringList notes;
+  for (const Dea::Note& note : evaluation->Results.Notes) notes += NoteText(*evaluation, note);
+  EXPECT_TRUE(notes.contains("Inpatients: the high bound is zero and counts as none."))
+      << notes.join('\n').toStdString();
+  EXPECT_TRUE(notes.join('\n').contains("Doctors is zero for Hospital D: as long as"))
+      << notes.join('\n').toStdString();
+  ASSERT_EQ(evaluation->Results.LeftOut.size(), 1U);
+  EXPECT_EQ(ReasonText(*evaluation, evaluation->Results.LeftOut[0]), "no value in column Nurses");
+}
+
+TEST(ResultsModel, ShowsDistancesOfTheValueFormAsFarAsTheyHaveDigits) {
+  Project project = JudgedHospitals();
+  project.Use = ProjectUse();
+  project.Use->Form = ScoreForm::Value;
+  const SharedEvaluation evaluation = Evaluated(project);
+  ResultsModel model;
+  model.Show(evaluation);
+  const auto head = [&model](int column) {
+    return model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  };
+  ASSERT_EQ(head(3), "Distance");
+  for (int row = 0; row < model.rowCount(); ++row) {
+    EXPECT_EQ(ToText(model.index(row, 3).data().toString()),
+              DistanceText(evaluation->Results.Units[static_cast<std::size_t>(row)].Distance));
+  }
+}
+
+TEST(ResultsBars, OfRanksHaveThoseSeenBelowWhereTheyAreFewer) {
+  const SharedEvaluation evaluation = Evaluated(JudgedHospitals());
+  ASSERT_TRUE(HasRanks(*evaluation));
+  Dea::UnitResult unit = evaluation->Results.Units[1];
+  unit.Ranks = Dea::RankRange{3, 7};
+  unit.RanksSeen = Dea::RankRange{4, 6};
+  const BarRow row = BarRowOf(*evaluation, unit, BarKind::Ranks);
+  EXPECT_EQ(row.First.Low, 3.0);
+  EXPECT_EQ(row.First.High, 7.0);
+  EXPECT_EQ(row.Second.Low, 4.0);
+  EXPECT_FALSE(row.Second.IsNothing);
+  EXPECT_EQ(row.Value, "ranks 3–7, seen 4–6");
+  unit.RanksSeen = unit.Ranks;
+  EXPECT_TRUE(BarRowOf(*evaluation, unit, BarKind::Ranks).Second.IsNothing);
 }
 
 }  // namespace

@@ -215,10 +215,16 @@ TEST(Newcomer, GetsFromATableToJudgedRangesAndAPicture) {
 
 TEST(Newcomer, WhoEndsTheWizardKeepsWhatWasThere) {
   OpenWindow open;
+  ASSERT_TRUE(AwaitResults(open.Window));
+  open.Window.ShowPage(PageKind::Report);
   AnswerNext("Ignore", [](QDialog&) { AnswerNext("Begin"); });
   open.Window.ShowPage(PageKind::Judgments);
   QTest::mouseClick(&Find<QPushButton>(open.Window, "elicit"), Qt::LeftButton);
   ASSERT_NE(open.Window.Wizard(), nullptr);
+  // Who sees the scores move judges for a score.
+  EXPECT_EQ(open.Window.Results().Shown(), nullptr);
+  EXPECT_TRUE(Find<QTextBrowser>(open.Window, "reportPreview").toPlainText().isEmpty());
+  EXPECT_FALSE(Find<QWidget>(open.Window, "reportPage").isEnabled());
   EXPECT_FALSE(open.Window.close());
   ASSERT_TRUE(QTest::qWaitFor([&] { return open.Window.Wizard() == nullptr; }, kPatience));
   EXPECT_EQ(open.Window.Work().Data(), JudgedHospitals());

@@ -5,6 +5,7 @@
 #include "workbench/ReportDocument.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPdfWriter>
 #include <QTextTable>
 
 namespace Tarnwise {
@@ -103,6 +104,35 @@ TEST(Pages, DoNotEndWithAHeadingWhateverStandsAboveIt) {
     if (alone) ++moved;
   }
   EXPECT_GT(moved, 1);
+}
+
+// Where each block stands, in the order of the text.
+std::vector<double> PlacesIn(const QTextDocument& document) {
+  std::vector<double> places;
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    places.push_back(document.documentLayout()->blockBoundingRect(block).top());
+  }
+  return places;
+}
+
+TEST(Pages, OfAReportAreThoseOfAWholeLayoutAndHoldAllOfItInItsOrder) {
+  const Report report = ReportNow(FoundOf(JudgedHospitals()));
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter paper(&buffer);
+  for (int height = 9000; height < 15000; height += 517) {
+    QTextDocument document;
+    FillReport(report, document);
+    document.documentLayout()->setPaintDevice(&paper);
+    document.setPageSize(QSizeF(9920, height));
+    KeepHeadingsWithWhatFollows(document);
+    const std::vector<double> places = PlacesIn(document);
+    EXPECT_TRUE(std::is_sorted(places.begin(), places.end())) << height;
+    EXPECT_LT(places.back(), document.pageCount() * height);
+    document.setPageSize(QSizeF(9920, height + 1));
+    document.setPageSize(QSizeF(9920, height));
+    EXPECT_EQ(PlacesIn(document), places) << height;
+  }
 }
 
 }  // namespace

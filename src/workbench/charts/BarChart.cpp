@@ -120,7 +120,7 @@ void BarChart::SetLogarithmic(bool on) {
   xAxis->setTicker(ticker);
 }
 
-void BarChart::SetAxisLabel(const QString& label) { xAxis->setLabel(label); }
+void BarChart::SetAxisLabel(const QString& label) { SetXLabel(label); }
 
 void BarChart::SetReferenceLine(std::optional<double> at) {
   reference_->setVisible(at.has_value());

@@ -25,6 +25,14 @@ QColor Mixed(const QColor& a, const QColor& b, double shareOfB) {
   return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
+QString InTwoLines(const QString& text, const QFontMetrics& metrics, int width) {
+  qsizetype stop = text.size();
+  while (stop > 0 && metrics.horizontalAdvance(text.left(stop)) > width) stop = text.lastIndexOf(' ', stop - 1);
+  if (stop == text.size()) return text;
+  if (stop <= 0) return metrics.elidedText(text, Qt::ElideMiddle, width);
+  return text.left(stop) + "\n" + metrics.elidedText(text.mid(stop + 1), Qt::ElideRight, width);
+}
+
 void ColourAxis(QCPAxis& axis, const ChartInk& ink, const QFont& font) {
   axis.setBasePen(QPen(ink.Faint));
   axis.setTickPen(QPen(ink.Faint));
@@ -102,10 +110,23 @@ QByteArray Chart::Picture(const QString& ending, const QSize& size) {
   return bytes;
 }
 
-void Chart::AddTitle() {
+void Chart::SetXLabel(const QString& label) {
+  xLabel_ = label;
+  FitXLabel(width());
+}
+
+void Chart::FitXLabel(int width) {
+  const QMargins margins = axisRect()->margins();
+  xAxis->setLabel(InTwoLines(xLabel_, fontMetrics(), width - margins.left() - margins.right()));
+}
+
+void Chart::AddTitle(int width) {
   if (title_.isEmpty()) return;
+  constexpr int kMargins = 24;
   plotLayout()->insertRow(0);
-  auto* const title = new QCPTextElement(this, title_, QFont(font().family(), font().pointSize() + 1, QFont::Bold));
+  const QFont bold(font().family(), font().pointSize() + 1, QFont::Bold);
+  const QString text = QFontMetrics(bold).elidedText(title_, Qt::ElideRight, width - kMargins);
+  auto* const title = new QCPTextElement(this, text, bold);
   plotLayout()->addElement(0, 0, title);
 }
 
@@ -121,11 +142,13 @@ void Chart::SavePicture(const QString& path) {
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   const QSize size = BeginPicture();
-  AddTitle();
+  AddTitle(size.width());
+  FitXLabel(size.width());
   Colour(InkFor(paper));
   const QByteArray bytes = Picture(QFileInfo(path).suffix().toLower(), size);
   RemoveTitle();
   EndPicture();
+  FitXLabel(width());
   Colour(Ink());
   replot();
   if (bytes.isEmpty()) throw ModelFault(ToText(tr("%1 could not be drawn").arg(path)));
@@ -209,6 +232,12 @@ void Chart::contextMenuEvent(QContextMenuEvent* event) {
   menu.addAction(tr("Zoom out") + "\t-", this, [this] { ZoomBy(1.25); });
   menu.addAction(tr("Show all") + "\t0", this, [this] { ShowAll(); });
   menu.exec(event->globalPos());
+}
+
+void Chart::resizeEvent(QResizeEvent* event) {
+  QCustomPlot::resizeEvent(event);
+  FitXLabel(width());
+  replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Chart::focusInEvent(QFocusEvent* event) {

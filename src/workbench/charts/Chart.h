@@ -44,6 +44,9 @@ class Chart : public QCustomPlot {
   // Asks for the file; tells why it can't be written.
   void AskAndSave();
 
+  // Below the chart, in two lines at most; shortened where they do not hold it.
+  void SetXLabel(const QString& label);
+
   void ZoomBy(double factor);  // around the middle
   virtual void ShowAll() = 0;
 
@@ -57,6 +60,7 @@ class Chart : public QCustomPlot {
   void TellReaders();
 
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -70,10 +74,12 @@ class Chart : public QCustomPlot {
   void AdjustToScreen();
   void Draw(QPaintDevice& on, const QSize& size);
   QByteArray Picture(const QString& ending, const QSize& size);
-  void AddTitle();
+  void AddTitle(int width);
+  void FitXLabel(int width);
   void RemoveTitle();
 
   QString title_;
+  QString xLabel_;
 };
 
 // The values of the charts' items for readers of the screen. Asked for once, before the first chart.

@@ -72,9 +72,21 @@ CurveChart::CurveChart(QWidget* parent) : Chart(parent) {
   points_->setName(tr("points"));
   chosen_->removeFromLegend();
   legend->setVisible(true);
-  axisRect()->insetLayout()->setInsetAlignment(0, Qt::AlignLeft | Qt::AlignTop);
+  PutLegendAbove();
   setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
   yAxis->setLabel(tr("value"));
+}
+
+// Within the chart it would cover some curve or other.
+void CurveChart::PutLegendAbove() {
+  constexpr int kInARow = 5;
+  axisRect()->insetLayout()->take(legend);
+  plotLayout()->insertRow(0);
+  plotLayout()->addElement(0, 0, legend);
+  plotLayout()->setRowStretchFactor(0, 0.001);
+  legend->setWrap(kInARow);
+  legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+  legend->setMargins(QMargins(4, 2, 4, 2));
 }
 
 void CurveChart::Show(CurvePicture picture) {
@@ -82,7 +94,7 @@ void CurveChart::Show(CurvePicture picture) {
   dragging_ = false;
   dragged_ = picture_.Points;
   selected_ = std::clamp(selected_, 0, std::max(0, static_cast<int>(picture_.Points.size()) - 1));
-  xAxis->setLabel(picture_.Unit.isEmpty() ? picture_.Name : picture_.Name + " (" + picture_.Unit + ")");
+  SetXLabel(picture_.Unit.isEmpty() ? picture_.Name : picture_.Name + " (" + picture_.Unit + ")");
   ShowAll();
   Draw();
   TellReaders();
@@ -169,7 +181,7 @@ void CurveChart::Recolour(const ChartInk& ink) {
   chosen_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssSquare, ink.Strong, ink.Strong, 11));
   legend->setBrush(QBrush(ink.Paper));
   legend->setTextColor(ink.Text);
-  legend->setBorderPen(QPen(ink.Faint));
+  legend->setBorderPen(Qt::NoPen);
   legend->setFont(font());
 }
 

@@ -49,6 +49,7 @@ class CurveChart : public Chart {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void PutLegendAbove();
   void Draw();
   void DrawFalls(const ColumnScale& scale);
   void DrawUnits();

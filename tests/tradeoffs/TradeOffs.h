@@ -86,13 +86,16 @@ inline String Axes(const ChartScale& s) {
 // "60 40 | 40 80".
 inline String AAndB(const ABPoint& p) { return XY(p.AX, p.AY) + " | " + XY(p.BX, p.BY); }
 
-// A and B too. "60 40 across 58 40 to 62 40 | 40 80": A is uncertain, with its two corners where they are
-// not A itself.
+inline String OneOf(const Lines& names, int number) {
+  return number >= 0 && number < static_cast<int>(names.size()) ? names[static_cast<std::size_t>(number)]
+                                                                : " number " + std::to_string(number);
+}
+
+// A and B too. "60 40 across 58 40 to 62 40 | 40 80": A is uncertain, with its two corners where they are not A itself.
 inline String Scores(const ABPoint& p) {
-  const char* const ways[] = {"", " across", " upward"};
   const bool atA = p.ALX == p.AX && p.AUX == p.AX && p.ALY == p.AY && p.AUY == p.AY;
-  return XY(p.AX, p.AY) + ways[p.AOrientation] + (atA ? "" : " " + XY(p.ALX, p.ALY) + " to " + XY(p.AUX, p.AUY)) +
-         " | " + XY(p.BX, p.BY);
+  return XY(p.AX, p.AY) + OneOf({"", " across", " upward"}, p.AOrientation) +
+         (atA ? "" : " " + XY(p.ALX, p.ALY) + " to " + XY(p.AUX, p.AUY)) + " | " + XY(p.BX, p.BY);
 }
 
 // "60.5 40 | 20 48.25 | 40.5 -8.25": A's boxes, B's boxes, their differences.
@@ -160,8 +163,7 @@ struct TradeOffStep : OpenForm<frmTradeOffsB> {
 
   // "2.00/1,    2.00/1 consistent": the ratio on the screen and what it is judged to be.
   String Verdict() {
-    const char* const states[] = {"undecided", "invalid", "consistent", "inconsistent"};
-    return Ratio() + " " + states[Form->mJudgmentState];
+    return Ratio() + OneOf({" undecided", " invalid", " consistent", " inconsistent"}, Form->mJudgmentState);
   }
 
   // "Enter Next ": of Enter, ReStart, Next and Finish those that are enabled.

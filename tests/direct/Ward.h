@@ -12,6 +12,7 @@
 
 #include "runtime/Text.h"
 #include "support/Ranked.h"
+#include "view/Controls.h"
 
 namespace Tarnwise {
 
@@ -52,6 +53,21 @@ inline String Enter(Item item, int up0, int up1) { return Choose(item) + Wedge(u
 // All judged: Care 1.2 to 1.5, Doctors 1.3 to 1.4, Research and Rest 0.3 to 0.6, Night 0.7.
 inline String JudgeAll() {
   return Enter(kCare, 120, 150) + Enter(kDoctors, 130, 140) + Enter(kResearch, 30, 60) + Enter(kNight, 70, 70);
+}
+
+// "Benefit1|Beds|Smiling2|Smiling2": key, text and pictures of each item of the target list.
+inline Lines Shown(const ImageCombo& list) {
+  Lines items;
+  for (const auto& item : list.Items) {
+    items.push_back(item.Key + "|" + item.Text + "|" + item.Picture + "|" + item.SelectedPicture);
+  }
+  return items;
+}
+
+inline Lines Texts(const ImageCombo& list) {
+  Lines texts;
+  for (const auto& item : list.Items) texts.push_back(item.Text);
+  return texts;
 }
 
 }  // namespace Tarnwise

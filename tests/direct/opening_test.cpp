@@ -75,9 +75,9 @@ TEST(Opening, LabelsTheBoxesAndTheRanges) {
 TEST(Opening, KeysTheTabsByTheirNames) {
   OpenForm<frmDirectB> step(WardData());
   step.Open();
-  ASSERT_EQ(step.Form->tsTab.Tabs.size(), 2U);
-  EXPECT_EQ(step.Form->tsTab.Tabs[0].Key, "PreOrder");
-  EXPECT_EQ(step.Form->tsTab.Tabs[1].Key, "PerfRange");
+  Lines keys;
+  for (const auto& tab : step.Form->tsTab.Tabs) keys.push_back(tab.Key);
+  EXPECT_EQ(keys, (Lines{"PreOrder", "PerfRange"}));
 }
 
 TEST(Opening, HasTheChartsGridAndItsNumbers) {
@@ -95,16 +95,10 @@ TEST(Opening, HasTheChartsGridAndItsNumbers) {
   }
 }
 
-String Show(const ImageCombo::Item& item) {
-  return item.Key + "|" + item.Text + "|" + item.Picture + "|" + item.SelectedPicture;
-}
-
 TEST(TargetList, NumbersEachGroupFromOneAndMarksTheReferencesByTheirPictures) {
   OpenForm<frmDirectB> step(WardData());
   step.Open();
-  Lines items;
-  for (const auto& item : step.Form->imgcmbTargetAtt.Items) items.push_back(Show(item));
-  EXPECT_EQ(items,
+  EXPECT_EQ(Shown(step.Form->imgcmbTargetAtt),
             (Lines{"Benefit1|Beds|Smiling2|Smiling2", "Cost1|Doctors|Crying|Crying1", "Benefit2|Care|Smiling|Smiling1",
                    "Cost2|Nurses|Crying2|Crying2", "Benefit3|Research|Smiling|Smiling1", "Cost3|Night|Crying|Crying1",
                    "Benefit4|Rest|Smiling|Smiling1"}));
@@ -115,11 +109,11 @@ TEST(TargetList, CountsAnAttributeOfNeitherGroupAsCost) {
   data.AttributeList.AttOrientation[4] = "2";
   OpenForm<frmDirectB> step(data);
   step.Open();
-  EXPECT_EQ(Show(step.Form->imgcmbTargetAtt.Items[4]), "Cost3|Research|Crying|Crying1");
-  EXPECT_EQ(Show(step.Form->imgcmbTargetAtt.Items[5]), "Cost4|Night|Crying|Crying1");
-  EXPECT_EQ(Show(step.Form->imgcmbTargetAtt.Items[6]), "Benefit3|Rest|Smiling|Smiling1");
-  EXPECT_EQ(step.Data.BRankCount, 3);
-  EXPECT_EQ(step.Data.CRankCount, 4);
+  EXPECT_EQ(Shown(step.Form->imgcmbTargetAtt),
+            (Lines{"Benefit1|Beds|Smiling2|Smiling2", "Cost1|Doctors|Crying|Crying1", "Benefit2|Care|Smiling|Smiling1",
+                   "Cost2|Nurses|Crying2|Crying2", "Cost3|Research|Crying|Crying1", "Cost4|Night|Crying|Crying1",
+                   "Benefit3|Rest|Smiling|Smiling1"}));
+  EXPECT_EQ(std::pair(step.Data.BRankCount, step.Data.CRankCount), std::pair(Integer{3}, Integer{4}));
   EXPECT_EQ(step.Form->mTargetAtt, 1);
 }
 
@@ -140,9 +134,8 @@ TEST(TargetList, MarksWhatIsDoneBeforeTheNameAsItIsStoredButNeverAReference) {
   Judge(data, 6, 0.3, 0.4);
   OpenForm<frmDirectB> step(data);
   step.Open();
-  Lines texts;
-  for (const auto& item : step.Form->imgcmbTargetAtt.Items) texts.push_back(item.Text);
-  EXPECT_EQ(texts, (Lines{"Beds", "Doctors", " ¤  Care ", "Nurses", "Research", "Night", " ¤ Rest "}));
+  EXPECT_EQ(Texts(step.Form->imgcmbTargetAtt),
+            (Lines{"Beds", "Doctors", " ¤  Care ", "Nurses", "Research", "Night", " ¤ Rest "}));
 }
 
 TEST(TargetList, MarksAnAttributeOfTheReferencesRankFromTheStart) {
@@ -176,19 +169,17 @@ TEST(Pair, TakesItsMarksFromTheFourStoredPictures) {
   step.Open();
   const auto& chart = step.Form->Chart;
   ASSERT_EQ(chart.imgMarks.Count(), 4);
-  const auto choose = [&step](Item item) {
+  const auto marksOf = [&step, &chart](Item item) {
     step.Form->imgcmbTargetAtt.SelectedItem = item;
     step.Form->imgcmbTargetAtt.Click();
+    return chart.imgTargetAtt.Picture() + "|" + chart.imgRefAtt.Picture();
   };
-  choose(kCare);
-  EXPECT_EQ(chart.imgTargetAtt.Picture(), chart.imgMarks[0].Picture());
-  EXPECT_EQ(chart.imgRefAtt.Picture(), chart.imgMarks[1].Picture());
-  choose(kNight);
-  EXPECT_EQ(chart.imgTargetAtt.Picture(), chart.imgMarks[2].Picture());
-  EXPECT_EQ(chart.imgRefAtt.Picture(), chart.imgMarks[3].Picture());
-  choose(kNurses);
-  EXPECT_EQ(chart.imgTargetAtt.Picture(), chart.imgMarks[3].Picture());
-  EXPECT_EQ(chart.imgRefAtt.Picture(), chart.imgMarks[1].Picture());
+  const auto stored = [&chart](int target, int reference) {
+    return chart.imgMarks[target].Picture() + "|" + chart.imgMarks[reference].Picture();
+  };
+  EXPECT_EQ(marksOf(kCare), stored(0, 1));
+  EXPECT_EQ(marksOf(kNight), stored(2, 3));
+  EXPECT_EQ(marksOf(kNurses), stored(3, 1));
 }
 
 TEST(Pair, ShowsRangesWorstFirstForABenefitTargetAndBestFirstForACostTarget) {

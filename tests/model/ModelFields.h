@@ -111,4 +111,14 @@ class FieldWalk {
   bool going_ = true;
 };
 
+// The first field that differs, "AttName 3"; empty where none does.
+inline String DifferingField(const WizardData& a, const WizardData& b) {
+  String first;
+  FieldWalk([&first](const FieldPair& pair) {
+    if (!pair.Same) first = String(pair.Field) + " " + std::to_string(pair.Number);
+    return pair.Same;
+  }).Items(a, b);
+  return first;
+}
+
 }  // namespace Tarnwise

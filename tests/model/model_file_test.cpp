@@ -162,12 +162,7 @@ TEST_F(ModelFile, SecondShorterFileLeavesNothingOfTheFirst) {
   Read();
   WizardData fresh;
   ReadModel(fresh, file.Bytes);
-  String left;
-  FieldWalk([&](const FieldPair& pair) {
-    if (!pair.Same) left = String(pair.Field) + " " + std::to_string(pair.Number);
-    return pair.Same;
-  }).Items(data, fresh);
-  EXPECT_EQ(left, "");
+  EXPECT_EQ(DifferingField(data, fresh), "");
   EXPECT_EQ(data.NumAtts(), 2);
   ExpectEmptyJudgments();
 }

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
+
 namespace Tarnwise {
 
 inline void GiveCurve(WizardData& data, int att, const std::vector<Double>& x, const std::vector<Double>& y) {
@@ -66,6 +68,89 @@ inline std::vector<int> SettledByPoint(WizardData& data, int target, const Strin
   return settled;
 }
 
+// What a test compares, as one text.
+
+// The shortest text that reads back to the same number.
+inline String Exactly(Single x) {
+  char text[32];
+  return {text, std::to_chars(text, text + sizeof text, x).ptr};
+}
+
+inline String XY(Single x, Single y) { return Exactly(x) + " " + Exactly(y); }
+
+// "20 80 by 10, 0 300 by 50": the scale across and the one upward.
+inline String Axes(const ChartScale& s) {
+  return XY(s.XMin, s.XMax) + " by " + Exactly(s.XStep) + ", " + XY(s.YMin, s.YMax) + " by " + Exactly(s.YStep);
+}
+
+// "60 40 | 40 80".
+inline String AAndB(const ABPoint& p) { return XY(p.AX, p.AY) + " | " + XY(p.BX, p.BY); }
+
+inline String OneOf(const Lines& names, int number) {
+  return number >= 0 && number < static_cast<int>(names.size()) ? names[static_cast<std::size_t>(number)]
+                                                                : " number " + std::to_string(number);
+}
+
+// A and B too. "60 40 across 58 40 to 62 40 | 40 80": A is uncertain, with its two corners where they are not A itself.
+inline String Scores(const ABPoint& p) {
+  const bool atA = p.ALX == p.AX && p.AUX == p.AX && p.ALY == p.AY && p.AUY == p.AY;
+  return XY(p.AX, p.AY) + OneOf({"", " across", " upward"}, p.AOrientation) +
+         (atA ? "" : " " + XY(p.ALX, p.ALY) + " to " + XY(p.AUX, p.AUY)) + " | " + XY(p.BX, p.BY);
+}
+
+// "60.5 40 | 20 48.25 | 40.5 -8.25": A's boxes, B's boxes, their differences.
+inline String Shown(const ScoreControls& c) {
+  return c.txtTradeOffAFirstScore.Text() + " " + c.txtTradeOffASecondScore.Text() + " | " +
+         c.txtTradeOffBFirstScore.Text() + " " + c.txtTradeOffBSecondScore.Text() + " | " +
+         c.labTradeOffDiff1.Caption() + " " + c.labTradeOffDiff2.Caption();
+}
+
+// "925,625": Left and Top.
+inline String Place(const Control& control) { return Exactly(control.Left) + "," + Exactly(control.Top); }
+
+inline String ColourName(Colour colour) {
+  switch (colour) {
+    case 0x00FF00: return "green";
+    case 0x808080: return "out";
+    case 0x000808: return "black";
+    case 0x00FFFF: return "yellow";
+    case 0xFFFFFF: return "white";
+    case 0x004080: return "brown";
+    case 0x0080FF: return "orange";
+    default: return std::to_string(colour);
+  }
+}
+
+// "green* out out | 0": the lights Consistent, Invalid, Inconsistent, and the timer. * where the caption is highlighted
+// (it is black else), (green) where light and caption are hidden.
+inline String Shown(const LightControls& c) {
+  String text;
+  for (int i = 0; i < 3; ++i) {
+    const Colour fore = c.lblAlarm[i].ForeColor;
+    String light = ColourName(c.shpAlarm[i].FillColor);
+    if (fore != 0) light += fore == 0x8000000E ? "*" : "*" + std::to_string(fore);
+    if (!c.shpAlarm[i].Visible) light = "(" + light + ")";
+    if (c.shpAlarm[i].Visible != c.lblAlarm[i].Visible) light += " with its caption otherwise";
+    text += light + " ";
+  }
+  return text + "| " + std::to_string(c.Timer1.Interval);
+}
+
+// "left right:MovRight | across": the movers that can be pressed, by their one key where not both can, and the list of
+// step sizes that is shown.
+inline String Shown(const UncertaintyControls& c) {
+  String text;
+  const std::pair<const char*, const Toolbar*> movers[] = {
+      {"left", &c.tbMovLeft}, {"right", &c.tbMovRight}, {"up", &c.tbMovUp}, {"down", &c.tbMovDown}};
+  for (const auto& [name, toolbar] : movers) {
+    const bool first = toolbar->Enabled && toolbar->Buttons[0].Enabled;
+    const bool second = toolbar->Enabled && toolbar->Buttons[1].Enabled;
+    if (!first && !second) continue;
+    text += String(name) + (first && second ? "" : ":" + toolbar->Buttons[first ? 0 : 1].Key) + " ";
+  }
+  return text + "|" + (c.cmbChangeH.Visible ? " across" : "") + (c.cmbChangeV.Visible ? " upward" : "");
+}
+
 // The step opened on a model. Scores are moved by dropping marks and by typing, as a user would.
 struct TradeOffStep : OpenForm<frmTradeOffsB> {
   explicit TradeOffStep(const WizardData& model) : OpenForm(model) { Open(); }
@@ -75,6 +160,31 @@ struct TradeOffStep : OpenForm<frmTradeOffsB> {
   const ABPoint& Record(int att) { return Data.ABPoints2[att]; }
   String Ratio() { return Form->lblWeightRatio.Caption; }
   bool EnterAllowed() { return Form->cmdEnter.Enabled; }
+
+  // "2.00/1,    2.00/1 consistent": the ratio on the screen and what it is judged to be.
+  String Verdict() {
+    return Ratio() + OneOf({" undecided", " invalid", " consistent", " inconsistent"}, Form->mJudgmentState);
+  }
+
+  // "Enter Next ": of Enter, ReStart, Next and Finish those that are enabled.
+  String Allowed() {
+    const frmTradeOffsB& f = *Form;
+    return String(f.cmdEnter.Enabled ? "Enter " : "") + (f.cmdReStart.Enabled ? "ReStart " : "") +
+           (f.cmdNext.Enabled ? "Next " : "") + (f.cmdFinish.Enabled ? "Finish " : "");
+  }
+
+  // The texts of the target list.
+  Lines Items() {
+    Lines texts;
+    for (const auto& item : Form->imgcmbTargetAtt.Items) texts.push_back(item.Text);
+    return texts;
+  }
+
+  // "0 against 1, item 1": target, reference, selected item.
+  String Target() {
+    return std::to_string(Form->mTargetAtt) + " against " + std::to_string(Form->mRefAtt) + ", item " +
+           std::to_string(Form->imgcmbTargetAtt.SelectedItem);
+  }
 
   // Attribute ids, not items.
   void Choose(int att) {

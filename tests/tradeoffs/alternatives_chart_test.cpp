@@ -37,10 +37,7 @@ struct OnePlot : PartOnScreen<PlotForm> {
 
 TEST(AlternativesChart, SpansTheScoresOfThePairInSixSteps) {
   OnePlot o;
-  const ChartScale& s = o.Form->Chart.Scale;
-  String text;
-  for (const Single score : {s.XMin, s.XMax, s.XStep, s.YMin, s.YMax, s.YStep}) text += NumberText(score) + " ";
-  EXPECT_EQ(text, "20 80 10 0 300 50 ");
+  EXPECT_EQ(Axes(o.Form->Chart.Scale), "20 80 by 10, 0 300 by 50");
   EXPECT_EQ(o.Form->Controls.lblTradeOffFirstAtt.Caption(), "Att 0");
   EXPECT_EQ(o.Form->Controls.lblTradeOffSecondAtt.Caption(), "Att 1");
 }

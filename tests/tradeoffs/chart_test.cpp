@@ -1,8 +1,5 @@
 #include "TradeOffs.h"
 
-#include "runtime/Numbers.h"
-#include "runtime/Text.h"
-
 namespace Tarnwise {
 namespace {
 
@@ -21,10 +18,7 @@ Lines TicksOf(Double low, Double high) {
 
 TEST(ChartScale, IsComputedInSingles) {
   TradeOffStep step(Ward());
-  EXPECT_EQ(step.Form->Plot.Scale.XMin, 0.0F);
-  EXPECT_EQ(step.Form->Plot.Scale.XMax, 100.0F);
-  EXPECT_EQ(step.Form->Plot.Scale.XStep, 100.0F / 6.0F);
-  EXPECT_EQ(step.Form->Plot.Scale.YStep, 100.0F / 6.0F);
+  EXPECT_EQ(Axes(step.Form->Plot.Scale), "0 100 by 16.666666, 0 100 by 16.666666");
   EXPECT_EQ(Captions(step.Form->Chart.labPCX), (Lines{"0", "16", "33", "50", "66", "83", "100"}));
   EXPECT_EQ(Captions(step.Form->Chart.labPCY), (Lines{"0", "16", "33", "50", "66", "83", "100"}));
 }
@@ -103,12 +97,14 @@ struct Corner {
 void ExpectCorner(const TradeOffStep& step, const Shape& mark, const Label& caption, Corner corner) {
   const PictureBox& plot = step.Form->Chart.picTradeOffsRange;
   const PictureBox& graph = step.Form->Chart.picPCGraph;
-  EXPECT_EQ(mark.Left + mark.Width / 2.0F, corner.Left ? plot.Left() : plot.Left + plot.Width) << mark.Name;
-  EXPECT_EQ(mark.Top + mark.Height / 2.0F, corner.Top ? plot.Top() : plot.Top + plot.Height) << mark.Name;
+  EXPECT_EQ(XY(mark.Left + mark.Width / 2.0F, mark.Top + mark.Height / 2.0F),
+            XY(corner.Left ? plot.Left() : plot.Left + plot.Width, corner.Top ? plot.Top() : plot.Top + plot.Height))
+      << mark.Name;
   const bool worstBottomLeft = caption.Name == "labPCLowest" && !corner.Top && corner.Left;
   const Single atLeft = worstBottomLeft ? 0.0F : 10.0F;
-  EXPECT_EQ(caption.Left(), corner.Left ? atLeft : graph.Width - caption.Width - 120.0F) << caption.Name;
-  EXPECT_EQ(caption.Top(), corner.Top ? 0.0F : graph.Height - caption.Height - 90.0F) << caption.Name;
+  EXPECT_EQ(XY(caption.Left, caption.Top), XY(corner.Left ? atLeft : graph.Width - caption.Width - 120.0F,
+                                              corner.Top ? 0.0F : graph.Height - caption.Height - 90.0F))
+      << caption.Name;
 }
 
 void ExpectCorners(const TradeOffStep& step, Corner best, Corner worst) {
@@ -152,10 +148,8 @@ TEST(ChartMarks, StandWithTheirCentreOnTheirScores) {
   step.Fill(step.Form->Scores.txtTradeOffBSecondScore, "10");
   step.Return();
   const AlternativesControls& chart = step.Form->Chart;
-  EXPECT_EQ(chart.shpPCA.Left(), 25.0F * 42.0F - 75.0F);
-  EXPECT_EQ(chart.shpPCA.Top(), 50.0F * 42.0F - 75.0F);
-  EXPECT_EQ(chart.shpPCB.Left(), 75.0F * 42.0F - 75.0F);
-  EXPECT_EQ(chart.shpPCB.Top(), 90.0F * 42.0F - 75.0F);
+  // 42 twips a score, 75 for half a mark.
+  EXPECT_EQ(Place(chart.shpPCA) + " " + Place(chart.shpPCB), "975,2025 3075,3705");
 }
 
 TEST(ChartMarks, AtTheLowestAndHighestScoreStandHalfOutsideOfThePlot) {
@@ -163,8 +157,7 @@ TEST(ChartMarks, AtTheLowestAndHighestScoreStandHalfOutsideOfThePlot) {
   step.Fill(step.Form->Scores.txtTradeOffAFirstScore, "0");
   step.Fill(step.Form->Scores.txtTradeOffASecondScore, "100");
   step.Return();
-  EXPECT_EQ(step.Form->Chart.shpPCA.Left(), -75.0F);
-  EXPECT_EQ(step.Form->Chart.shpPCA.Top(), -75.0F);
+  EXPECT_EQ(Place(step.Form->Chart.shpPCA), "-75,-75");
 }
 
 TEST(ChartMarks, AreShownInFrontAndTaggedWithTheirPoint) {
@@ -181,36 +174,27 @@ TEST(ChartMarks, AreShownInFrontAndTaggedWithTheirPoint) {
 TEST(DropInThePlot, MovesTheMarkAndTakesBothScores) {
   TradeOffStep step(Ward());
   step.DropInPlot(step.Form->Chart.shpPCA, 1000.0F, 700.0F);
-  EXPECT_EQ(step.Form->Chart.shpPCA.Left(), 925.0F);
-  EXPECT_EQ(step.Form->Chart.shpPCA.Top(), 625.0F);
+  EXPECT_EQ(Place(step.Form->Chart.shpPCA), "925,625");
   // 1000 / 42 and 100 - 700 / 42 at four decimals.
-  EXPECT_EQ(step.Points().AX, 23.8095F);
-  EXPECT_EQ(step.Points().AY, 83.3333F);
-  EXPECT_EQ(step.Form->Scores.txtTradeOffAFirstScore.Text(), "23.81");
-  EXPECT_EQ(step.Form->Scores.txtTradeOffASecondScore.Text(), "83.33");
+  const ABPoint& p = step.Points();
+  EXPECT_EQ(Scores(p), "23.8095 83.3333 | " + XY(p.BX, p.BY));
+  EXPECT_TRUE(Shown(step.Form->Scores).starts_with("23.81 83.33 | ")) << Shown(step.Form->Scores);
 }
 
 TEST(DropInThePlot, OfBTakesBsScores) {
   TradeOffStep step(Ward());
-  const ABPoint before = step.Points();
+  step.MoveA(60.25F, 40);
   step.DropInPlot(step.Form->Chart.shpPCB, 2100.0F, 1050.0F);
-  EXPECT_EQ(step.Points().BX, 50.0F);
-  EXPECT_EQ(step.Points().BY, 75.0F);
-  EXPECT_EQ(step.Points().AX, before.AX);
-  EXPECT_EQ(step.Form->Scores.txtTradeOffBFirstScore.Text(), "50") << "no trailing point";
-  EXPECT_EQ(step.Form->Scores.txtTradeOffBSecondScore.Text(), "75");
-  EXPECT_EQ(step.Form->Scores.labTradeOffDiff1.Caption(),
-            NumberText(RoundToFourDecimals(Val(step.Form->Scores.txtTradeOffAFirstScore.Text()) - 50.0)));
+  EXPECT_EQ(Scores(step.Points()), "60.25 40 | 50 75");
+  EXPECT_EQ(Shown(step.Form->Scores), "60.25 40 | 50 75 | 10.25 -35") << "no trailing point";
 }
 
 TEST(DropInThePlot, CountsOnItsEdges) {
   TradeOffStep step(Ward());
   step.DropInPlot(step.Form->Chart.shpPCA, 0.0F, 4200.0F);
-  EXPECT_EQ(step.Points().AX, 0.0F);
-  EXPECT_EQ(step.Points().AY, 0.0F);
+  EXPECT_EQ(XY(step.Points().AX, step.Points().AY), "0 0");
   step.DropInPlot(step.Form->Chart.shpPCA, 4200.0F, 0.0F);
-  EXPECT_EQ(step.Points().AX, 100.0F);
-  EXPECT_EQ(step.Points().AY, 100.0F);
+  EXPECT_EQ(XY(step.Points().AX, step.Points().AY), "100 100");
 }
 
 TEST(DropInThePlot, BesideItsEdgesIsNone) {
@@ -219,8 +203,7 @@ TEST(DropInThePlot, BesideItsEdgesIsNone) {
   const Single left = step.Form->Chart.shpPCA.Left;
   const std::vector<std::pair<Single, Single>> places = {{-1, 100}, {100, -1}, {4201, 100}, {100, 4201}};
   for (const auto& [x, y] : places) step.DropInPlot(step.Form->Chart.shpPCA, x, y);
-  EXPECT_EQ(step.Points().AX, before.AX);
-  EXPECT_EQ(step.Points().AY, before.AY);
+  EXPECT_EQ(Scores(step.Points()), Scores(before));
   EXPECT_EQ(step.Form->Chart.shpPCA.Left(), left);
 }
 
@@ -231,11 +214,7 @@ TEST(DropInThePlot, OfBEndsTheUncertaintyOfA) {
   EXPECT_EQ(step.Points().AOrientation, 1);
   EXPECT_FALSE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
   step.MoveB(40, 60);
-  EXPECT_EQ(step.Points().AOrientation, 0);
-  EXPECT_EQ(step.Points().ALX, 60.0F);
-  EXPECT_EQ(step.Points().AUX, 60.0F);
-  EXPECT_EQ(step.Points().ALY, 40.0F);
-  EXPECT_EQ(step.Points().AUY, 40.0F);
+  EXPECT_EQ(Scores(step.Points()), "60 40 | 40 60");
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
 
@@ -250,8 +229,7 @@ TEST(DropInThePlot, ChangesNoRecordUntilEnter) {
   TradeOffStep step(Ward());
   const ABPoint before = step.Record(0);
   step.MoveA(60, 40);
-  EXPECT_EQ(step.Record(0).AX, before.AX);
-  EXPECT_EQ(step.Record(0).AY, before.AY);
+  EXPECT_EQ(Scores(step.Record(0)), Scores(before));
 }
 
 TEST(DropBesideThePlot, BeepsAndDoesNothingElse) {
@@ -262,8 +240,7 @@ TEST(DropBesideThePlot, BeepsAndDoesNothingElse) {
   step.Screen->Drag.Over(step.Form->Chart.picPCGraph, 20.0F, 20.0F);
   step.Screen->Drag.Drop();
   EXPECT_EQ(step.TakeNotes(), Lines{"beep"});
-  EXPECT_EQ(step.Points().AX, before.AX);
-  EXPECT_EQ(step.Points().AY, before.AY);
+  EXPECT_EQ(Scores(step.Points()), Scores(before));
 }
 
 TEST(DropBesideThePlot, InThePlotsRectangleDoesNotBeep) {
@@ -293,10 +270,8 @@ TEST(DropOnAMark, OfItselfMovesItByWhereItWasHit) {
   PictureBox& a = step.Form->Chart.shpPCA;
   DropOn(step, a, a, 117.0F, 33.0F);
   // 42 to the right of the centre and 42 above it: one score each.
-  EXPECT_EQ(a.Left(), 2100.0F - 75.0F + 42.0F);
-  EXPECT_EQ(a.Top(), 2100.0F - 75.0F - 42.0F);
-  EXPECT_EQ(step.Points().AX, 51.0F);
-  EXPECT_EQ(step.Points().AY, 51.0F);
+  EXPECT_EQ(Place(a), "2067,1983");
+  EXPECT_EQ(XY(step.Points().AX, step.Points().AY), "51 51");
 }
 
 TEST(DropOnAMark, OfAShowsADecimalAtLeast) {
@@ -319,16 +294,12 @@ TEST(DropOnAMark, OfTheOtherOneWritesTheScoresOfTheOneThatWasHitFromThePlaceOfTh
   TradeOffStep step(Ward());
   step.MoveA(20, 20);
   step.MoveB(80, 60);
-  const ABPoint before = step.Points();
   DropOn(step, step.Form->Chart.shpPCB, step.Form->Chart.shpPCA, 75.0F, 75.0F);
   // Hit in the middle: A's own place does not change, and B gets its scores.
-  EXPECT_EQ(step.Form->Chart.shpPCA.Left(), 20.0F * 42.0F - 75.0F);
-  EXPECT_EQ(step.Points().BX, 20.0F);
-  EXPECT_EQ(step.Points().BY, 20.0F);
-  EXPECT_EQ(step.Points().AX, before.AX);
+  EXPECT_EQ(Place(step.Form->Chart.shpPCA), "765,3285");
+  EXPECT_EQ(Scores(step.Points()), "20 20 | 20 20");
   DropOn(step, step.Form->Chart.shpPCA, step.Form->Chart.shpPCB, 117.0F, 75.0F);
-  EXPECT_EQ(step.Points().AX, 81.0F);
-  EXPECT_EQ(step.Points().AY, 60.0F);
+  EXPECT_EQ(Scores(step.Points()), "81 60 | 20 20");
   EXPECT_EQ(step.Form->Scores.txtTradeOffAFirstScore.Text(), "81.0");
 }
 
@@ -336,8 +307,7 @@ TEST(DropOnAMark, AtTheEdgeCanLeaveTheScale) {
   TradeOffStep step(Ward());
   step.MoveA(0, 100);
   DropOn(step, step.Form->Chart.shpPCA, step.Form->Chart.shpPCA, 33.0F, 33.0F);
-  EXPECT_EQ(step.Points().AX, -1.0F);
-  EXPECT_EQ(step.Points().AY, 101.0F);
+  EXPECT_EQ(XY(step.Points().AX, step.Points().AY), "-1 101");
   EXPECT_EQ(step.Form->Scores.txtTradeOffAFirstScore.Text(), "-1.0");
 }
 
@@ -346,8 +316,8 @@ TEST(DropOnAMark, EndsTheUncertaintyToo) {
   step.MoveA(60, 40);
   step.Press(step.Form->Uncertainty.tbMovUp, "MovUp");
   DropOn(step, step.Form->Chart.shpPCB, step.Form->Chart.shpPCB, 75.0F, 75.0F);
-  EXPECT_EQ(step.Points().AOrientation, 0);
-  EXPECT_EQ(step.Points().AUY, 40.0F);
+  const ABPoint& p = step.Points();
+  EXPECT_EQ(Scores(p), "60 40 | " + XY(p.BX, p.BY));
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
 

@@ -1,5 +1,4 @@
 #include "TradeOffs.h"
-#include "runtime/Text.h"
 
 namespace Tarnwise {
 namespace {

@@ -8,48 +8,35 @@ TEST(TradeOffVerdictShown, ConsistentLightsGreenAndAllowsEnter) {
   TradeOffStep step(Ward());
   step.MoveA(60, 40);
   step.MoveB(40, 80);
-  EXPECT_EQ(step.Ratio(), "2.00/1,    2.00/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kConsistent);
+  EXPECT_EQ(step.Verdict(), "2.00/1,    2.00/1 consistent");
   EXPECT_TRUE(step.EnterAllowed());
-  LightControls& lights = step.Form->Lights;
-  EXPECT_EQ(lights.Timer1.Interval, 0);
-  EXPECT_EQ(lights.shpAlarm[0].FillColor, 0x00FF00U);
-  EXPECT_EQ(lights.shpAlarm[1].FillColor, 0x808080U);
-  EXPECT_EQ(lights.shpAlarm[2].FillColor, 0x808080U);
-  EXPECT_EQ(lights.lblAlarm[0].ForeColor, 0x8000000EU);
-  EXPECT_EQ(lights.lblAlarm[1].ForeColor, 0U);
+  EXPECT_EQ(Shown(step.Form->Lights), "green* out out | 0");
 }
 
 TEST(TradeOffVerdictShown, InvalidBlinksAtThreeHundredAndForbidsEnter) {
   TradeOffStep step(Ward());
   step.MoveA(60, 80);
   step.MoveB(40, 40);
-  EXPECT_EQ(step.Ratio(), "-2.00/1,    -2.00/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kInvalid);
+  EXPECT_EQ(step.Verdict(), "-2.00/1,    -2.00/1 invalid");
   EXPECT_FALSE(step.EnterAllowed());
   LightControls& lights = step.Form->Lights;
-  EXPECT_EQ(lights.Timer1.Interval, 300);
-  EXPECT_EQ(lights.shpAlarm[0].FillColor, 0x808080U);
-  EXPECT_EQ(lights.shpAlarm[1].FillColor, 0x000808U);
-  EXPECT_EQ(lights.lblAlarm[1].ForeColor, 0x8000000EU);
+  EXPECT_EQ(Shown(lights), "out black* out | 300");
   Input::Tick(lights.Timer1);
-  EXPECT_EQ(lights.shpAlarm[1].FillColor, 0x00FFFFU);
+  EXPECT_EQ(Shown(lights), "out yellow* out | 300");
   Input::Tick(lights.Timer1);
-  EXPECT_EQ(lights.shpAlarm[1].FillColor, 0xFFFFFFU);
+  EXPECT_EQ(Shown(lights), "out white* out | 300");
 }
 
 TEST(TradeOffVerdictShown, InconsistentBlinksAtAHundredAndForbidsEnter) {
   TradeOffStep step(Ward());
   step.MoveA(60, 40);
   step.MoveB(40, 50);
-  EXPECT_EQ(step.Ratio(), "0.50/1,    0.50/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kInconsistent);
+  EXPECT_EQ(step.Verdict(), "0.50/1,    0.50/1 inconsistent");
   EXPECT_FALSE(step.EnterAllowed());
   LightControls& lights = step.Form->Lights;
-  EXPECT_EQ(lights.Timer1.Interval, 100);
-  EXPECT_EQ(lights.shpAlarm[2].FillColor, 0x004080U);
+  EXPECT_EQ(Shown(lights), "out out brown* | 100");
   Input::Tick(lights.Timer1);
-  EXPECT_EQ(lights.shpAlarm[2].FillColor, 0x0080FFU);
+  EXPECT_EQ(Shown(lights), "out out orange* | 100");
 }
 
 TEST(TradeOffWithoutControl, ANegativeRatioForbidsEnterAndALaterPositiveOneDoesNotBringItBack) {
@@ -61,13 +48,11 @@ TEST(TradeOffWithoutControl, ANegativeRatioForbidsEnterAndALaterPositiveOneDoesN
   EXPECT_EQ(step.Form->mJudgmentState, kInvalid);
   EXPECT_FALSE(step.EnterAllowed());
   step.MoveB(40, 90);
-  EXPECT_EQ(step.Ratio(), "0.50/1,    0.50/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kNoneDecided);
+  EXPECT_EQ(step.Verdict(), "0.50/1,    0.50/1 undecided");
   EXPECT_FALSE(step.EnterAllowed());
-  EXPECT_EQ(step.Form->Lights.Timer1.Interval, 300) << "the timer goes on, but changes no light";
-  EXPECT_EQ(step.Form->Lights.shpAlarm[1].FillColor, 0x000808U);
+  EXPECT_EQ(Shown(step.Form->Lights), "(out) black* (out) | 300");
   Input::Tick(step.Form->Lights.Timer1);
-  EXPECT_EQ(step.Form->Lights.shpAlarm[1].FillColor, 0x000808U);
+  EXPECT_EQ(Shown(step.Form->Lights), "(out) black* (out) | 300") << "the timer goes on, but changes no light";
   step.Choose(2);
   EXPECT_TRUE(step.EnterAllowed());
 }
@@ -77,12 +62,9 @@ TEST(ReferencePairShown, HasItsOneRatioAndTheLightConsistentWithoutAState) {
   step.Choose(6);
   step.MoveA(60, 70);
   step.MoveB(40, 30);
-  EXPECT_EQ(step.Ratio(), "2.00/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kNoneDecided);
+  EXPECT_EQ(step.Verdict(), "2.00/1 undecided");
   EXPECT_TRUE(step.EnterAllowed());
-  EXPECT_EQ(step.Form->Lights.shpAlarm[0].FillColor, 0x00FF00U);
-  EXPECT_EQ(step.Form->Lights.shpAlarm[1].FillColor, 0x808080U);
-  EXPECT_EQ(step.Form->Lights.Timer1.Interval, 0);
+  EXPECT_EQ(Shown(step.Form->Lights), "green* out out | 0");
 }
 
 TEST(ReferencePairShown, IsInvalidWhereOneIsNotPaidForWithTheOther) {
@@ -90,10 +72,9 @@ TEST(ReferencePairShown, IsInvalidWhereOneIsNotPaidForWithTheOther) {
   step.Choose(1);
   step.MoveA(60, 20);
   step.MoveB(40, 40);
-  EXPECT_EQ(step.Ratio(), "-1.00/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kInvalid);
+  EXPECT_EQ(step.Verdict(), "-1.00/1 invalid");
   EXPECT_FALSE(step.EnterAllowed());
-  EXPECT_EQ(step.Form->Lights.Timer1.Interval, 300);
+  EXPECT_EQ(Shown(step.Form->Lights), "out black* out | 300");
 }
 
 TEST(ReferencePairShown, ComesBackFromInvalidEvenWithoutTheControl) {

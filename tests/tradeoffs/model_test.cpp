@@ -87,10 +87,7 @@ TEST(SuggestionForOne, StandsAtThirdsOfTheScales) {
   GiveScale(data, 1, -60.0, 240.0);
   SuggestABPoints(data, 0, 1, 1.0);
   const ABPoint& p = data.ABPoints2[0];
-  EXPECT_EQ(p.AX, 23.0F);
-  EXPECT_EQ(p.BX, 20.0F);
-  EXPECT_EQ(p.AY, 40.0F);
-  EXPECT_EQ(p.BY, 70.0F);
+  EXPECT_EQ(AAndB(p), "23 40 | 20 70");
 }
 
 TEST(SuggestionForOne, AsksNoValueCurveWhetherOneIsAWholeNumberOrADouble) {
@@ -109,11 +106,8 @@ TEST(SuggestionBelowOne, StandsAtTheMiddleWithAAThirdFartherThanB) {
   WizardData data = Pair();
   SuggestABPoints(data, 0, 1, 0.8);
   const ABPoint& p = data.ABPoints2[0];
-  EXPECT_EQ(p.AX, 65.0F);
-  EXPECT_EQ(p.BX, 50.0F);
-  EXPECT_EQ(p.AY, 50.0F);
   // 0.5 + 0.15 * 0.8 = 0.62, reached a step early within the tolerance.
-  EXPECT_EQ(p.BY, GetAttScore(data, 1, 0.62F));
+  EXPECT_EQ(AAndB(p), "65 50 | " + XY(50.0F, GetAttScore(data, 1, 0.62F)));
   EXPECT_NEAR(p.BY, 62.0F, 0.02F);
 }
 
@@ -122,10 +116,8 @@ TEST(SuggestionBelowOne, HasNoLoopEvenWhereTheSecondValueLeavesTheScale) {
   GiveCurve(data, 1, {0}, {0.95});
   SuggestABPoints(data, 0, 1, 0.9);
   const ABPoint& p = data.ABPoints2[0];
-  EXPECT_EQ(p.AX, 65.0F);
-  EXPECT_EQ(p.BX, 50.0F);
   // 0.95 + 0.135 is a value that the curve has nowhere: half the range.
-  EXPECT_EQ(p.BY, 50.0F);
+  EXPECT_EQ(AAndB(p), "65 50 | 50 50");
 }
 
 TEST(SuggestionBelowOne, TakesZeroAndNegativeRatiosToo) {
@@ -140,9 +132,7 @@ TEST(SuggestionAboveOne, ABeginningInTheBandSkipsTheLoop) {
   WizardData data = Pair();
   SuggestABPoints(data, 0, 1, 2.0);
   const ABPoint& p = data.ABPoints2[0];
-  EXPECT_EQ(p.AX, static_cast<Single>((1.3 * 100.0) / 3.0));
-  EXPECT_EQ(p.BX, static_cast<Single>(100.0 / 3.0));
-  EXPECT_EQ(p.AY, static_cast<Single>(100.0 / 3.0));
+  EXPECT_EQ(AAndB(p), "43.333332 33.333332 | " + XY(static_cast<Single>(100.0 / 3.0), p.BY)) << "130 / 3, 100 / 3";
   EXPECT_NEAR(p.BY, 53.333F, 0.02F);
 }
 
@@ -279,11 +269,7 @@ TEST(Suggestion, LeavesOrientationAndCornersAlone) {
     p = PointsAt(1, 2, 3, 4);
     p.AOrientation = 2;
     SuggestABPoints(data, 0, 1, ratio);
-    EXPECT_EQ(p.AOrientation, 2);
-    EXPECT_EQ(p.ALX, 1.0F);
-    EXPECT_EQ(p.AUX, 1.0F);
-    EXPECT_EQ(p.ALY, 2.0F);
-    EXPECT_EQ(p.AUY, 2.0F);
+    EXPECT_EQ(Scores(p), XY(p.AX, p.AY) + " upward 1 2 to 1 2 | " + XY(p.BX, p.BY));
   }
 }
 
@@ -300,10 +286,7 @@ TEST(SuggestionOfTheReferencePair, PutsAUpAndToTheRightOfB) {
   GiveScale(data, 2, 10.0, 40.0);
   SuggestRefPairPoints(data, 2, 1);
   const ABPoint& p = data.ABPoints2[2];
-  EXPECT_EQ(p.AX, 23.0F);
-  EXPECT_EQ(p.BX, 20.0F);
-  EXPECT_EQ(p.AY, static_cast<Single>((1.3 * 100.0) / 3.0));
-  EXPECT_EQ(p.BY, static_cast<Single>(100.0 / 3.0));
+  EXPECT_EQ(AAndB(p), "23 43.333332 | 20 33.333332") << "130 / 3, 100 / 3";
   EXPECT_EQ(RefPairRatio(data, 2, 1, p.AX, p.AY, p.BX, p.BY), "1");
 }
 
@@ -371,9 +354,8 @@ TEST(Corners, LeaveTheOrientationAndAAndBAlone) {
   data.WeightsL[0] = 0.8;
   data.WeightsH[0] = 1.6;
   IntervalCorners(data, 0, 1);
-  EXPECT_EQ(data.ABPoints2[0].AOrientation, 2);
-  EXPECT_EQ(data.ABPoints2[0].AX, 60.0F);
-  EXPECT_EQ(data.ABPoints2[0].BX, 40.0F);
+  const ABPoint& p = data.ABPoints2[0];
+  EXPECT_EQ(Scores(p), "60 40 upward " + XY(p.ALX, p.ALY) + " to " + XY(p.AUX, p.AUY) + " | 40 60");
 }
 
 }  // namespace

@@ -7,10 +7,7 @@ namespace {
 
 TEST(OpeningFresh, SuggestsPointsFromTheRanksAndLeavesNextAndFinishDisabled) {
   TradeOffStep step(Ward());
-  EXPECT_FALSE(step.Form->cmdNext.Enabled);
-  EXPECT_FALSE(step.Form->cmdFinish.Enabled);
-  EXPECT_FALSE(step.Form->cmdReStart.Enabled);
-  EXPECT_TRUE(step.EnterAllowed());
+  EXPECT_EQ(step.Allowed(), "Enter ");
   WizardData expected = Ward();
   SuggestABPoints(expected, 0, 1, 1.2);
   SuggestABPoints(expected, 2, 1, 0.8);
@@ -19,10 +16,8 @@ TEST(OpeningFresh, SuggestsPointsFromTheRanksAndLeavesNextAndFinishDisabled) {
   SuggestRefPairPoints(expected, 6, 1);
   SuggestRefPairPoints(expected, 1, 6);
   for (const int att : {0, 1, 2, 4, 5, 6}) {
-    EXPECT_EQ(step.Record(att).AX, expected.ABPoints2[att].AX) << att;
-    EXPECT_EQ(step.Record(att).AY, expected.ABPoints2[att].AY) << att;
-    EXPECT_EQ(step.Record(att).BX, expected.ABPoints2[att].BX) << att;
-    EXPECT_EQ(step.Record(att).BY, expected.ABPoints2[att].BY) << att;
+    CollapseCorners(expected.ABPoints2[att]);
+    EXPECT_EQ(Scores(step.Record(att)), Scores(expected.ABPoints2[att])) << att;
   }
 }
 
@@ -31,10 +26,8 @@ TEST(OpeningFresh, TheRecordsOfBothReferencesServeTheirPairWithTheAxesExchanged)
   GiveScale(data, 1, 0.0, 30.0);
   GiveScale(data, 6, 0.0, 300.0);
   TradeOffStep step(data);
-  EXPECT_EQ(step.Record(6).AX, 130.0F);
-  EXPECT_EQ(step.Record(6).AY, 13.0F);
-  EXPECT_EQ(step.Record(1).AX, 13.0F);
-  EXPECT_EQ(step.Record(1).AY, 130.0F);
+  EXPECT_EQ(Scores(step.Record(6)), "130 13 | 100 10");
+  EXPECT_EQ(Scores(step.Record(1)), "13 130 | 10 100");
 }
 
 TEST(OpeningFresh, NothingIsUncertain) {
@@ -46,11 +39,7 @@ TEST(OpeningFresh, NothingIsUncertain) {
   TradeOffStep step(data);
   for (int i = 0; i < data.NumAtts(); ++i) {
     const ABPoint& p = step.Record(i);
-    EXPECT_EQ(p.AOrientation, 0);
-    EXPECT_EQ(p.ALX, p.AX);
-    EXPECT_EQ(p.AUX, p.AX);
-    EXPECT_EQ(p.ALY, p.AY);
-    EXPECT_EQ(p.AUY, p.AY);
+    EXPECT_EQ(Scores(p), Scores(PointsAt(p.AX, p.AY, p.BX, p.BY)));
   }
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
@@ -63,8 +52,7 @@ TEST(OpeningFresh, IsAlsoWhatChangedRanksAndUnknownTypesLeadTo) {
     data.ABPoints2[0] = PointsAt(1, 2, 3, 4);
     TradeOffStep step(data);
     EXPECT_NE(step.Record(0).AX, 1.0F);
-    EXPECT_FALSE(step.Form->cmdNext.Enabled);
-    EXPECT_FALSE(step.Form->cmdFinish.Enabled);
+    EXPECT_EQ(step.Allowed(), "Enter ");
   }
 }
 
@@ -75,15 +63,10 @@ TEST(OpeningResumed, ShowsThePointsAsTheHostSentThem) {
   data.ABPoints2[0].ALY = 30;
   data.ABPoints2[0].AUY = 45;
   TradeOffStep step(data);
-  EXPECT_EQ(step.Points().AX, 60.0F);
-  EXPECT_EQ(step.Points().ALY, 30.0F);
-  EXPECT_EQ(step.Points().AOrientation, 2);
-  EXPECT_TRUE(step.Form->cmdNext.Enabled);
-  EXPECT_TRUE(step.Form->cmdFinish.Enabled);
-  EXPECT_FALSE(step.Form->cmdReStart.Enabled);
-  EXPECT_TRUE(step.EnterAllowed());
+  EXPECT_EQ(Scores(step.Points()), "60 40 upward 60 30 to 60 45 | 20 80");
+  EXPECT_EQ(step.Allowed(), "Enter Next Finish ");
   EXPECT_EQ(step.Form->Chart.picTradeOffsRange.Drawing.size(), 1U) << "its line is there at once";
-  EXPECT_FALSE(step.Form->Uncertainty.tbMovLeft.Buttons[0].Enabled);
+  EXPECT_EQ(Shown(step.Form->Uncertainty), "up down | upward");
 }
 
 TEST(OpeningFromDirect, AnIntervalOpensAsALine) {
@@ -97,17 +80,15 @@ TEST(OpeningFromDirect, AnIntervalOpensAsALine) {
   EXPECT_NEAR(
       Val(PointRatio(step.Data, 0, 1, step.Points().ALX, step.Points().ALY, step.Points().BX, step.Points().BY)), 2.0,
       0.01);
-  EXPECT_TRUE(step.Form->cmdNext.Enabled);
-  EXPECT_TRUE(step.Form->cmdFinish.Enabled);
+  EXPECT_EQ(step.Allowed(), "Enter Next Finish ");
 }
 
 TEST(OpeningFromDirect, APointOpensWithoutALine) {
   WizardData data = Judged(Ward(), kDirectType);
   StoreInterval(data, 0, {2.5, 2.5, 2.5});
   TradeOffStep step(data);
-  EXPECT_EQ(step.Points().AOrientation, 0);
-  EXPECT_EQ(step.Points().ALX, step.Points().AX);
-  EXPECT_EQ(step.Points().AUY, step.Points().AY);
+  const ABPoint& p = step.Points();
+  EXPECT_EQ(Scores(p), Scores(PointsAt(p.AX, p.AY, p.BX, p.BY)));
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
 
@@ -138,36 +119,16 @@ TEST(Opening, SendsItsPromptWithinTheHourglass) {
   EXPECT_EQ(form.Form->Entry.mScoresDirty, 0);
 }
 
-TEST(Opening, WithoutTheControlShowsTheLightInvalidOnly) {
+TEST(Opening, WithoutTheControlShowsTheLightInvalidOnlyAndLeavesAllAtRest) {
   WizardData data = Ward();
   data.IncnsistCtrl = 0;
   TradeOffStep step(data);
-  const LightControls& lights = step.Form->Lights;
-  for (const int i : {0, 2}) {
-    EXPECT_FALSE(lights.shpAlarm[i].Visible);
-    EXPECT_FALSE(lights.lblAlarm[i].Visible);
-  }
-  EXPECT_TRUE(lights.shpAlarm[1].Visible);
-  EXPECT_TRUE(lights.lblAlarm[1].Visible);
+  EXPECT_EQ(Shown(step.Form->Lights), "(green*) black (brown) | 0") << "all three at rest";
 }
 
 TEST(Opening, WithTheControlShowsAllLights) {
   TradeOffStep step(Ward());
-  for (int i = 0; i < 3; ++i) EXPECT_TRUE(step.Form->Lights.shpAlarm[i].Visible);
-}
-
-TEST(Opening, WithoutTheControlLeavesTheLightsAtRest) {
-  WizardData data = Ward();
-  data.IncnsistCtrl = 0;
-  TradeOffStep step(data);
-  const LightControls& lights = step.Form->Lights;
-  EXPECT_EQ(lights.Timer1.Interval, 0);
-  EXPECT_EQ(lights.shpAlarm[0].FillColor, 0x00FF00U);
-  EXPECT_EQ(lights.shpAlarm[1].FillColor, 0x000808U);
-  EXPECT_EQ(lights.shpAlarm[2].FillColor, 0x004080U);
-  EXPECT_EQ(lights.lblAlarm[0].ForeColor, 0x8000000EU);
-  EXPECT_EQ(lights.lblAlarm[1].ForeColor, 0U);
-  EXPECT_EQ(lights.lblAlarm[2].ForeColor, 0U);
+  EXPECT_EQ(Shown(step.Form->Lights), "green* out out | 0");
 }
 
 TEST(Opening, IsTitledAndNamesItsControls) {
@@ -178,10 +139,9 @@ TEST(Opening, IsTitledAndNamesItsControls) {
   EXPECT_EQ(f.cmdReStart.Caption(), "&Re-start All");
   EXPECT_EQ(f.lblRatioTitle.Caption(), "Relative importance (weight  ratio Wj/Wr):");
   EXPECT_EQ(f.lblWeightRatio.Alignment(), Align::Centre);
-  EXPECT_EQ(f.tbsTradeOffs.Tabs[0].Caption, "Attribute differences");
-  EXPECT_EQ(f.tbsTradeOffs.Tabs[0].Key, "AttDiff");
-  EXPECT_EQ(f.tbsTradeOffs.Tabs[1].Caption, "Judgment uncertainty");
-  EXPECT_EQ(f.tbsTradeOffs.Tabs[1].Key, "JdgUnctn");
+  Lines tabs;
+  for (const auto& tab : f.tbsTradeOffs.Tabs) tabs.push_back(tab.Key + " " + tab.Caption);
+  EXPECT_EQ(tabs, (Lines{"AttDiff Attribute differences", "JdgUnctn Judgment uncertainty"}));
 }
 
 TEST(OpeningWithoutPoints, IsASubscriptError) {

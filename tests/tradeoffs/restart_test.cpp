@@ -13,14 +13,10 @@ TEST(RestartOfAll, SetsTheDefaultsAndFreshPoints) {
   step.Click("cmdReStart");
   EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.2, 1.2, 1.2}));
   EXPECT_FALSE(step.Data.WeightDone[0]);
-  EXPECT_EQ(step.Record(0).AX, suggested.AX);
-  EXPECT_EQ(step.Record(0).BY, suggested.BY);
-  EXPECT_EQ(step.Points().AX, suggested.AX);
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.Items[0].Text, "Att 0");
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.Items.size(), 8U);
-  EXPECT_TRUE(step.EnterAllowed());
-  EXPECT_FALSE(step.Form->cmdReStart.Enabled);
-  EXPECT_FALSE(step.Form->cmdNext.Enabled);
+  EXPECT_EQ(Scores(step.Record(0)), Scores(suggested));
+  EXPECT_EQ(Scores(step.Points()), Scores(suggested));
+  EXPECT_EQ(step.Items(), (Lines{"Att 0", "Att 1", "Att 2", "Att 3", " ¤ Att 4", "Att 5", "Att 6", " ¤ Att 7"}));
+  EXPECT_EQ(step.Allowed(), "Enter ");
 }
 
 TEST(RestartOfAll, EndsUncertaintyAndKeepsTheRatioOfTheReferences) {
@@ -31,9 +27,8 @@ TEST(RestartOfAll, EndsUncertaintyAndKeepsTheRatioOfTheReferences) {
   EXPECT_EQ(step.Record(0).AOrientation, 1);
   step.Data.RefAttWR = 1.75;
   step.Click("cmdReStart");
-  EXPECT_EQ(step.Record(0).AOrientation, 0);
-  EXPECT_EQ(step.Record(0).ALX, step.Record(0).AX);
-  EXPECT_EQ(step.Record(0).AUX, step.Record(0).AX);
+  const ABPoint& p = step.Record(0);
+  EXPECT_EQ(Scores(p), Scores(PointsAt(p.AX, p.AY, p.BX, p.BY)));
   EXPECT_EQ(std::get<Double>(step.Data.RefAttWR), 1.75);
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
@@ -45,8 +40,7 @@ TEST(RestartOfAll, LeavesFinishAsItWas) {
     step.Click("cmdEnter");
   }
   step.Click("cmdReStart");
-  EXPECT_TRUE(step.Form->cmdFinish.Enabled);
-  EXPECT_FALSE(step.Form->cmdNext.Enabled);
+  EXPECT_EQ(step.Allowed(), "Enter Finish ");
 }
 
 TEST(RestartOfAll, ShowsTheFirstTargetWithAllItsTools) {
@@ -55,9 +49,7 @@ TEST(RestartOfAll, ShowsTheFirstTargetWithAllItsTools) {
   step.Choose(6);
   EXPECT_FALSE(step.Form->Uncertainty.tbCertain.Enabled);
   step.Click("cmdReStart");
-  EXPECT_EQ(step.Form->mTargetAtt, 0);
-  EXPECT_EQ(step.Form->mRefAtt, 1);
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.SelectedItem, 1);
+  EXPECT_EQ(step.Target(), "0 against 1, item 1");
   UncertaintyControls& u = step.Form->Uncertainty;
   for (Toolbar* toolbar : {&u.tbCertain, &u.tbMovDown, &u.tbMovUp, &u.tbMovLeft, &u.tbMovRight}) {
     EXPECT_TRUE(toolbar->Enabled) << toolbar->Name;

@@ -5,22 +5,18 @@ namespace {
 
 TEST(FirstTargetShown, SkipsWhatSharesTheReferencesRank) {
   TradeOffStep step(TradeOffData({B(1), B(1), B(2), C(1), C(2)}, 0, 3));
-  EXPECT_EQ(step.Form->mTargetAtt, 2);
-  EXPECT_EQ(step.Form->mRefAtt, 0);
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.SelectedItem, 3);
+  EXPECT_EQ(step.Target(), "2 against 0, item 3");
   EXPECT_TRUE(Only(step.Notes, "msgbox").empty());
 }
 
 TEST(FirstTargetShown, BeginsAtTheSecondAttributeWhereThereIsOneBenefitOnly) {
   TradeOffStep step(TradeOffData({B(1), C(1), C(2)}, 0, 1));
-  EXPECT_EQ(step.Form->mTargetAtt, 2);
-  EXPECT_EQ(step.Form->mRefAtt, 1);
+  EXPECT_EQ(step.Target(), "2 against 1, item 3");
 }
 
 TEST(FirstTargetShown, GoesOnIntoTheCosts) {
   TradeOffStep step(TradeOffData({B(1), B(1), C(1), C(2)}, 0, 3));
-  EXPECT_EQ(step.Form->mTargetAtt, 2);
-  EXPECT_EQ(step.Form->mRefAtt, 3);
+  EXPECT_EQ(step.Target(), "2 against 3, item 3");
 }
 
 TEST(FirstTargetShown, WhereEverythingTiesThereIsNoneAndTheOpeningFails) {
@@ -48,9 +44,7 @@ TEST(TargetItems, JudgedAttributesAreMarkedTheReferencesExcepted) {
   data.WeightDone[5] = true;
   data.AttributeList.AttName[5] = " Nurses ";
   TradeOffStep step(data);
-  Lines texts;
-  for (const auto& item : step.Form->imgcmbTargetAtt.Items) texts.push_back(item.Text);
-  EXPECT_EQ(texts, (Lines{"Att 0", "Att 1", "Att 2", "Att 3", " ¤ Att 4", " ¤  Nurses ", "Att 6", " ¤ Att 7"}));
+  EXPECT_EQ(step.Items(), (Lines{"Att 0", "Att 1", "Att 2", "Att 3", " ¤ Att 4", " ¤  Nurses ", "Att 6", " ¤ Att 7"}));
 }
 
 TEST(ChosenTarget, ShowsItsPairWithEnterAllowed) {
@@ -58,9 +52,8 @@ TEST(ChosenTarget, ShowsItsPairWithEnterAllowed) {
   step.TakeNotes();
   step.Choose(5);
   EXPECT_EQ(step.TakeNotes(), (Lines{"pointer 11", "pointer 0"}));
-  EXPECT_EQ(step.Form->mTargetAtt, 5);
-  EXPECT_EQ(step.Form->mRefAtt, 6);
-  EXPECT_EQ(step.Points().AX, step.Record(5).AX);
+  EXPECT_EQ(step.Target(), "5 against 6, item 6");
+  EXPECT_EQ(Scores(step.Points()), Scores(step.Record(5)));
   EXPECT_EQ(step.Form->Scores.labPCCriterion1.Caption(), "Att 5");
   EXPECT_EQ(step.Form->Scores.labPCCriterion2.Caption(), "Att 6");
   EXPECT_TRUE(step.EnterAllowed());
@@ -102,18 +95,15 @@ TEST(ChosenTarget, AStoredLineIsShownWithItsTools) {
   TradeOffStep step(data);
   step.Choose(2);
   EXPECT_EQ(step.Form->Chart.picTradeOffsRange.Drawing.size(), 1U);
-  EXPECT_FALSE(step.Form->Uncertainty.tbMovUp.Buttons[0].Enabled);
-  EXPECT_TRUE(step.Form->Uncertainty.cmbChangeH.Visible);
+  EXPECT_EQ(Shown(step.Form->Uncertainty), "left right | across");
 }
 
 TEST(ChosenReference, OfEitherGroupShowsTheReferencePairAndTheItemStays) {
   for (const int att : {1, 6}) {
     TradeOffStep step(Ward());
     step.Choose(att);
-    EXPECT_EQ(step.Form->mTargetAtt, 6);
-    EXPECT_EQ(step.Form->mRefAtt, 1);
-    EXPECT_EQ(step.Form->imgcmbTargetAtt.SelectedItem, att + 1);
-    EXPECT_EQ(step.Points().AX, step.Record(6).AX);
+    EXPECT_EQ(step.Target(), "6 against 1, item " + std::to_string(att + 1));
+    EXPECT_EQ(Scores(step.Points()), Scores(step.Record(6)));
     EXPECT_EQ(step.Ratio().find(','), String::npos);
   }
 }
@@ -127,8 +117,7 @@ TEST(RefusedTarget, TiedWithTheBenefitReferenceHasItsMessageAndKeepsTheMoves) {
             (Lines{"beep",
                    "msgbox The selected attribute is in the same group with the reference attribute for the "
                    "benefit-oriened ones. It is not necessary to make tradeoffs between them."}));
-  EXPECT_EQ(step.Form->mTargetAtt, 0);
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.SelectedItem, 1);
+  EXPECT_EQ(step.Target(), "0 against 1, item 1");
   EXPECT_EQ(step.Points().AX, 77.0F);
 }
 
@@ -146,8 +135,7 @@ TEST(RefusedTarget, WhileTheReferencePairIsShownTheItemOfItsTargetComesBack) {
   TradeOffStep step(Ward());
   step.Choose(1);
   step.Choose(4);
-  EXPECT_EQ(step.Form->imgcmbTargetAtt.SelectedItem, 7);
-  EXPECT_EQ(step.Form->mTargetAtt, 6);
+  EXPECT_EQ(step.Target(), "6 against 1, item 7");
 }
 
 TEST(GroupWithoutAttributes, HasNoReferencePair) {

@@ -1,7 +1,5 @@
 #include "TradeOffs.h"
 
-#include "runtime/Text.h"
-
 namespace Tarnwise {
 namespace {
 
@@ -14,48 +12,29 @@ struct UncertainStep : TradeOffStep {
   }
 
   UncertaintyControls& U() { return Form->Uncertainty; }
-
-  // Which of the four toolbars have both buttons enabled: left, right, up, down.
-  std::vector<bool> Tools() {
-    std::vector<bool> tools;
-    for (const Toolbar* toolbar : {&U().tbMovLeft, &U().tbMovRight, &U().tbMovUp, &U().tbMovDown}) {
-      tools.push_back(toolbar->Buttons[0].Enabled && toolbar->Buttons[1].Enabled);
-    }
-    return tools;
-  }
+  String Tools() { return Shown(U()); }
 };
 
 TEST(UncertaintyTools, AllMoveWithoutUncertaintyAndNoStepSizeIsShown) {
   UncertainStep step;
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
-  EXPECT_FALSE(step.U().cmbChangeH.Visible);
-  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+  EXPECT_EQ(step.Tools(), "left right up down |");
 }
 
 TEST(UncertaintyTools, AHorizontalMoveLocksTheVerticalOnesAndShowsItsSteps) {
   UncertainStep step;
   step.Press(step.U().tbMovRight, "MovRight");
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, false, false}));
-  EXPECT_FALSE(step.U().tbMovUp.Buttons[0].Enabled);
-  EXPECT_FALSE(step.U().tbMovUp.Buttons[1].Enabled);
-  EXPECT_FALSE(step.U().tbMovDown.Buttons[0].Enabled);
-  EXPECT_FALSE(step.U().tbMovDown.Buttons[1].Enabled);
-  EXPECT_TRUE(step.U().cmbChangeH.Visible);
-  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+  EXPECT_EQ(step.Tools(), "left right | across");
 }
 
 TEST(UncertaintyTools, AVerticalMoveLocksTheHorizontalOnesAndShowsItsSteps) {
   UncertainStep step;
   step.Press(step.U().tbMovUp, "MovUp");
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{false, false, true, true}));
-  EXPECT_FALSE(step.U().cmbChangeH.Visible);
-  EXPECT_TRUE(step.U().cmbChangeV.Visible);
+  EXPECT_EQ(step.Tools(), "up down | upward");
 }
 
 TEST(UncertaintyTools, BothListsStandInOnePlace) {
   UncertainStep step;
-  EXPECT_EQ(step.U().cmbChangeH.Left(), step.U().cmbChangeV.Left());
-  EXPECT_EQ(step.U().cmbChangeH.Top(), step.U().cmbChangeV.Top());
+  EXPECT_EQ(Place(step.U().cmbChangeH), Place(step.U().cmbChangeV));
   EXPECT_EQ(step.U().lblSmallChange.Caption(), "Small change:");
 }
 
@@ -63,18 +42,17 @@ TEST(UncertaintyTools, ADropEndsTheUncertaintyButNotTheLock) {
   UncertainStep step;
   step.Press(step.U().tbMovUp, "MovUp");
   step.MoveA(60, 40);
-  EXPECT_EQ(step.Points().AOrientation, 0);
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{false, false, true, true}));
+  EXPECT_EQ(Scores(step.Points()), "60 40 | 20 90");
+  EXPECT_EQ(step.Tools(), "up down | upward");
   step.Press(step.U().tbCertain, "Certain");
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+  EXPECT_EQ(step.Tools(), "left right up down |");
 }
 
 TEST(UncertaintyTools, AnotherTargetUnlocksThem) {
   UncertainStep step;
   step.Press(step.U().tbMovUp, "MovUp");
   step.Choose(2);
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
-  EXPECT_FALSE(step.U().cmbChangeV.Visible);
+  EXPECT_EQ(step.Tools(), "left right up down |");
 }
 
 TEST(ChangeSteps, AreAThirtiethAFortiethAndAFiftiethOfTheScale) {
@@ -84,10 +62,8 @@ TEST(ChangeSteps, AreAThirtiethAFortiethAndAFiftiethOfTheScale) {
   const UncertaintyControls& u = step.Form->Uncertainty;
   EXPECT_EQ(u.cmbChangeH.List(), (Lines{"10.00", "7.50", "6.00"}));
   EXPECT_EQ(u.cmbChangeV.List(), (Lines{"3.33", "2.50", "2.00"}));
-  EXPECT_EQ(u.cmbChangeH.ListIndex, 0);
-  EXPECT_EQ(u.cmbChangeV.ListIndex, 0);
-  EXPECT_EQ(step.Form->Tools.mStepH, 10.0F);
-  EXPECT_EQ(step.Form->Tools.mStepV, 3.33F) << "the number of the text";
+  EXPECT_EQ(std::pair(u.cmbChangeH.ListIndex(), u.cmbChangeV.ListIndex()), std::pair(0, 0));
+  EXPECT_EQ(XY(step.Form->Tools.mStepH, step.Form->Tools.mStepV), "10 3.33") << "the numbers of the texts";
 }
 
 TEST(ChangeSteps, ChoosingAnItemSetsTheStepAnew) {
@@ -117,26 +93,12 @@ TEST(Movers, EachMovesItsCornerByTheStep) {
   const auto after = [](Toolbar UncertaintyControls::*toolbar, const char* key) {
     UncertainStep step;
     step.Press(step.U().*toolbar, key);
-    return step.Points();
+    return Scores(step.Points());
   };
-  const ABPoint left = after(&UncertaintyControls::tbMovLeft, "MovLeft");
-  EXPECT_EQ(left.ALX, 50.0F - 3.33F);
-  EXPECT_EQ(left.AUX, 50.0F);
-  EXPECT_EQ(left.ALY, 40.0F);
-  EXPECT_EQ(left.AOrientation, 1);
-  const ABPoint right = after(&UncertaintyControls::tbMovRight, "MovRight");
-  EXPECT_EQ(right.AUX, 50.0F + 3.33F);
-  EXPECT_EQ(right.ALX, 50.0F);
-  EXPECT_EQ(right.AOrientation, 1);
-  const ABPoint down = after(&UncertaintyControls::tbMovDown, "MovDown");
-  EXPECT_EQ(down.ALY, 40.0F - 3.33F);
-  EXPECT_EQ(down.AUY, 40.0F);
-  EXPECT_EQ(down.ALX, 50.0F);
-  EXPECT_EQ(down.AOrientation, 2);
-  const ABPoint up = after(&UncertaintyControls::tbMovUp, "MovUp");
-  EXPECT_EQ(up.AUY, 40.0F + 3.33F);
-  EXPECT_EQ(up.ALY, 40.0F);
-  EXPECT_EQ(up.AOrientation, 2);
+  EXPECT_EQ(after(&UncertaintyControls::tbMovLeft, "MovLeft"), "50 40 across 46.67 40 to 50 40 | 20 90");
+  EXPECT_EQ(after(&UncertaintyControls::tbMovRight, "MovRight"), "50 40 across 50 40 to 53.33 40 | 20 90");
+  EXPECT_EQ(after(&UncertaintyControls::tbMovDown, "MovDown"), "50 40 upward 50 36.67 to 50 40 | 20 90");
+  EXPECT_EQ(after(&UncertaintyControls::tbMovUp, "MovUp"), "50 40 upward 50 40 to 50 43.33 | 20 90");
 }
 
 TEST(Movers, BackGoesTowardsAAndStopsThere) {
@@ -146,11 +108,10 @@ TEST(Movers, BackGoesTowardsAAndStopsThere) {
   EXPECT_NEAR(step.Points().AUX, 50.0F + 2.0F * 3.33F, 1e-4F);
   Input::SelectRow(step.U().cmbChangeH, 0);
   step.Press(step.U().tbMovRight, "MovRightBack");
-  EXPECT_TRUE(step.IsEnabled(step.U().tbMovRight, "MovRightBack"));
+  EXPECT_EQ(step.Tools(), "left right | across");
   step.Press(step.U().tbMovRight, "MovRightBack");
   EXPECT_EQ(step.Points().AUX, 50.0F);
-  EXPECT_FALSE(step.IsEnabled(step.U().tbMovRight, "MovRightBack"));
-  EXPECT_TRUE(step.IsEnabled(step.U().tbMovRight, "MovRight"));
+  EXPECT_EQ(step.Tools(), "left right:MovRight | across");
 }
 
 struct LimitCase {
@@ -192,18 +153,15 @@ TEST(Movers, AStepThatReachesTheMinimumExactlyLandsOnIt) {
   step.Press(step.U().tbMovLeft, "MovLeftBack");
   Input::SelectRow(step.U().cmbChangeH, 2);
   step.Press(step.U().tbMovLeft, "MovLeft");
-  EXPECT_EQ(step.Points().ALX, 0.0F);
-  EXPECT_FALSE(step.IsEnabled(step.U().tbMovLeft, "MovLeft"));
+  EXPECT_EQ(Scores(step.Points()), "2 40 across 0 40 to 2 40 | 20 90");
+  EXPECT_EQ(step.Tools(), "left:MovLeftBack right | across");
 }
 
 TEST(Movers, BackWithoutUncertaintyStaysAndLocksTheOtherDirectionAllTheSame) {
   UncertainStep step;
   step.Press(step.U().tbMovLeft, "MovLeftBack");
-  EXPECT_EQ(step.Points().ALX, 50.0F);
-  EXPECT_EQ(step.Points().AOrientation, 1);
-  EXPECT_FALSE(step.IsEnabled(step.U().tbMovLeft, "MovLeftBack"));
-  EXPECT_FALSE(step.IsEnabled(step.U().tbMovUp, "MovUp"));
-  EXPECT_FALSE(step.IsEnabled(step.U().tbMovDown, "MovDown"));
+  EXPECT_EQ(Scores(step.Points()), "50 40 across | 20 90");
+  EXPECT_EQ(step.Tools(), "left:MovLeft right | across");
 }
 
 TEST(Movers, ADisabledButtonComesBackWithTheNextPressOfAnyMover) {
@@ -218,15 +176,12 @@ TEST(Movers, DecideTheStateByBothCorners) {
   UncertainStep step;
   step.MoveA(60, 40);
   step.MoveB(20, 80);
-  EXPECT_EQ(step.Ratio(), "1.00/1,    1.00/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kConsistent);
+  EXPECT_EQ(step.Verdict(), "1.00/1,    1.00/1 consistent");
   step.Press(step.U().tbMovLeft, "MovLeft");
   // 0.4 / 0.3667
-  EXPECT_EQ(step.Ratio(), "1.00/1,    1.09/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kConsistent);
+  EXPECT_EQ(step.Verdict(), "1.00/1,    1.09/1 consistent");
   step.Press(step.U().tbMovRight, "MovRight");
-  EXPECT_EQ(step.Ratio(), "0.92/1,    1.09/1");
-  EXPECT_EQ(step.Form->mJudgmentState, kInconsistent);
+  EXPECT_EQ(step.Verdict(), "0.92/1,    1.09/1 inconsistent");
   EXPECT_FALSE(step.EnterAllowed());
 }
 
@@ -250,8 +205,7 @@ TEST(UncertaintyCommit, StoresTheEndsAndTheRatioAtA) {
   step.Click("cmdEnter");
   // 42 and 38 against 90, over 0.4.
   EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.2, 1.25, 1.3}));
-  EXPECT_EQ(step.Record(0).AOrientation, 2);
-  EXPECT_EQ(step.Record(0).ALY, step.Points().ALY);
+  EXPECT_EQ(Scores(step.Record(0)), "60 40 upward 60 38 to 60 42 | 20 90");
 }
 
 TEST(UncertaintyCommit, OverAFlatPieceOfTheCurveIsAPointThoughTheOrientationIsOne) {
@@ -275,9 +229,8 @@ TEST(UncertaintyCommit, ACornerThatReachesBsFirstScoreIsInfinityAndInvalid) {
   step.Press(step.U().tbMovLeft, "MovLeftBack");
   Input::SelectRow(step.U().cmbChangeH, 2);
   step.Press(step.U().tbMovLeft, "MovLeft");
-  EXPECT_EQ(step.Points().ALX, 20.0F);
-  EXPECT_EQ(step.Ratio(), "25.00/1,    Infinity");
-  EXPECT_EQ(step.Form->mJudgmentState, kInvalid);
+  EXPECT_EQ(Scores(step.Points()), "22 40 across 20 40 to 22 40 | 20 90");
+  EXPECT_EQ(step.Verdict(), "25.00/1,    Infinity invalid");
   EXPECT_FALSE(step.EnterAllowed());
 }
 
@@ -290,17 +243,22 @@ TEST(UncertaintyCommit, IsLostWhenAnotherTargetIsChosenBeforeEnter) {
   EXPECT_EQ(step.Points().AUX, step.Points().AX);
 }
 
+// "line 1960 2520 2240 2520 in 16711680, 3 wide".
+String Described(const Drawn& drawn) {
+  String text = drawn.Shape == Drawn::What::Line ? "line" : "no line";
+  for (const Single length : drawn.Points) text += " " + Exactly(length);
+  return text + " in " + std::to_string(drawn.Ink) + ", " + std::to_string(drawn.LineWidth) + " wide";
+}
+
 TEST(UncertaintyLine, IsThickAndBlueBetweenTheCorners) {
   UncertainStep step;
   step.Press(step.U().tbMovLeft, "MovLeft");
   step.Press(step.U().tbMovRight, "MovRight");
   const std::vector<Drawn>& drawing = step.Form->Chart.picTradeOffsRange.Drawing;
   ASSERT_EQ(drawing.size(), 1U);
-  EXPECT_EQ(drawing[0].Shape, Drawn::What::Line);
-  EXPECT_EQ(drawing[0].Points,
-            (std::vector<Single>{step.Points().ALX * 42.0F, 60.0F * 42.0F, step.Points().AUX * 42.0F, 60.0F * 42.0F}));
-  EXPECT_EQ(drawing[0].Ink, 16711680U);
-  EXPECT_EQ(drawing[0].LineWidth, 3);
+  const ABPoint& p = step.Points();
+  EXPECT_EQ(Described(drawing[0]),
+            "line " + XY(p.ALX * 42.0F, 2520.0F) + " " + XY(p.AUX * 42.0F, 2520.0F) + " in 16711680, 3 wide");
 }
 
 TEST(UncertaintyLine, IsNotDrawnWhereItsEndsCoincide) {
@@ -321,20 +279,19 @@ TEST(CertainTool, GoesBackToTheRecordAndNotToAPoint) {
   const String before = step.Ratio();
   step.MoveA(80, 10);
   step.Press(step.Form->Uncertainty.tbCertain, "Certain");
-  EXPECT_EQ(step.Points().AX, 60.0F);
-  EXPECT_EQ(step.Points().ALX, 55.0F);
-  EXPECT_EQ(step.Points().AOrientation, 1);
+  EXPECT_EQ(Scores(step.Points()), "60 40 across 55 40 to 60 40 | 20 80");
   EXPECT_EQ(step.Ratio(), before);
-  EXPECT_EQ(step.Form->Chart.shpPCA.Left(), 60.0F * 42.0F - 75.0F);
+  EXPECT_EQ(Place(step.Form->Chart.shpPCA), "2445,2445");
   EXPECT_EQ(step.Form->Chart.picTradeOffsRange.Drawing.size(), 1U);
-  EXPECT_FALSE(step.Form->Uncertainty.tbMovUp.Buttons[0].Enabled);
+  EXPECT_EQ(Shown(step.Form->Uncertainty), "left right | across");
 }
 
 TEST(CertainTool, UnlocksBothDirectionsWhereTheRecordIsAPoint) {
   UncertainStep step;
   step.Press(step.U().tbMovUp, "MovUp");
   step.Press(step.U().tbCertain, "Certain");
-  EXPECT_EQ(step.Tools(), (std::vector<bool>{true, true, true, true}));
+  EXPECT_EQ(step.Tools(), "left right up down |");
+  EXPECT_EQ(Scores(step.Points()), Scores(step.Record(0)));
   EXPECT_EQ(step.Points().AOrientation, 0);
   EXPECT_TRUE(step.Form->Chart.picTradeOffsRange.Drawing.empty());
 }
@@ -353,8 +310,7 @@ TEST(CertainTool, GoesBackToTheLastEnter) {
   step.Click("cmdEnter");
   step.MoveA(90, 10);
   step.Press(step.U().tbCertain, "Certain");
-  EXPECT_EQ(step.Points().AX, 60.0F);
-  EXPECT_EQ(step.Points().BY, 90.0F);
+  EXPECT_EQ(Scores(step.Points()), "60 40 | 20 90");
 }
 
 TEST(ReferencePairTools, AreAllDisabledAndComeBackWithAnOrdinaryPair) {

@@ -6,7 +6,6 @@
 #include "view/Pixels.h"
 
 #include <QColor>
-#include <QCursor>
 #include <QFont>
 #include <QIcon>
 #include <QPainter>

@@ -7,11 +7,11 @@ namespace Tarnwise {
 namespace {
 
 enum Event : DISPID {
-  kUnloadTarnwise = 1,
-  kExportDirectBW,
-  kExportTradeOffsBW,
-  kExportABScores,
-  kSendMasseges,
+  kOnUnloadTarnwise = 1,
+  kOnExportDirectBW,
+  kOnExportTradeOffsBW,
+  kOnExportABScores,
+  kOnSendMasseges,
 };
 
 // A sink's own failure is its own matter.
@@ -42,7 +42,7 @@ void Component::ConnectEvents(TRN_DEA_Events& events) {
     Guarded([&] {
       EventArguments arguments;
       arguments.Value(fIndex).Value(WeightsDone);
-      Fire(kUnloadTarnwise, arguments);
+      Fire(kOnUnloadTarnwise, arguments);
     });
   };
   const auto judgments = [this](DISPID event) {
@@ -56,20 +56,20 @@ void Component::ConnectEvents(TRN_DEA_Events& events) {
       });
     };
   };
-  events.ExportDirectBW = judgments(kExportDirectBW);
-  events.ExportTradeOffsBW = judgments(kExportTradeOffsBW);
+  events.ExportDirectBW = judgments(kOnExportDirectBW);
+  events.ExportTradeOffsBW = judgments(kOnExportTradeOffsBW);
   events.ExportABScores = [this](auto&... arrays) {
     Guarded([&] {
       EventArguments arguments;
       (arguments.Array(arrays), ...);
-      Fire(kExportABScores, arguments);
+      Fire(kOnExportABScores, arguments);
     });
   };
   events.SendMasseges = [this](const String& Msg) {
     Guarded([&] {
       EventArguments arguments;
       arguments.Value(Msg);
-      Fire(kSendMasseges, arguments);
+      Fire(kOnSendMasseges, arguments);
     });
   };
 }

@@ -10,7 +10,7 @@ namespace Tarnwise::Dea {
 namespace {
 
 // What is this much smaller than its neighbours is the rounding of a zero.
-constexpr Double kRounding = 1e-13;
+constexpr Double kRowRounding = 1e-13;
 
 // Terms of prices may cancel each other, up to so much more than what anything costs.
 constexpr Double kMostCancelled = 1e4;
@@ -101,8 +101,8 @@ BasicSolution SolutionAt(const ProgramData& program, const RowsAndColumns& basis
 
 Double ValueError(const ProgramData& program, const BasicSolution& solution) {
   const std::vector<Double> sizes = RowSizes(program, solution.Values);
-  const Double roundingOfRows = kRounding * LargestOf(sizes);
-  const Double rounding = kRounding * LargestOf(solution.Values);
+  const Double roundingOfRows = kRowRounding * LargestOf(sizes);
+  const Double rounding = kRowRounding * LargestOf(solution.Values);
   const auto share = [&](std::size_t row, Double amount) {
     return amount <= roundingOfRows ? 0.0 : amount / sizes[row];
   };
@@ -161,12 +161,12 @@ RowsAndColumnsSizes SizesOf(const ProgramData& program, const BasicSolution& sol
     for (int j = 0; j < program.ColumnCount(); ++j) {
       if (!all && program.Domains[At(j)] != Domain::Free) continue;
       for (std::size_t i = 0; i < sizes.Rows.size(); ++i) {
-        const bool isMeasured = all && sizes.Rows[i] >= kRounding;
+        const bool isMeasured = all && sizes.Rows[i] >= kRowRounding;
         if (!isMeasured) sizes.Rows[i] = std::fmax(sizes.Rows[i], std::fabs(program.ColumnAt(j)[i]));
       }
     }
   }
-  for (Double& size : sizes.Rows) size = size >= kRounding ? size : 1.0;
+  for (Double& size : sizes.Rows) size = size >= kRowRounding ? size : 1.0;
   for (int j = 0; j < program.ColumnCount(); ++j) {
     const bool isWrong = solution.Exists && PriceErrorOf(program, solution, j) > kWrong;
     Double size = 0.0;

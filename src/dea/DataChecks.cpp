@@ -12,8 +12,7 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-// Numbers beyond these would leave the range of Double in a product with others.
-constexpr Double kLargest = 1e100;
+// What is smaller would be lost in a product with others.
 constexpr Double kSmallest = 1e-100;
 
 String CellName(const Problem& problem, const Column& column, std::size_t unit) {
@@ -62,25 +61,25 @@ void CheckOptions(const Options& options) {
   }
 }
 
-// Why the unit cannot be evaluated; empty when it can.
-String WhyLeftOut(const Problem& problem, const Checked& checked, std::size_t unit) {
-  for (const Column& column : problem.Columns) {
-    if (std::isnan(column.Values[unit])) return "no value in column " + column.Name;
+// Why the unit cannot be evaluated; nothing when it can.
+std::optional<LeftOut> WhyLeftOut(const Problem& problem, const Checked& checked, int unit) {
+  for (int j = 0; At(j) < problem.Columns.size(); ++j) {
+    const Column& column = problem.Columns[At(j)];
+    if (std::isnan(column.Values[At(unit)])) return LeftOut{unit, "no value in column " + column.Name, j};
   }
-  if (problem.Options.Form != Form::Ratio || checked.Inputs.empty()) return {};
+  if (problem.Options.Form != Form::Ratio || checked.Inputs.empty()) return std::nullopt;
   for (const int i : checked.Inputs) {
-    if (problem.Columns[At(i)].Values[unit] != 0.0) return {};
+    if (problem.Columns[At(i)].Values[At(unit)] != 0.0) return std::nullopt;
   }
-  return "all inputs are zero";
+  return LeftOut{unit, "all inputs are zero", std::nullopt};
 }
 
 void ChooseUnits(const Problem& problem, Checked& checked) {
-  for (std::size_t k = 0; k < problem.Units.size(); ++k) {
-    const String reason = WhyLeftOut(problem, checked, k);
-    if (reason.empty()) {
-      checked.Units.push_back(static_cast<int>(k));
+  for (int k = 0; At(k) < problem.Units.size(); ++k) {
+    if (auto left = WhyLeftOut(problem, checked, k)) {
+      checked.LeftOut.push_back(std::move(*left));
     } else {
-      checked.LeftOut.push_back({static_cast<int>(k), reason});
+      checked.Units.push_back(k);
     }
   }
   if (checked.Units.empty()) {

@@ -5,6 +5,9 @@
 
 namespace Tarnwise::Dea {
 
+// How much a fraction has to be beyond a limit for it to be beyond it whatever was rounded.
+constexpr Double kSurely = 1e-9;
+
 // The least a.w / b.w over the directions of the box; b has no negative number, a may. A direction in which both are
 // zero is passed over, and where b alone is zero the fraction is without end. kNoBound when no direction has a finite
 // fraction. (a and b: one number for each attribute of the box.)

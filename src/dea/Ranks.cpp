@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kScoresDrawn = 10000000;
 constexpr int kMostDraws = 10000;
-constexpr Double kRounding = 1e-12;
+constexpr Double kSameScore = 1e-12;
 
 std::vector<int> BestFirst(const std::vector<Double>& scores) {
   std::vector<int> order(scores.size());
@@ -23,7 +23,7 @@ std::vector<int> BestFirst(const std::vector<Double>& scores) {
 void TakeRanks(const std::vector<std::pair<Double, int>>& bestFirst, std::vector<RankRange>& ranks) {
   std::size_t better = 0;
   for (const auto& [score, unit] : bestFirst) {
-    const Double above = score + kRounding * std::fabs(score);
+    const Double above = score + kSameScore * std::fabs(score);
     while (bestFirst[better].first > above) ++better;
     RankRange& range = ranks[At(unit)];
     const int rank = static_cast<int>(better) + 1;

@@ -132,8 +132,6 @@ RatioScore ScoreOf(const Evaluation& evaluation, RatioScorer& scorer, int unit, 
   return NamingUnit(evaluation.Problem_, evaluation.Checked_, unit, [&] { return scorer.Score(unit, watch); });
 }
 
-Double ShareDone(int done, int all) { return static_cast<Double>(done) / static_cast<Double>(all); }
-
 void TakeScore(const Evaluation& evaluation, const RatioScore& score, int unit, UnitResult& result) {
   const Attributes& made = evaluation.Made;
   result.Max = score.Score;
@@ -163,7 +161,7 @@ void TakeFree(Evaluation& evaluation, const Watch& watch) {
   RatioScorer scorer(evaluation.Made.Data, RegionOf(evaluation.Checked_, evaluation.Made, {}, -1),
                      evaluation.Technology);
   for (int k = 0; k < evaluation.Units(); ++k) {
-    watch.Report(ShareDone(k, evaluation.Units()));
+    watch.Report(k, evaluation.Units());
     evaluation.Found.Units[At(k)].Free = ScoreOf(evaluation, scorer, k, watch).Score;
   }
   evaluation.Found.WorstViolation = std::fmax(evaluation.Found.WorstViolation, scorer.WorstViolation());
@@ -171,7 +169,7 @@ void TakeFree(Evaluation& evaluation, const Watch& watch) {
 
 void TakeSuper(Evaluation& evaluation, RatioScorer& scorer, const Watch& watch) {
   for (int k = 0; k < evaluation.Units(); ++k) {
-    watch.Report(ShareDone(k, evaluation.Units()));
+    watch.Report(k, evaluation.Units());
     UnitResult& result = evaluation.Found.Units[At(k)];
     if (!result.Max || std::fabs(*result.Max - 1.0) > kIsOne) continue;
     result.Super = NamingUnit(evaluation.Problem_, evaluation.Checked_, k, [&] { return scorer.Super(k, watch); });
@@ -180,7 +178,7 @@ void TakeSuper(Evaluation& evaluation, RatioScorer& scorer, const Watch& watch) 
 
 void TakeMin(Evaluation& evaluation, const RatioRegion& region, const RatioScorer& scorer, const Watch& watch) {
   for (int k = 0; k < evaluation.Units(); ++k) {
-    watch.Report(ShareDone(k, evaluation.Units()));
+    watch.Report(k, evaluation.Units());
     UnitResult& result = evaluation.Found.Units[At(k)];
     const Double least = LeastEfficiency(evaluation.Made.Data, region, scorer.Candidates(), k);
     if (evaluation.Technology.Orientation == Orientation::In) {
@@ -203,7 +201,7 @@ bool MayBeHeldBack(const Evaluation& evaluation, const UnitResult& result) {
 // The bounds that bite in a unit's program are the only ones that can cost it anything.
 void TakeHeldBack(Evaluation& evaluation, const std::vector<std::vector<int>>& unitsOfBound, const Watch& watch) {
   for (int b = 0; At(b) < unitsOfBound.size(); ++b) {
-    watch.Report(ShareDone(b, static_cast<int>(unitsOfBound.size())));
+    watch.Report(b, static_cast<int>(unitsOfBound.size()));
     if (unitsOfBound[At(b)].empty()) continue;
     const JudgedBound& bound = evaluation.Bounds[At(b)];
     RatioScorer scorer(evaluation.Made.Data, RegionOf(evaluation.Checked_, evaluation.Made, evaluation.Bounds, b),
@@ -244,7 +242,7 @@ void TakeJudged(Evaluation& evaluation, const Watch& watch) {
   std::vector<std::vector<int>> unitsOfBound(evaluation.Bounds.size());
   const Watch scoring = watch.Part(0.0, 0.3);
   for (int k = 0; k < evaluation.Units(); ++k) {
-    scoring.Report(ShareDone(k, evaluation.Units()));
+    scoring.Report(k, evaluation.Units());
     UnitResult& result = evaluation.Found.Units[At(k)];
     const RatioScore score = ScoreOf(evaluation, scorer, k, watch);
     TakeScore(evaluation, score, k, result);

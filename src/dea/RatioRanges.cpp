@@ -8,8 +8,6 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-constexpr Double kSurely = 1e-9;
-
 // Efficiency of all units at some prices, not yet divided by the best one's.
 void Efficiencies(const RatioData& data, const Double* inputPrices, const Double* outputPrices,
                   std::vector<Double>& scores) {

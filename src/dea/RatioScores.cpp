@@ -11,7 +11,7 @@ namespace Tarnwise::Dea {
 namespace {
 
 // Lambdas this much smaller than the largest are rounding.
-constexpr Double kRounding = 1e-11;
+constexpr Double kLeastShare = 1e-11;
 
 constexpr Double kTight = 1e-7;
 
@@ -151,7 +151,7 @@ RatioScore RatioScorer::ScoreFrom(int unit, const PoolAnswer& answer) const {
       lambdaSize *= *score.Score;
     }
   }
-  const Double leastLambda = kRounding * LargestLambda(answer);
+  const Double leastLambda = kLeastShare * LargestLambda(answer);
   for (const auto& [other, lambda] : answer.Lambdas) {
     if (lambda <= leastLambda) continue;
     score.Peers.emplace_back(other, lambda * lambdaSize / std::fmax(LargestInput(other), LargestOutput(other)));
@@ -208,7 +208,7 @@ std::optional<Double> RatioScorer::Super(int unit, const Watch& watch) {
     scale = cap;
     answer = pool_->Solve(program, watch);
     for (const auto& [other, lambda] : answer.Lambdas) {
-      if (other == unit && lambda > kRounding) answer.Reached = false;
+      if (other == unit && lambda > kLeastShare) answer.Reached = false;
     }
   }
   if (!answer.Reached) return std::nullopt;

@@ -56,6 +56,7 @@ struct UnitResult {
 struct LeftOut {
   int Unit = 0;
   String Reason;
+  std::optional<int> Lacking;  // the column without a value; else all inputs are zero
 };
 
 // One raw unit of the column is worth so many of the reference's, as judged.

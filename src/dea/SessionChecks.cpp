@@ -11,8 +11,6 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-constexpr Double kLargest = 1e100;
-
 bool IsUsable(Double number) { return std::fabs(number) <= kLargest; }
 
 void CheckCurve(const Curve& curve, const String& where) {

@@ -5,6 +5,9 @@
 
 namespace Tarnwise::Dea {
 
+// Numbers beyond it would leave the range of Double in a product with others.
+constexpr Double kLargest = 1e100;
+
 // Fills in the scales in use, the references and the judged intervals.
 void CheckSession(const Problem& problem, Checked& checked);
 

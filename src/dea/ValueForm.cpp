@@ -124,8 +124,6 @@ ValueRegion RegionOf(const Problem& problem, const Checked& checked) {
   return region;
 }
 
-Double ShareDone(std::size_t done, std::size_t all) { return static_cast<Double>(done) / static_cast<Double>(all); }
-
 }  // namespace
 
 std::vector<int> ValueDominators(const Problem& problem, const Checked& checked, int unit) {
@@ -141,7 +139,7 @@ void EvaluateValues(const Problem& problem, const Checked& checked, const Watch&
   results.Units.resize(units);
   const Watch distances = watch.Part(0.0, 0.4);
   for (std::size_t k = 0; k < units; ++k) {
-    distances.Report(ShareDone(k, units));
+    distances.Report(static_cast<int>(k), static_cast<int>(units));
     results.Units[k].Unit = checked.Units[k];
     results.Units[k].Value = scorer.Range(static_cast<int>(k));
     const int unit = static_cast<int>(k);
@@ -149,7 +147,7 @@ void EvaluateValues(const Problem& problem, const Checked& checked, const Watch&
   }
   const Watch regrets = watch.Part(0.4, 0.6);
   for (std::size_t k = 0; k < units; ++k) {
-    regrets.Report(ShareDone(k, units));
+    regrets.Report(static_cast<int>(k), static_cast<int>(units));
     results.Units[k].Regret = scorer.Regret(static_cast<int>(k));
   }
   results.WorstViolation = scorer.WorstViolation();

@@ -8,12 +8,6 @@
 
 namespace Tarnwise::Dea {
 
-namespace {
-
-constexpr Double kSurely = 1e-9;
-
-}  // namespace
-
 ValueScorer::ValueScorer(const ValueData& data, ValueRegion region)
     : data_(data),
       region_(std::move(region)),

@@ -7,7 +7,7 @@ namespace Tarnwise::Dea {
 
 namespace {
 
-constexpr Double kRounding = 1e-12;  // of values
+constexpr Double kNoDistance = 1e-12;  // of values
 
 Double Clamped(Double value) { return std::clamp(value, 0.0, 1.0); }
 
@@ -97,7 +97,7 @@ Span SpanOf(const Scale& scale) {
   if (span.Score == 0.0) return span;
   const ValueFunction value(scale);
   const Double between = std::fabs(value.At(scale.Best) - value.At(scale.Worst));
-  span.Value = between < kRounding ? 0.0 : between;
+  span.Value = between < kNoDistance ? 0.0 : between;
   return span;
 }
 

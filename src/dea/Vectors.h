@@ -1,15 +1,14 @@
 // Small things that arithmetic on rows of numbers needs everywhere.
 #pragma once
 
+#include "runtime/At.h"
+
 #include <tarnwise/Scalars.h>
 
 #include <cmath>
-#include <cstddef>
 #include <vector>
 
 namespace Tarnwise::Dea {
-
-inline std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 // The largest number without regard to sign; 0 of none.
 inline Double LargestOf(const Double* numbers, std::size_t count) {

@@ -7,6 +7,8 @@ void Watch::Report(Double share) const {
   if (Progress) Progress(share);
 }
 
+void Watch::Report(int done, int all) const { Report(static_cast<Double>(done) / static_cast<Double>(all)); }
+
 void Watch::LookAtFlag() const {
   if (Cancel != nullptr && Cancel->load(std::memory_order_relaxed)) throw Cancelled();
 }

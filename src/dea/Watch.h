@@ -33,7 +33,8 @@ struct Watch {
   const std::atomic<bool>* Cancel = nullptr;   // any thread may set it; answered within 100 ms
 
   void Report(Double share) const;  // also looks at the flag
-  void LookAtFlag() const;          // throws Cancelled
+  void Report(int done, int all) const;
+  void LookAtFlag() const;  // throws Cancelled
   Watch Part(Double from, Double to) const;
 };
 

@@ -4,8 +4,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kFrameWidth = 6600.0F;
-constexpr Single kFrameHeight = 6300.0F;
 constexpr Single kGraphLeft = 1290.0F;
 constexpr Single kGraphTop = 1050.0F;
 constexpr Single kGraphSide = 3900.0F;
@@ -57,7 +55,7 @@ ChartControls::ChartControls(Form& form, Control& stage)
       imgTargetAtt(form, &framePCChart, "imgTargetAtt"),
       imgRefAtt(form, &framePCChart, "imgRefAtt"),
       imgMarks(form, &framePCChart, "imgMarks", [](Image& image) { image.Visible = false; }) {
-  Place(framePCChart, 0.0F, 60.0F, kFrameWidth, kFrameHeight);
+  Place(framePCChart, 0.0F, 60.0F, kChartFrameWidth, kChartFrameHeight);
   framePCChart.Caption = "Value reference region";
   Place(picPCGraph, kGraphLeft, kGraphTop, kGraphSide, kGraphSide);
   picPCGraph.Scale = ScaleMode::Pixels;
@@ -93,9 +91,9 @@ ChartControls::ChartControls(Form& form, Control& stage)
   labPCBestT.Bold = true;
   Place(labPCBestT, kGraphLeft + kGraphSide + 120.0F, kPlotBottom - 150.0F, 450.0F, 285.0F);
   Place(imgTargetAtt, 180.0F, 330.0F, 360.0F, 360.0F);
-  Place(lblChartTarAtt, 600.0F, 375.0F, kFrameWidth - 780.0F, 285.0F);
-  Place(imgRefAtt, kFrameWidth - 540.0F, kFrameHeight - 810.0F, 360.0F, 360.0F);
-  Place(lblChartRefAtt, 180.0F, kFrameHeight - 765.0F, kFrameWidth - 780.0F, 285.0F);
+  Place(lblChartTarAtt, 600.0F, 375.0F, kChartFrameWidth - 780.0F, 285.0F);
+  Place(imgRefAtt, kChartFrameWidth - 540.0F, kChartFrameHeight - 810.0F, 360.0F, 360.0F);
+  Place(lblChartRefAtt, 180.0F, kChartFrameHeight - 765.0F, kChartFrameWidth - 780.0F, 285.0F);
   lblChartRefAtt.Alignment = Align::Right;
   const char* const marks[] = {"mark.benefitTarget", "mark.benefitReference", "mark.costTarget", "mark.costReference"};
   for (int i = 0; i < 4; ++i) (i == 0 ? imgMarks[0] : imgMarks.Load(i)).Picture = marks[i];

@@ -4,18 +4,9 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kChartFrameWidth = 6600.0F;
-constexpr Single kRightLeft = kChartFrameWidth + 360.0F;
-constexpr Single kRightWidth = kFormWidth - 2 * kMargin - kRightLeft;
 constexpr Single kEntryTop = 750.0F;
 constexpr Single kTabTop = 2010.0F;
-constexpr Single kTabHeight = 390.0F;
-constexpr Single kRestartWidth = 1530.0F;
-
-void PutText(Label& label, const char* caption, Single left, Single top, Single width) {
-  label.Caption = caption;
-  Place(label, left, top, width, 285.0F);
-}
+constexpr Single kOrderTabHeight = 390.0F;
 
 }  // namespace
 
@@ -79,10 +70,10 @@ void DirectBForm::LayOutEntry() {
 }
 
 void DirectBForm::LayOutTabs() {
-  Place(tsTab, kRightLeft, kTabTop, kRightWidth, kTabHeight);
+  Place(tsTab, kRightLeft, kTabTop, kRightWidth, kOrderTabHeight);
   tsTab.Tabs = {{"Importance order", "PreOrder"}, {"Performance range", "PerfRange"}};
   tsTab.TabIndex = 50;
-  const Single panelTop = kTabTop + kTabHeight;
+  const Single panelTop = kTabTop + kOrderTabHeight;
   PlaceDisplay(BOrder, kRightLeft, panelTop, kRightWidth);
   PlaceDisplay(COrder, kRightLeft, panelTop, kRightWidth);
   Place(framePerfRange, kRightLeft, panelTop, kRightWidth, kOrderFrameHeight);

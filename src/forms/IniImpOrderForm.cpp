@@ -82,13 +82,13 @@ RankControls::RankControls(Form& form, Control& stage, bool benefit)
   fmOA.Caption = benefit ? "Benefit-oriented attributes:" : "Cost-oriented attributes:";
   PlaceViewport(picAttPanel, 180.0F, kViewportTop, kListWidth, kViewportHeight);
   Place(picAttPLst, 0.0F, 0.0F, kListWidth - kScrollBarWidth - 60.0F, kViewportHeight);
-  picAttPLst.BackColor = kPaper;
+  picAttPLst.BackColor = kWhite;
   PlaceBar(vsrAtt, picAttPanel, static_cast<int>(kViewportHeight));
   vsrAtt.TabIndex = TabPlace(benefit, 0) + 49;
   vsrAtt.AccessibleName = "Scroll the attributes";
   PlaceViewport(picOrderPanel, kRankLeft, kViewportTop, kRankWidth, kViewportHeight);
   Place(picOrderCon, 0.0F, 0.0F, kRankWidth - kScrollBarWidth - 60.0F, kOrderContentHeight);
-  picOrderCon.BackColor = kPaper;
+  picOrderCon.BackColor = kWhite;
   PlaceBar(vsrOrder, picOrderPanel, static_cast<int>(kOrderContentHeight));
   vsrOrder.TabIndex = TabPlace(benefit, 1) + 49;
   vsrOrder.AccessibleName = "Scroll the ranks";

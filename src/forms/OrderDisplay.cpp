@@ -45,7 +45,7 @@ OrderDisplay::OrderDisplay(Form& form, Control& stage, bool benefit, int tabInde
 
 void PlaceViewport(PictureBox& box, Single left, Single top, Single width, Single height) {
   Place(box, left, top, width, height);
-  box.BackColor = kPaper;
+  box.BackColor = kWhite;
   box.Bordered = true;
 }
 
@@ -65,7 +65,7 @@ void Scrolls(VScrollBar& bar, PictureBox& content) {
 void PlaceDisplay(OrderDisplay& display, Single left, Single top, Single width) {
   PlaceViewport(display.picOrderFrame, left, top, width, kOrderFrameHeight);
   Place(display.picOP, 0.0F, 0.0F, width - kScrollBarWidth - 60.0F, kOrderContentHeight);
-  display.picOP.BackColor = kPaper;
+  display.picOP.BackColor = kWhite;
   PlaceButton(display, display.cmdAttButtons[0], kFirstButtonTop);
   PlaceBar(display.vsrO, display.picOrderFrame, static_cast<int>(kOrderContentHeight));
 }

@@ -10,7 +10,6 @@ constexpr Single kOrderFrameHeight = 3000.0F;
 constexpr Single kOrderContentHeight = 32000.0F;
 constexpr Single kRowHeight = kAttButtonHeight + 140.0F;  // of a row with one button or none
 constexpr Single kRowLeft = 480.0F;
-constexpr Colour kPaper = 0xFFFFFF;
 constexpr Colour kRowColour = 0xF4F1EE;
 
 struct OrderDisplay {

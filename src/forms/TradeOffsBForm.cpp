@@ -8,15 +8,7 @@ namespace {
 // place makes it the right half of the page.
 constexpr Single kToolsLeft = 3855.0F;
 constexpr Single kToolsTop = 2700.0F;
-constexpr Single kRestartWidth = 1530.0F;
 constexpr Single kToolsHeight = 3600.0F;
-constexpr Single kRightLeft = 6960.0F;
-constexpr Single kRightWidth = kFormWidth - 2 * kMargin - kRightLeft;
-
-void PutText(Label& label, const char* caption, Single left, Single top, Single width) {
-  label.Caption = caption;
-  Place(label, left, top, width, 285.0F);
-}
 
 }  // namespace
 

@@ -4,13 +4,11 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Single kChartFrameWidth = 6600.0F;
-constexpr Single kChartFrameHeight = 6300.0F;
-constexpr Single kPlotSide = 4200.0F;
-constexpr Single kPlotLeft = 705.0F;  // in the graph
-constexpr Single kPlotTop = 330.0F;
-constexpr Single kGraphWidth = kPlotLeft + kPlotSide + 525.0F;
-constexpr Single kGraphHeight = kPlotTop + kPlotSide + 660.0F;
+constexpr Single kScatterSide = 4200.0F;
+constexpr Single kScatterLeft = 705.0F;  // in the graph
+constexpr Single kScatterTop = 330.0F;
+constexpr Single kGraphWidth = kScatterLeft + kScatterSide + 525.0F;
+constexpr Single kGraphHeight = kScatterTop + kScatterSide + 660.0F;
 constexpr Single kMarkSide = 150.0F;
 constexpr Single kCornerSide = 165.0F;
 
@@ -30,12 +28,6 @@ void Corner(Shape& shape, Label& caption, const char* name) {
   caption.Caption = name;
   caption.Bold = true;
   caption.Points = 8;
-}
-
-void PutText(Label& label, const char* caption, Single left, Single top, Single width, Align alignment = Align::Left) {
-  label.Caption = caption;
-  label.Alignment = alignment;
-  Place(label, left, top, width, 285.0F);
 }
 
 void PlaceTools(Toolbar& toolbar, Single left, Single top, const char* name, std::vector<Toolbar::Button> buttons) {
@@ -68,27 +60,27 @@ AlternativesControls::AlternativesControls(Form& form, Control& stage)
   Place(frameChart, 0.0F, 0.0F, kChartFrameWidth, kChartFrameHeight);
   frameChart.Caption = "Alternatives A and B";
   Place(picPCGraph, 570.0F, 690.0F, kGraphWidth, kGraphHeight);
-  Place(picTradeOffsRange, kPlotLeft, kPlotTop, kPlotSide, kPlotSide);
+  Place(picTradeOffsRange, kScatterLeft, kScatterTop, kScatterSide, kScatterSide);
   picTradeOffsRange.BackColor = 0xFFFFFF;
   picTradeOffsRange.Bordered = true;
   picTradeOffsRange.AccessibleName = "Chart of the two alternatives";
   for (int i = 0; i < 5; ++i) {
-    const Single along = kPlotSide / 6.0F * static_cast<Single>(i + 1);
+    const Single along = kScatterSide / 6.0F * static_cast<Single>(i + 1);
     Line& v = i == 0 ? GridV[0] : GridV.Load(i);
     Line& h = i == 0 ? GridH[0] : GridH.Load(i);
     v.X1 = v.X2 = along;
-    v.Y2 = kPlotSide;
+    v.Y2 = kScatterSide;
     h.Y1 = h.Y2 = along;
-    h.X2 = kPlotSide;
+    h.X2 = kScatterSide;
   }
   Mark(shpPCA, "PointA", "drag.A", "Alternative A", 20);
   Mark(shpPCB, "PointB", "drag.B", "Alternative B", 21);
   for (int k = 0; k <= 6; ++k) {
     Label& x = k == 0 ? labPCX[0] : labPCX.Load(k);
     Label& y = k == 0 ? labPCY[0] : labPCY.Load(k);
-    const Single along = kPlotSide / 6.0F * static_cast<Single>(k);
-    Place(x, kPlotLeft + along - 330.0F, kPlotTop + kPlotSide + 75.0F, 660.0F, 240.0F);
-    Place(y, 0.0F, kPlotTop + kPlotSide - along - 120.0F, kPlotLeft - 90.0F, 240.0F);
+    const Single along = kScatterSide / 6.0F * static_cast<Single>(k);
+    Place(x, kScatterLeft + along - 330.0F, kScatterTop + kScatterSide + 75.0F, 660.0F, 240.0F);
+    Place(y, 0.0F, kScatterTop + kScatterSide - along - 120.0F, kScatterLeft - 90.0F, 240.0F);
     x.Points = 8;
     y.Points = 8;
   }

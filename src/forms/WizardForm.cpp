@@ -21,6 +21,12 @@ void Place(Control& control, Single left, Single top, Single width, Single heigh
   control.Height = height;
 }
 
+void PutText(Label& label, const char* caption, Single left, Single top, Single width, Align alignment) {
+  label.Caption = caption;
+  label.Alignment = alignment;
+  Place(label, left, top, width, 285.0F);
+}
+
 WizardForm::WizardForm(std::shared_ptr<Platform> platform, const String& name, const String& helpName)
     : Form(std::move(platform), name), cmdHelp(*this, this, helpName) {
   Place(*this, 0.0F, 0.0F, kFormWidth, kFormHeight);

@@ -17,11 +17,20 @@ constexpr Single kButtonHeight = 420.0F;
 constexpr Single kAttButtonHeight = 375.0F;  // of every attribute button
 constexpr Single kScrollBarWidth = 255.0F;
 
+// Both judging steps have their chart at the left of the page and, beside it, what is said of the target.
+constexpr Single kChartFrameWidth = 6600.0F;
+constexpr Single kChartFrameHeight = 6300.0F;
+constexpr Single kRightLeft = kChartFrameWidth + 360.0F;
+constexpr Single kRightWidth = kFormWidth - 2 * kMargin - kRightLeft;
+constexpr Single kRestartWidth = 1530.0F;
+
 constexpr Colour kBenefitColour = 0xC0C0FF;  // light red
 constexpr Colour kCostColour = 0xFFC0C0;     // light blue
 
 // Moves a control to its place, in the scale of its container.
 void Place(Control& control, Single left, Single top, Single width, Single height);
+// A line of text there.
+void PutText(Label& label, const char* caption, Single left, Single top, Single width, Align alignment = Align::Left);
 
 struct WizardForm : Form {
   WizardForm(std::shared_ptr<Platform> platform, const String& name, const String& helpName);

@@ -5,8 +5,6 @@ namespace Tarnwise {
 namespace {
 
 constexpr Colour kOut = 0x808080;
-constexpr Colour kBlack = 0;
-constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kEntered[] = {0x00FF00, 0x000808, 0x004080};  // on coming into force
 constexpr Colour kBlink[] = {0x00FF00, 0x00FFFF, 0x0080FF};    // alternates with white
 

@@ -4,6 +4,7 @@
 #include "modelfiles/ModelJson.h"
 #include "modelfiles/ModelWriter.h"
 #include "modelfiles/PointsFile.h"
+#include "program/Console.h"
 #include "project/CsvDelimiter.h"
 #include "project/ImportModel.h"
 #include "project/ProjectChecks.h"
@@ -18,8 +19,6 @@
 namespace Tarnwise {
 
 namespace {
-
-constexpr int kRefused = 2;
 
 String PathText(const std::filesystem::path& path) {
   const std::u8string text = path.u8string();

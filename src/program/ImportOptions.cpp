@@ -11,8 +11,8 @@ namespace {
 
 // The value of an option that is one of several words; nothing where the option was not given.
 template <class Value>
-std::optional<Value> Word(const String& word, std::optional<Value> (*named)(const String&), const char* option,
-                          const char* words) {
+std::optional<Value> Chosen(const String& word, std::optional<Value> (*named)(const String&), const char* option,
+                            const char* words) {
   if (word.empty()) return std::nullopt;
   const auto value = named(word);
   if (!value) throw ModelFault(String(option) + ": " + words + " is wanted, here is " + Shown(word));
@@ -48,11 +48,13 @@ TableOptions TableOptionsOf(const ImportOptions& given) {
   options.Outputs = given.Outputs;
   options.Unused = given.Unused;
   for (const String& range : given.Ranges) options.Ranges.push_back(RangeOf(range));
-  options.Csv.Encoding = Word(given.Encoding, EncodingNamed, "--encoding", "utf-8, utf-16le, utf-16be or windows-1252");
-  options.Csv.Delimiter = Word(given.Delimiter, DelimiterNamed, "--delimiter", "comma, semicolon, tab, bar or a sign");
+  options.Csv.Encoding =
+      Chosen(given.Encoding, EncodingNamed, "--encoding", "utf-8, utf-16le, utf-16be or windows-1252");
+  options.Csv.Delimiter =
+      Chosen(given.Delimiter, DelimiterNamed, "--delimiter", "comma, semicolon, tab, bar or a sign");
   if (given.Header || given.NoHeader) options.Csv.Header = given.Header;
-  options.Numbers.Decimal = Word(given.Decimal, DecimalNamed, "--decimal", "point or comma");
-  options.Numbers.Thousands = Word(given.Thousands, SignNamed, "--thousands", "point, comma, blank or apostrophe");
+  options.Numbers.Decimal = Chosen(given.Decimal, DecimalNamed, "--decimal", "point or comma");
+  options.Numbers.Thousands = Chosen(given.Thousands, SignNamed, "--thousands", "point, comma, blank or apostrophe");
   options.Numbers.Missing = given.Missing;
   return options;
 }

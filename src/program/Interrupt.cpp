@@ -6,7 +6,7 @@ namespace Tarnwise {
 
 namespace {
 
-std::atomic<bool> asked{false};
+std::atomic<bool> interrupted{false};
 std::atomic<int> received{0};
 static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<int>::is_always_lock_free,
               "a signal handler may touch nothing else");
@@ -14,13 +14,13 @@ static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<int>::is_alw
 void Note(int signal) {
   std::signal(signal, SIG_DFL);
   received = signal;
-  asked = true;
+  interrupted = true;
 }
 
 }  // namespace
 
 Interrupt::Interrupt() {
-  asked = false;
+  interrupted = false;
   received = 0;
   std::signal(SIGINT, Note);
   std::signal(SIGTERM, Note);
@@ -31,7 +31,7 @@ Interrupt::~Interrupt() {
   std::signal(SIGTERM, SIG_DFL);
 }
 
-const std::atomic<bool>* Interrupt::Flag() const { return &asked; }
+const std::atomic<bool>* Interrupt::Flag() const { return &interrupted; }
 
 int Interrupt::Status() const {
   constexpr int kBySignal = 128;

@@ -34,7 +34,7 @@ std::vector<char> BytesToWrite(const WizardData& data, const String& from, const
   }
 }
 
-void RefuseSameFile(const String& jsonPath, const String& kstPath) {
+void KeepDescription(const String& jsonPath, const String& kstPath) {
   std::error_code error;
   if (std::filesystem::equivalent(PathFromText(jsonPath), PathFromText(kstPath), error)) {
     throw ModelFault("the model would overwrite its description " + jsonPath);
@@ -58,7 +58,7 @@ int BuildModel(const String& jsonPath, const String& kstPath, const String& code
     const WizardData data = DescribedModel(jsonPath);
     const std::vector<char> bytes = BytesToWrite(data, jsonPath, texts);
     for (const String& warning : ModelWarnings(data)) err << jsonPath << ": warning: " << warning << "\n";
-    RefuseSameFile(jsonPath, kstPath);
+    KeepDescription(jsonPath, kstPath);
     WriteFileAtomically(kstPath, bytes);
     out << kstPath << ": " << Counted(data.NumAtts(), "attribute") << ", "
         << Counted(CountNamed(data.AlternativeList.Unused1), "alternative") << "\n";

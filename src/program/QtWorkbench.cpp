@@ -1,4 +1,3 @@
-#include "program/Pdf.h"
 #include "program/QtStart.h"
 #include "program/Workbench.h"
 #include "workbench/MainWindow.h"
@@ -41,7 +40,8 @@ int TakePictures(MainWindow& window, const String& folder) {
   const std::pair<PageKind, const char*> pages[] = {{PageKind::Data, "1-data.png"},
                                                     {PageKind::Attributes, "2-attributes.png"},
                                                     {PageKind::Judgments, "3-judgments.png"},
-                                                    {PageKind::Results, "4-results.png"}};
+                                                    {PageKind::Results, "4-results.png"},
+                                                    {PageKind::Report, "5-report.png"}};
   for (const auto& [page, name] : pages) {
     window.ShowPage(page);
     LetWork(window.Results());
@@ -60,7 +60,6 @@ int OpenWorkbench(const OpenOptions& options, int& argc, char** argv) {
   QApplication::setOrganizationName(QStringLiteral("Tarnwise"));
   QApplication::setApplicationName(QStringLiteral("Tarnwise"));
   MainWindow window;
-  window.ReportBy(PdfOf);
   window.show();
   if (!options.File.empty() && !window.Open(QString::fromStdString(options.File)) && !options.Pictures.empty())
     return 2;

@@ -13,7 +13,7 @@ namespace {
 constexpr double kBars = 430.0;  // from end to end of the axis
 constexpr double kLetter = 7.0;  // of a name, about
 constexpr double kLeast = 60.0;  // for names
-constexpr double kTop = 8.0;
+constexpr double kRowsTop = 8.0;
 constexpr double kRow = 20.0;
 constexpr std::size_t kNameLength = 26;
 
@@ -88,11 +88,11 @@ ChartAxis LogAxis(double low, double high) {
 
 ChartRows::ChartRows(const std::vector<String>& names, const ChartAxis& axis, const String& axisName)
     : axis_(axis), rows_(names.size()), left_(RoomFor(names)), right_(left_ + kBars) {
-  const double bottom = kTop + kRow * static_cast<double>(rows_);
+  const double bottom = kRowsTop + kRow * static_cast<double>(rows_);
   drawing_.Width = right_ + 30.0;
   drawing_.Height = bottom + 40.0;
   for (const double at : axis_.Ticks) {
-    drawing_.Line(X(at), kTop, X(at), bottom + 4.0, Tone::Pale);
+    drawing_.Line(X(at), kRowsTop, X(at), bottom + 4.0, Tone::Pale);
     drawing_.Text(X(at), bottom + 17.0, ShortestText(at), Anchor::Middle, Tone::Dark, 11.0);
   }
   drawing_.Line(left_, bottom, right_, bottom, Tone::Dark);
@@ -108,7 +108,7 @@ double ChartRows::X(double value) const {
   return left_ + (right_ - left_) * std::clamp(share, 0.0, 1.0);
 }
 
-double ChartRows::Y(std::size_t row) const { return kTop + kRow * (static_cast<double>(row) + 0.5); }
+double ChartRows::Y(std::size_t row) const { return kRowsTop + kRow * (static_cast<double>(row) + 0.5); }
 
 void ChartRows::Bar(std::size_t row, double low, double high, Tone tone, double thickness) {
   constexpr double kPoint = 1.5;
@@ -120,7 +120,7 @@ void ChartRows::Tick(std::size_t row, double at) {
 }
 
 void ChartRows::Mark(double at) {
-  drawing_.Line(X(at), kTop, X(at), kTop + kRow * static_cast<double>(rows_), Tone::Dark, 1.0, true);
+  drawing_.Line(X(at), kRowsTop, X(at), kRowsTop + kRow * static_cast<double>(rows_), Tone::Dark, 1.0, true);
 }
 
 }  // namespace Tarnwise

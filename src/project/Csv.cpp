@@ -15,12 +15,12 @@ namespace {
 String LineText(std::size_t line) { return "line " + std::to_string(line); }
 
 // Spreadsheets write the delimiter into a line of its own before all others: "sep=;".
-struct Beginning {
+struct FirstLine {
   std::optional<char> Delimiter;
   std::size_t Size = 0;
 };
 
-Beginning DelimiterLine(std::string_view text) {
+FirstLine DelimiterLine(std::string_view text) {
   constexpr std::string_view kSep = "sep=";
   const std::size_t size = kSep.size() + 1;
   if (!text.starts_with(kSep) || text.size() <= size || (text[size] != '\r' && text[size] != '\n')) return {};
@@ -157,7 +157,7 @@ CsvTable ReadCsv(std::vector<char> bytes, const CsvOptions& options) {
   std::string_view text(table.Text.data(), table.Text.size());
   if (WithoutBlanks(text).find_first_not_of("\r\n") == std::string_view::npos) throw ModelFault("it is empty");
 
-  const Beginning beginning = DelimiterLine(text);
+  const FirstLine beginning = DelimiterLine(text);
   text.remove_prefix(beginning.Size);
   const std::size_t firstLine = beginning.Size == 0 ? 1 : 2;
   const auto told = options.Delimiter ? options.Delimiter : beginning.Delimiter;

@@ -1,6 +1,7 @@
 #include "modelfiles/WholeFile.h"
 #include "project/Exports.h"
 #include "project/JsonMembers.h"
+#include "runtime/At.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,6 @@ namespace {
 
 // No bound: as far above the price that makes both columns worth the same.
 constexpr double kFarAbove = 1e9;
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 // R reads JSON's numbers; what is none is not available.
 String Number(const std::optional<double>& number) {

@@ -25,17 +25,22 @@ bool HasScore(const WizardData& data, int alternative, int attribute) {
          data.Scores.Scores(alternative, attribute) != 0.0;
 }
 
-Model Read(const WizardData& data) {
-  Model model{data, {}, std::clamp(data.NumAtts(), 0, kMaxAtts)};
+Model ReadAttributes(const WizardData& data) {
+  const Model model{data, {}, std::clamp(data.NumAtts(), 0, kMaxAtts)};
   if (model.Attributes != data.NumAtts()) {
     throw ModelFault("the model says that it has " + std::to_string(data.NumAtts()) + " attributes");
   }
+  if (model.Attributes == 0) throw ModelFault("the model has no attributes");
+  return model;
+}
+
+Model Read(const WizardData& data) {
+  Model model = ReadAttributes(data);
   for (int a = 0; a < kMaxAlternatives; ++a) {
     bool used = !WithoutBlanks(data.AlternativeList.Unused1[a]).empty();
     for (int i = 0; i < model.Attributes; ++i) used = used || HasScore(data, a, i);
     if (used) model.Alternatives.push_back(a);
   }
-  if (model.Attributes == 0) throw ModelFault("the model has no attributes");
   if (model.Alternatives.empty()) throw ModelFault("the model has no alternatives, which would be the units");
   return model;
 }
@@ -153,10 +158,8 @@ void TakeJudgments(const Model& model, const String& points, ImportedModel& impo
   if (bothGroups) stored.Cross = StoredCross(saved.SavedRefAttWR, imported.Notes);
 }
 
-}  // namespace
-
-ImportedModel ImportModel(const WizardData& data, const String& points) {
-  const Model model = Read(data);
+ImportedModel Import(const Model& model, const String& points) {
+  const WizardData& data = model.Data;
   ImportedModel imported;
   for (const int a : model.Alternatives) {
     imported.Project.Units.push_back(OnOneLine(data.AlternativeList.Unused1[a]));
@@ -165,6 +168,14 @@ ImportedModel ImportModel(const WizardData& data, const String& points) {
   if (data.HasStoredJudgments()) TakeJudgments(model, points, imported);
   CheckRecords(imported.Project);
   return imported;
+}
+
+}  // namespace
+
+ImportedModel ImportModel(const WizardData& data, const String& points) { return Import(Read(data), points); }
+
+ImportedModel ImportScalesAndJudgments(const WizardData& data, const String& points) {
+  return Import(ReadAttributes(data), points);
 }
 
 }  // namespace Tarnwise

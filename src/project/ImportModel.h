@@ -22,4 +22,7 @@ struct ImportedModel {
 // CheckRecords names.
 ImportedModel ImportModel(const WizardData& data, const String& points);
 
+// The same of a model that need not have alternatives: without units.
+ImportedModel ImportScalesAndJudgments(const WizardData& data, const String& points);
+
 }  // namespace Tarnwise

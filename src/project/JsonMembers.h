@@ -6,6 +6,7 @@
 namespace Tarnwise {
 
 constexpr const char* kOnOneLine = ", ";
+constexpr const char* kTopLines = ",\n  ";  // a line each, in what is a whole file
 
 // The text in JSON's quotes; a ModelFault that begins with the field where it is not valid UTF-8.
 String JsonQuotes(const String& text, const String& field);

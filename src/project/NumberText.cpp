@@ -9,7 +9,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kBlanks = {" ", "\xC2\xA0", "\xE2\x80\x89", "\xE2\x80\xAF"};
+constexpr std::array<std::string_view, 4> kGroupBlanks = {" ", "\xC2\xA0", "\xE2\x80\x89", "\xE2\x80\xAF"};
 constexpr std::array<std::string_view, 2> kApostrophes = {"'", "\xE2\x80\x99"};
 constexpr std::array<std::string_view, 14> kMissing = {
     "-", "--", "\xE2\x80\x93", "\xE2\x80\x94", "?", ".", "..", ":", "na", "n/a", "#n/a", "nan", "null", "none"};
@@ -24,7 +24,7 @@ std::size_t MarkLength(std::string_view text, char mark) {
         std::find_if(marks.begin(), marks.end(), [&](std::string_view m) { return text.starts_with(m); });
     return found == marks.end() ? std::size_t{0} : found->size();
   };
-  if (mark == ' ') return longest(kBlanks);
+  if (mark == ' ') return longest(kGroupBlanks);
   if (mark == '\'') return longest(kApostrophes);
   return mark != '\0' && text.starts_with(mark) ? 1 : 0;
 }

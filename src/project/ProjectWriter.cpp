@@ -5,7 +5,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr const char* kTopLines = ",\n  ";
 constexpr const char* kSessionLines = ",\n      ";
 
 void PutCurve(JsonMembers& members, String& out, const std::vector<ValuePoint>& curve) {

@@ -7,6 +7,8 @@
 
 namespace Tarnwise {
 
+constexpr std::size_t kMostUnitsShown = 1000;  // in a table of units
+
 struct ReportTable {
   String Caption;
   std::vector<String> Header;

@@ -13,8 +13,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr std::size_t kMostRows = 1000;
-
 const JudgmentSession* SessionOf(const Project& project, const Evaluation& evaluation) {
   return evaluation.How.Session ? &project.Sessions[*evaluation.How.Session] : nullptr;
 }
@@ -105,7 +103,7 @@ void AddData(const Project& project, const Evaluation& evaluation, Report& repor
   }
   ReportTable table{"The units", {"Unit"}, {}, 1};
   for (const Dea::Column& column : evaluation.Problem.Columns) table.Header.push_back(ShownName(column.Name));
-  for (std::size_t k = 0; k < project.Units.size() && k < kMostRows; ++k) {
+  for (std::size_t k = 0; k < project.Units.size() && k < kMostUnitsShown; ++k) {
     std::vector<String> row{project.Units[k]};
     for (const Dea::Column& column : evaluation.Problem.Columns) {
       row.push_back(std::isnan(column.Values[k]) ? String("missing") : ShortestText(column.Values[k]));
@@ -113,8 +111,8 @@ void AddData(const Project& project, const Evaluation& evaluation, Report& repor
     table.Rows.push_back(std::move(row));
   }
   report.Add(std::move(table));
-  if (project.Units.size() > kMostRows) {
-    report.Paragraph("The first " + std::to_string(kMostRows) + " of " + std::to_string(project.Units.size()) +
+  if (project.Units.size() > kMostUnitsShown) {
+    report.Paragraph("The first " + std::to_string(kMostUnitsShown) + " of " + std::to_string(project.Units.size()) +
                      " units are shown; the project holds all of them.");
   }
 }

@@ -10,7 +10,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr std::size_t kMostRows = 1000;
 constexpr std::size_t kMostReasons = 200;
 
 String RankPart(const Dea::UnitResult& unit) {
@@ -132,9 +131,9 @@ void AddScores(const Evaluation& evaluation, Report& report) {
   const auto& units = evaluation.Results.Units;
   report.Section(scores.IsValue() ? "Values" : "Efficiencies");
   ReportTable table{"Scores", scores.Header(), {}, 1};
-  for (std::size_t k = 0; k < std::min(units.size(), kMostRows); ++k) table.Rows.push_back(scores.Row(units[k]));
+  for (std::size_t k = 0; k < std::min(units.size(), kMostUnitsShown); ++k) table.Rows.push_back(scores.Row(units[k]));
   report.Add(std::move(table));
-  SayShown(kMostRows, units.size(), report);
+  SayShown(kMostUnitsShown, units.size(), report);
   report.Add(ScoresChart(evaluation), ChartText(scores));
   if (scores.HasRanks()) {
     report.Add(RanksChart(evaluation),

@@ -5,8 +5,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr const char* kTopLines = ",\n  ";
-
 // What stands in the results of what was asked for.
 struct Writer {
   const Evaluation& From;

@@ -15,8 +15,8 @@ constexpr double kIsBehind = 1e-9;
 constexpr int kDecimals = 3;
 
 // Three decimals; more of them where those would say `mark` for what is not.
-String TextBeside(double mark, const std::optional<double>& number) {
-  if (!number) return kNoNumber;
+String TextBeside(double mark, const std::optional<double>& number, const ResultsSigns& signs) {
+  if (!number) return signs.NoNumber;
   const double apart = std::fabs(*number - mark);
   int decimals = kDecimals;
   while (apart > kIsOne && decimals < 9 && apart < 0.5 * std::pow(10.0, -decimals)) ++decimals;
@@ -26,9 +26,20 @@ String TextBeside(double mark, const std::optional<double>& number) {
 // Ratios with two decimals; small ones as far as they have digits.
 String RatioText(double ratio) { return ratio < 0.1 ? SignificantText(ratio, 3) : FixedText(ratio, 2); }
 
-String RankText(const Dea::RankRange& ranks) {
+String RankText(const Dea::RankRange& ranks, const ResultsSigns& signs) {
   return ranks.Best == ranks.Worst ? std::to_string(ranks.Best)
-                                   : std::to_string(ranks.Best) + "-" + std::to_string(ranks.Worst);
+                                   : std::to_string(ranks.Best) + signs.RankSpan + std::to_string(ranks.Worst);
+}
+
+// The first ones, and how many more there are.
+String FirstOf(const std::vector<String>& items, std::size_t most, const ResultsSigns& signs) {
+  String text;
+  for (std::size_t i = 0; i < std::min(items.size(), most); ++i) text += (i == 0 ? "" : ", ") + items[i];
+  if (items.size() <= most) return text;
+  String more = signs.More;
+  const std::size_t place = more.find("%1");
+  if (place != String::npos) more.replace(place, 2, std::to_string(items.size() - most));
+  return text + more;
 }
 
 int Count(const Evaluation& evaluation, std::optional<double> Dea::UnitResult::*score) {
@@ -48,36 +59,41 @@ bool IsOne(const std::optional<double>& score) { return score && std::fabs(*scor
 
 bool IsBest(const Dea::UnitResult& unit) { return !unit.Distance || *unit.Distance <= kIsBehind; }
 
-String ScoreText(const std::optional<double>& score) { return TextBeside(1.0, score); }
-
-String DistanceText(const std::optional<double>& distance) { return TextBeside(0.0, distance); }
-
-String ThreeDecimals(const std::optional<double>& number) { return number ? FixedText(*number, kDecimals) : kNoNumber; }
-
-String SpanText(const String& low, const String& high) { return low == high ? low : low + " - " + high; }
-
-String RanksText(const Dea::UnitResult& unit) {
-  if (!unit.Ranks) return kNoNumber;
-  const String sure = RankText(*unit.Ranks);
-  const String seen = unit.RanksSeen ? RankText(*unit.RanksSeen) : sure;
-  return sure == seen ? sure : sure + ", seen " + seen;
+String ScoreText(const std::optional<double>& score, const ResultsSigns& signs) {
+  return TextBeside(1.0, score, signs);
 }
 
-String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
+String DistanceText(const std::optional<double>& distance, const ResultsSigns& signs) {
+  return TextBeside(0.0, distance, signs);
+}
+
+String ThreeDecimals(const std::optional<double>& number, const ResultsSigns& signs) {
+  return number ? FixedText(*number, kDecimals) : signs.NoNumber;
+}
+
+String SpanText(const String& low, const String& high, const ResultsSigns& signs) {
+  return low == high ? low : low + signs.Span + high;
+}
+
+String RanksText(const Dea::UnitResult& unit, const ResultsSigns& signs) {
+  if (!unit.Ranks) return signs.NoNumber;
+  const String sure = RankText(*unit.Ranks, signs);
+  const String seen = unit.RanksSeen ? RankText(*unit.RanksSeen, signs) : sure;
+  return sure == seen ? sure : sure + signs.Seen + seen;
+}
+
+String BoundText(const Evaluation& evaluation, const Dea::HeldBackBy& bound, const ResultsSigns& signs) {
   const String& name = evaluation.Problem.Columns[static_cast<std::size_t>(bound.Column)].Name;
   const String gain = bound.Gain < 0.0005 ? SignificantText(bound.Gain, 1) : FixedText(bound.Gain, 3);
-  return ShownName(name) + (bound.Side == Dea::Side::Low ? " >= " : " <= ") + RatioText(bound.Ratio) + " (" + gain +
-         ")";
+  return ShownName(name) + (bound.Side == Dea::Side::Low ? signs.AtLeast : signs.AtMost) + RatioText(bound.Ratio) +
+         " (" + gain + ")";
 }
 
-String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
+String HeldBackText(const Evaluation& evaluation, const Dea::UnitResult& unit, const ResultsSigns& signs) {
   constexpr std::size_t kMost = 4;
-  String text;
-  for (std::size_t b = 0; b < std::min(unit.HeldBackBy.size(), kMost); ++b) {
-    text += (b == 0 ? "" : ", ") + BoundText(evaluation, unit.HeldBackBy[b]);
-  }
-  return unit.HeldBackBy.size() <= kMost ? text
-                                         : text + " and " + std::to_string(unit.HeldBackBy.size() - kMost) + " more";
+  std::vector<String> bounds;
+  for (const Dea::HeldBackBy& bound : unit.HeldBackBy) bounds.push_back(BoundText(evaluation, bound, signs));
+  return FirstOf(bounds, kMost, signs);
 }
 
 String JudgedText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
@@ -87,13 +103,14 @@ String JudgedText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   return evaluation.How.Orientation == ScoreOrientation::Out ? SpanText(best, worst) : SpanText(worst, best);
 }
 
-String PeersText(const Evaluation& evaluation, const Dea::UnitResult& unit) {
+String PeersText(const Evaluation& evaluation, const Dea::UnitResult& unit, const ResultsSigns& signs) {
+  constexpr std::size_t kMost = 10;
   std::vector<String> peers;
   for (const Dea::Peer& peer : unit.Peers) {
     const String& name = evaluation.Problem.Units[static_cast<std::size_t>(peer.Unit)];
     peers.push_back(ShownName(name) + " " + SignificantText(peer.Lambda, kDecimals));
   }
-  return Enumerated(peers);
+  return FirstOf(peers, kMost, signs);
 }
 
 String RatioSummary(const Evaluation& evaluation) {

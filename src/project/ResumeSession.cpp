@@ -5,6 +5,7 @@
 #include "project/Evaluation.h"
 #include "project/ProjectChecks.h"
 #include "project/Shown.h"
+#include "runtime/At.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,8 +14,6 @@
 namespace Tarnwise {
 
 namespace {
-
-std::size_t At(int attribute) { return static_cast<std::size_t>(attribute); }
 
 // Everything that is read off the project for one session.
 struct Source {

@@ -7,8 +7,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kDigits = 5;
-
 // "Doctors (posts)".
 String NameAndMeasure(const Project& project, const String& name) {
   const DataColumn* const column = FindColumn(project, name);
@@ -16,11 +14,11 @@ String NameAndMeasure(const Project& project, const String& name) {
   return column == nullptr || column->Unit.empty() ? shown : shown + " (" + ShownName(column->Unit) + ")";
 }
 
-String IntervalText(double low, const std::optional<double>& high) {
-  if (!high) return ">= " + SignificantText(low, kDigits);
-  if (low == 0.0) return "<= " + SignificantText(*high, kDigits);
-  if (low == *high) return "= " + SignificantText(low, kDigits);
-  return "= " + SignificantText(low, kDigits) + " .. " + SignificantText(*high, kDigits);
+String IntervalText(double low, const std::optional<double>& high, const ResultsSigns& signs) {
+  if (!high) return signs.AtLeast + SignificantText(low, kRatioDigits);
+  if (low == 0.0) return signs.AtMost + SignificantText(*high, kRatioDigits);
+  if (low == *high) return " = " + SignificantText(low, kRatioDigits);
+  return " = " + SignificantText(low, kRatioDigits) + " .. " + SignificantText(*high, kRatioDigits);
 }
 
 }  // namespace
@@ -49,17 +47,18 @@ String CrossText(const Project& project, const Asked& asked) {
   }
   String ratio = ShortestText(*cross->Ratio);
   if (asked.CrossBand > 1.0) {
-    ratio = SignificantText(*cross->Ratio / asked.CrossBand, kDigits) + " to " +
-            SignificantText(*cross->Ratio * asked.CrossBand, kDigits);
+    ratio = SignificantText(*cross->Ratio / asked.CrossBand, kRatioDigits) + " to " +
+            SignificantText(*cross->Ratio * asked.CrossBand, kRatioDigits);
   }
   return "Cross ratio: " + JudgedSwing(project, session, session.CostReference) + " is worth " + ratio + " times " +
          JudgedSwing(project, session, session.BenefitReference) + ".";
 }
 
-String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence) {
+String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence,
+                       const ResultsSigns& signs) {
   const auto name = [&problem](int column) { return problem.Columns[static_cast<std::size_t>(column)].Name; };
-  return "1 " + NameAndMeasure(project, name(equivalence.Column)) + " " +
-         IntervalText(equivalence.Low, equivalence.High) + " " + NameAndMeasure(project, name(equivalence.Of));
+  return "1 " + NameAndMeasure(project, name(equivalence.Column)) +
+         IntervalText(equivalence.Low, equivalence.High, signs) + " " + NameAndMeasure(project, name(equivalence.Of));
 }
 
 String SessionTitle(const Project& project, std::size_t session) {

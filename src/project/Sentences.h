@@ -2,8 +2,11 @@
 #pragma once
 
 #include "project/Evaluation.h"
+#include "project/Signs.h"
 
 namespace Tarnwise {
+
+constexpr int kRatioDigits = 5;  // significant digits of a judged ratio in a text
 
 // "Doctors from 60 to 15": what a swing is.
 String SwingText(const String& name, const ColumnScale& scale);
@@ -20,7 +23,8 @@ String JudgedSwing(const Project& project, const JudgmentSession& session, const
 String CrossText(const Project& project, const Asked& asked);
 
 // "1 Doctors = 14.583 .. 19.882 Nurses", with the units of measure where the project has them.
-String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence);
+String EquivalenceText(const Project& project, const Dea::Problem& problem, const Dea::Equivalence& equivalence,
+                       const ResultsSigns& signs = kPlainSigns);
 
 // "session 0, made 2024-05-17T09:30:00Z by Dr. Müller: First try".
 String SessionTitle(const Project& project, std::size_t session);

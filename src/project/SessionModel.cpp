@@ -7,6 +7,7 @@
 #include "project/ProjectChecks.h"
 #include "project/ResumeSession.h"
 #include "project/Shown.h"
+#include "runtime/At.h"
 #include "runtime/CodePage.h"
 
 #include <algorithm>
@@ -20,8 +21,6 @@ namespace {
 
 constexpr const char* kBenefit = "0";
 constexpr const char* kCost = "1";
-
-std::size_t At(int attribute) { return static_cast<std::size_t>(attribute); }
 
 // Names that lost letters may be the same; people have to tell them apart.
 String Distinct(const String& name, std::set<String>& taken) {

@@ -3,14 +3,11 @@
 #include "project/NumberText.h"
 #include "project/Sentences.h"
 #include "project/Shown.h"
+#include "runtime/At.h"
 
 namespace Tarnwise {
 
 namespace {
-
-constexpr int kDigits = 5;
-
-std::size_t At(int attribute) { return static_cast<std::size_t>(attribute); }
 
 // The step of value 0 to 1: for trade-offs the whole curve is one.
 ColumnScale WholeCurve(const ColumnScale& scale) {
@@ -61,10 +58,10 @@ void AddMeanings(const SessionModel& model, const ComparedPair& pair, std::vecto
 String RatioText(const SessionAttribute& attribute) {
   const double low = attribute.Low.value_or(0.0);
   const double high = attribute.High.value_or(0.0);
-  if (high == 0.0) return "at least " + SignificantText(low, kDigits);
-  if (low == 0.0) return "at most " + SignificantText(high, kDigits);
-  if (low == high) return SignificantText(low, kDigits);
-  return SignificantText(low, kDigits) + " .. " + SignificantText(high, kDigits);
+  if (high == 0.0) return "at least " + SignificantText(low, kRatioDigits);
+  if (low == 0.0) return "at most " + SignificantText(high, kRatioDigits);
+  if (low == high) return SignificantText(low, kRatioDigits);
+  return SignificantText(low, kRatioDigits) + " .. " + SignificantText(high, kRatioDigits);
 }
 
 bool IsSameRank(const JudgmentSession& session, const SessionAttribute& attribute) {
@@ -116,7 +113,8 @@ std::vector<String> JudgmentLines(const Project& project, std::size_t session) {
     }
     lines.push_back(line);
   }
-  if (IsCrossJudged(judged)) lines.push_back(CrossName(judged) + " " + SignificantText(*judged.Cross->Ratio, kDigits));
+  if (IsCrossJudged(judged))
+    lines.push_back(CrossName(judged) + " " + SignificantText(*judged.Cross->Ratio, kRatioDigits));
   return lines;
 }
 

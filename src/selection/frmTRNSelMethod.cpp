@@ -10,7 +10,7 @@ constexpr int kDirect = 0;
 constexpr int kTradeOffs = 1;
 
 // The trailing blank of the first is part of the text.
-const char* DescriptionOf(int method) {
+const char* AboutMethod(int method) {
   return method == kTradeOffs
              ? "Elict attribute weights by numerical trade-off between two random alternatives. The weight will be "
                "infered by ratio value judgments."
@@ -52,7 +52,7 @@ void frmTRNSelMethod::Activate() {
 void frmTRNSelMethod::lstMethods_Click() {
   const int method = lstMethods.ListIndex;
   if (method != kDirect && method != kTradeOffs) return;
-  lblDescription.Caption = DescriptionOf(method);
+  lblDescription.Caption = AboutMethod(method);
   picPicture.Picture = imgPicture[method].Picture;
 }
 

@@ -12,8 +12,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Colour kWhite = 0xFFFFFF;
-
 // The points that were worked on, with the orientations as they came from the host.
 PointArrays ExportedPoints(const WizardData& data) {
   Array<ABPoint> points;

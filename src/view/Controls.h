@@ -15,6 +15,9 @@
 
 namespace Tarnwise {
 
+constexpr Colour kBlack = 0;
+constexpr Colour kWhite = 0xFFFFFF;
+
 // Mouse pointers.
 constexpr int kDefaultPointer = 0;
 constexpr int kHourglass = 11;

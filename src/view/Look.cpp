@@ -8,8 +8,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr Colour kBlack = 0;
-constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kDarkInk = 0x37291F;     // on a coloured ground, softer than black
 constexpr Colour kLightPlate = 0xD0D0D0;  // the ground of an ink that is dark by rule
 constexpr Colour kDarkPlate = 0x202020;   // and of one that is light

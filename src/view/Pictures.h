@@ -3,6 +3,7 @@
 
 #include <tarnwise/Scalars.h>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -22,6 +23,10 @@ struct Picture {
   Single Height = 100.0F;
   std::vector<PictureShape> Shapes;
 };
+
+// All that there are. The view draws none of its own: they are defined beside the forms that name them, and a program
+// without those forms defines its own.
+const std::map<String, Picture>& NamedPictures();
 
 // Null when there is no picture of that name.
 const Picture* FindPicture(const String& name);

@@ -7,7 +7,7 @@
 
 namespace Tarnwise {
 
-enum class PageKind { Data, Attributes, Judgments, Results };
+enum class PageKind { Data, Attributes, Judgments, Results, Report };
 
 struct Advice {
   QString Text;

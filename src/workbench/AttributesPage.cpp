@@ -46,7 +46,7 @@ ValuePoint NewPoint(const ColumnScale& scale) {
 AttributesPage::AttributesPage(Document& document, QWidget* parent) : QWidget(parent), document_(document) {
   Named(this, "attributesPage", tr("Attributes"));
   auto* const layout = new QVBoxLayout(this);
-  auto* const splitter = new QSplitter;
+  auto* const splitter = Named(new QSplitter, "attributesSplitter", tr("Divided page"));
   splitter->addWidget(MakeList());
   splitter->addWidget(MakeCurve());
   splitter->addWidget(MakeFields());
@@ -130,6 +130,7 @@ QWidget* AttributesPage::MakeFields() {
   points_->setTabKeyNavigation(false);
   points_->horizontalHeader()->setHighlightSections(false);
   SetCompactRows(*points_);
+  NameEditors(*points_);
   title->setBuddy(points_);
   layout->addWidget(title);
   layout->addWidget(points_, 1);

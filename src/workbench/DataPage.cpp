@@ -49,7 +49,7 @@ DataPage::DataPage(Document& document, QWidget* parent)
   columns_->setParent(this);
   Named(this, "dataPage", tr("Data"));
   auto* const layout = new QVBoxLayout(this);
-  auto* const splitter = new QSplitter;
+  auto* const splitter = Named(new QSplitter, "dataSplitter", tr("Divided page"));
   filled_ = splitter;
   splitter->addWidget(MakeTable());
   splitter->addWidget(MakeColumns());
@@ -93,6 +93,7 @@ QWidget* DataPage::MakeTable() {
   table_->setTabKeyNavigation(false);
   table_->setWordWrap(false);
   SetCompactRows(*table_);
+  NameEditors(*table_);
   table_->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
   layout->addWidget(table_, 1);
   explained_ = Named(new QLabel, "cellExplained", tr("What the chosen cell means"));
@@ -152,6 +153,7 @@ QWidget* DataPage::MakeColumns() {
   columnsTable_->verticalHeader()->hide();
   columnsTable_->horizontalHeader()->setHighlightSections(false);
   SetCompactRows(*columnsTable_);
+  NameEditors(*columnsTable_);
   columnsTable_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
   columnsTable_->horizontalHeader()->setStretchLastSection(true);
   layout->addWidget(columnsTable_, 1);
@@ -185,7 +187,7 @@ void DataPage::ShowState() {
   next_->setEnabled(any);
   columnsTable_->resizeColumnsToContents();
   for (int j = 0; j < ColumnsModel::kFields; ++j) {
-    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 70, 220));
+    columnsTable_->setColumnWidth(j, std::clamp(columnsTable_->columnWidth(j) + 8, 60, 170));
   }
   for (int j = 0; j < std::min(data_->columnCount(), 40); ++j) {
     const int width = std::max(table_->horizontalHeader()->sectionSizeHint(j), j == 0 ? 140 : 80);

@@ -5,6 +5,9 @@
 #include "modelfiles/ModelWriter.h"
 #include "modelfiles/PointsFile.h"
 #include "project/ImportModel.h"
+#include "project/ImportSession.h"
+#include "project/StoreSession.h"
+#include "workbench/AskForFile.h"
 #include "workbench/ImportDialog.h"
 #include "workbench/Texts.h"
 
@@ -31,9 +34,20 @@ WizardData ReadWholeModel(const QString& path) {
   return data;
 }
 
+String PointsBeside(const QString& path, const WizardData& data) {
+  const bool there = QFileInfo::exists(FromText(PointsPath(ToText(path))));
+  return there ? PointsText(ReadPoints(ToText(path), data.NumAtts())) : String();
+}
+
 }  // namespace
 
 FileActions::FileActions(Document& document, QWidget* window) : QObject(window), document_(document), window_(window) {}
+
+void FileActions::TellNotes(const std::vector<String>& notes) {
+  QStringList lines;
+  for (const String& note : notes) lines += FromText(note);
+  if (!lines.isEmpty()) QMessageBox::information(window_, tr("Imported"), lines.join(QLatin1Char('\n')));
+}
 
 void FileActions::TellFault(const QString& title, const QString& text) { QMessageBox::warning(window_, title, text); }
 
@@ -76,13 +90,32 @@ bool FileActions::OpenProject(const QString& path) {
 
 bool FileActions::ImportModelFile(const QString& path) {
   const WizardData data = ReadWholeModel(path);
-  const bool points = QFileInfo::exists(FromText(PointsPath(ToText(path))));
-  ImportedModel imported = ImportModel(data, points ? PointsText(ReadPoints(ToText(path), data.NumAtts())) : String());
+  ImportedModel imported = ImportModel(data, PointsBeside(path, data));
   imported.Project.Name = ToText(QFileInfo(path).completeBaseName());
-  QStringList notes;
-  for (const String& note : imported.Notes) notes += FromText(note);
   document_.Replace(std::move(imported.Project));
-  if (!notes.isEmpty()) QMessageBox::information(window_, tr("Imported"), notes.join(QLatin1Char('\n')));
+  TellNotes(imported.Notes);
+  return true;
+}
+
+bool FileActions::AskAndImportJudgments() {
+  const QString path =
+      QFileDialog::getOpenFileName(window_, tr("Judgments of a model"), QFileInfo(document_.Path()).absolutePath(),
+                                   tr("Models with judgments (*.kst *.json);;All files (*)"));
+  if (path.isEmpty()) return false;
+  try {
+    return ImportJudgments(path);
+  } catch (const std::exception& fault) {
+    TellFault(tr("No judgments were imported"), tr("%1: %2").arg(path, FromText(fault.what())));
+    return false;
+  }
+}
+
+bool FileActions::ImportJudgments(const QString& path) {
+  const WizardData data = ReadWholeModel(path);
+  ImportedSession imported = ImportSession(document_.Data(), data, PointsBeside(path, data));
+  imported.Session.Note = ToText(tr("from %1").arg(QFileInfo(path).fileName()));
+  document_.Edit(tr("Judgments of a model"), [&](Project& project) { AddSession(project, imported.Session); });
+  TellNotes(imported.Notes);
   return true;
 }
 
@@ -114,12 +147,9 @@ bool FileActions::Save() { return document_.Path().isEmpty() ? AskAndSave() : Sa
 
 bool FileActions::AskAndSave() {
   const QString name = FromText(document_.Data().Name);
-  const QString proposed =
-      document_.Path().isEmpty() ? (name.isEmpty() ? tr("project") : name) + ".tarnwise" : document_.Path();
-  QString path = QFileDialog::getSaveFileName(window_, tr("Save as"), proposed, tr("Projects (*.tarnwise)"));
-  if (path.isEmpty()) return false;
-  if (QFileInfo(path).suffix().isEmpty()) path += QStringLiteral(".tarnwise");
-  return SaveTo(path);
+  const QString proposed = document_.Path().isEmpty() ? (name.isEmpty() ? tr("project") : name) : document_.Path();
+  const QString path = AskForFile(window_, tr("Save as"), proposed, {{tr("Projects"), "tarnwise"}});
+  return !path.isEmpty() && SaveTo(path);
 }
 
 bool FileActions::MayOverwrite(const QString& path) {
@@ -137,7 +167,8 @@ bool FileActions::SaveTo(const QString& path) {
     document_.Save(path);
   } catch (const ModelFault& fault) {
     TellFault(tr("Not saved"),
-              tr("%1\n\nThe file is as it was, and the project is still open here.").arg(FromText(fault.what())));
+              tr("%1\n\nThe file is as it was, and the project is still open here. “Save as…” can put it elsewhere.")
+                  .arg(FromText(fault.what())));
     return false;
   }
   Remember(path);

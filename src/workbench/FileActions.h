@@ -19,6 +19,7 @@ class FileActions : public QObject {
   bool AskAndOpen();
   bool Open(const QString& path);  // a project, or by its ending a model or a table
   bool PasteTable();
+  bool AskAndImportJudgments();  // of a model, as one more session
   bool New();
   bool MayLeave();  // saved, or not wanted
 
@@ -36,10 +37,12 @@ class FileActions : public QObject {
  private:
   bool OpenProject(const QString& path);
   bool ImportModelFile(const QString& path);
+  bool ImportJudgments(const QString& path);
   bool ImportTableFrom(std::vector<char> bytes, const QString& name);
   bool SaveTo(const QString& path);
   bool MayOverwrite(const QString& path);
   void Remember(const QString& path);
+  void TellNotes(const std::vector<String>& notes);
   void TellFault(const QString& title, const QString& text);
 
   Document& document_;

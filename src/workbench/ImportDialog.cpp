@@ -1,7 +1,6 @@
 #include "workbench/ImportDialog.h"
 
 #include "modelfiles/WholeFile.h"
-#include "project/CsvDelimiter.h"
 #include "project/Sha256.h"
 #include "project/Shown.h"
 #include "workbench/Texts.h"
@@ -39,6 +38,18 @@ QString InWindowsWords(QString text) {
   for (const auto& [option, word] : words) text.replace(QLatin1String(option), word);
   return text;
 }
+
+QString NameOfSeparator(char separator) {
+  switch (separator) {
+    case ',': return ImportDialog::tr("comma");
+    case ';': return ImportDialog::tr("semicolon");
+    case '\t': return ImportDialog::tr("tab");
+    case '|': return ImportDialog::tr("vertical bar");
+    default: return QString(QLatin1Char(separator));
+  }
+}
+
+QString NameOfDecimalSign(char sign) { return sign == ',' ? ImportDialog::tr("comma") : ImportDialog::tr("point"); }
 
 bool IsNumeric(const CsvTable& table, std::size_t column) {
   bool any = false;
@@ -144,11 +155,10 @@ void ImportDialog::ReadAgain() {
     const FoundFormat format = FindFormat(table, NumericColumns(table), Numbers());
     const QString seen = format.Seen ? QString() : tr(" (no number has one)");
     understood_->setText(tr("Understood: separator %1, decimal sign %2, encoding %3, %4, %5.")
-                             .arg(FromText(NameOfDelimiter(table.Delimiter)),
-                                  QString::fromUtf8(NameOfSign(format.Format.Decimal)) + seen,
+                             .arg(NameOfSeparator(table.Delimiter), NameOfDecimalSign(format.Format.Decimal) + seen,
                                   QString::fromUtf8(NameOf(table.Encoding)),
                                   table.Header ? tr("names of columns in the first row") : tr("data in the first row"),
-                                  FromText(CountOf(table.RowsInFile(), "row"))));
+                                  RowsText(table.RowsInFile())));
     CheckRoles();
   } catch (const ModelFault& fault) {
     understood_->setText(tr("Not understood yet."));

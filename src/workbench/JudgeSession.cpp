@@ -41,17 +41,41 @@ std::optional<double> NumberOf(const Form& form, const char* box) {
   return TypedNumber(FromText(static_cast<const TextBox*>(control)->Text));
 }
 
-// The two bounds as the step's boxes have them, where it has such.
-std::optional<std::pair<double, double>> JudgedOn(const Form& form) {
-  const auto low = NumberOf(form, "txtWRLower");
-  const auto high = NumberOf(form, "txtWRUpper");
-  if (!low || !high) return std::nullopt;
-  return std::pair(std::min(*low, *high), std::max(*low, *high));
+JudgedInterval IntervalOf(const std::optional<double>& a, const std::optional<double>& b) {
+  if (!a || !b) return std::nullopt;
+  return std::pair(std::min(*a, *b), std::max(*a, *b));
+}
+
+// The two bounds as the step has them: in its boxes, or in a line of text.
+JudgedInterval JudgedOn(const Form& form) {
+  const auto* const line = form.Find("lblWeightRatio");
+  if (line != nullptr && line->Type == Kind::Label) {
+    return RatiosShown(FromText(static_cast<const Label*>(line)->Caption));
+  }
+  return IntervalOf(NumberOf(form, "txtWRLower"), NumberOf(form, "txtWRUpper"));
+}
+
+// What was judged inconsistent by a difference that the shown digits leave out is as far off as they can hide.
+QString HintOfInconsistency(const WizardData& data, int attribute, const JudgedInterval& judged) {
+  constexpr double kHidden = 0.005;
+  const QString hint = HintFor(data, attribute, judged);
+  if (!hint.isEmpty() || !judged) return hint;
+  return HintFor(data, attribute, std::pair(judged->first - kHidden, judged->second + kHidden));
 }
 
 }  // namespace
 
-QString HintFor(const WizardData& data, int attribute, const std::optional<std::pair<double, double>>& judged) {
+JudgedInterval RatiosShown(const QString& caption) {
+  const QStringList parts = caption.split(QLatin1Char(','));
+  if (parts.size() != 2) return std::nullopt;
+  const auto ratio = [](QString part) {
+    part = part.trimmed();
+    return part.endsWith(QLatin1String("/1")) ? TypedNumber(part.chopped(2)) : std::nullopt;
+  };
+  return IntervalOf(ratio(parts[0]), ratio(parts[1]));
+}
+
+QString HintFor(const WizardData& data, int attribute, const JudgedInterval& judged) {
   const Limits limits = LimitsOf(data, attribute);
   QStringList hints;
   if (limits.LowerOf >= 0 && (!judged || judged->first < limits.Lower)) hints += LowerHint(data, attribute, limits);
@@ -109,7 +133,7 @@ void JudgeSession::LookAtTarget(const Label& label) {
   const Control* const list = form->Find("imgcmbTargetAtt");
   if (list == nullptr || list->Type != Kind::ImageCombo) return;
   const int target = static_cast<const ImageCombo*>(list)->SelectedItem - 1;
-  if (target >= 0) Q_EMIT Hinted(HintFor(mdTRNMain(), target, JudgedOn(*form)));
+  if (target >= 0) Q_EMIT Hinted(HintOfInconsistency(mdTRNMain(), target, JudgedOn(*form)));
 }
 
 }  // namespace Tarnwise

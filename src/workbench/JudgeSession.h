@@ -17,7 +17,11 @@ struct Label;
 // Why a judgment is inconsistent and from where on it would fit: "Doctors must stay at or above 1.00: Nurses, on the
 // next lower rank, is judged up to 1.00." The judgment is low to high; without it both limits are named. Empty where
 // nothing limits the attribute.
-QString HintFor(const WizardData& data, int attribute, const std::optional<std::pair<double, double>>& judged);
+using JudgedInterval = std::optional<std::pair<double, double>>;
+QString HintFor(const WizardData& data, int attribute, const JudgedInterval& judged);
+
+// The two ratios as the step with trade-offs shows them: "0.50/1,    1.50/1". Nothing where they are no two numbers.
+JudgedInterval RatiosShown(const QString& caption);
 
 class JudgeSession : public QObject {
   Q_OBJECT

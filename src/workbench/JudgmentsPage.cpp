@@ -49,7 +49,7 @@ std::map<String, QString> OwnUnits(const Project& project, std::size_t session) 
     const JudgedProblem judged = JudgedProblemOf(project, asked);
     for (const Dea::Equivalence& equivalence : judged.Equivalences) {
       const String& name = judged.Problem.Columns[static_cast<std::size_t>(equivalence.Column)].Name;
-      texts[name] = FromText(EquivalenceText(project, judged.Problem, equivalence));
+      texts[name] = FromText(EquivalenceText(project, judged.Problem, equivalence, Signs()));
     }
   } catch (const ModelFault&) {
     texts.clear();
@@ -139,7 +139,7 @@ JudgmentsPage::JudgmentsPage(Document& document, QWidget* parent) : QWidget(pare
   Named(this, "judgmentsPage", tr("Judgments"));
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(MakeHint());
-  auto* const splitter = new QSplitter;
+  auto* const splitter = Named(new QSplitter, "judgmentsSplitter", tr("Divided page"));
   splitter->addWidget(MakeSessions());
   splitter->addWidget(MakeJudgments());
   splitter->setStretchFactor(1, 1);
@@ -172,8 +172,8 @@ QWidget* JudgmentsPage::MakeSessions() {
   layout->setContentsMargins(0, 0, 0, 0);
   elicit_ = Named(new QPushButton(tr("&Elicit…")), "elicit", tr("Elicit judgments from the start"));
   resume_ = Named(new QPushButton(tr("Elicit from this &session…")), "resume", tr("Elicit from this session"));
-  layout->addWidget(elicit_);
-  layout->addWidget(resume_);
+  import_ = Named(new QPushButton(tr("&Import from a model…")), "importJudgments", tr("Import from a model"));
+  for (QPushButton* const button : {elicit_, resume_, import_}) layout->addWidget(button);
   sessions_ = Named(new QListWidget, "sessions", tr("Sessions of judgments"));
   sessions_->setWordWrap(true);
   layout->addWidget(sessions_, 1);
@@ -187,6 +187,12 @@ QWidget* JudgmentsPage::MakeSessions() {
   layout->addLayout(form);
   remove_ = Named(new QPushButton(tr("&Remove session")), "removeSession", tr("Remove session"));
   layout->addWidget(remove_, 0, Qt::AlignLeft);
+  ConnectSessions();
+  return side;
+}
+
+void JudgmentsPage::ConnectSessions() {
+  connect(import_, &QPushButton::clicked, this, &JudgmentsPage::ImportWanted);
   connect(elicit_, &QPushButton::clicked, this, [this] { Q_EMIT ElicitWanted(std::nullopt); });
   connect(resume_, &QPushButton::clicked, this, [this] { Q_EMIT ElicitWanted(Session()); });
   connect(sessions_, &QListWidget::currentRowChanged, this, &JudgmentsPage::ShowSession);
@@ -205,11 +211,10 @@ QWidget* JudgmentsPage::MakeSessions() {
       if (project.Use) project.Use->Session.reset();
     });
   });
-  return side;
 }
 
 QWidget* JudgmentsPage::MakeJudgments() {
-  auto* const splitter = new QSplitter(Qt::Vertical);
+  auto* const splitter = Named(new QSplitter(Qt::Vertical), "intervalsSplitter", tr("Divided page"));
   chart_ = Named(new BarChart(splitter), "intervalChart", tr("Judged intervals"));
   chart_->SetLogarithmic(true);
   auto* const below = new QWidget;
@@ -278,6 +283,7 @@ void JudgmentsPage::ShowSession() {
   }
   compare_->setEnabled(document_.Data().Sessions.size() > 1);
   elicit_->setEnabled(!open_);
+  import_->setEnabled(!open_);
   if (!session) {
     by_->clear();
     note_->clear();

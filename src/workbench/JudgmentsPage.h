@@ -46,11 +46,13 @@ class JudgmentsPage : public QWidget {
 
  Q_SIGNALS:
   void ElicitWanted(std::optional<std::size_t> resume);  // nothing: from the start
+  void ImportWanted();
 
  private:
   QWidget* MakeSessions();
   QWidget* MakeJudgments();
   QWidget* MakeHint();
+  void ConnectSessions();
   void ShowSessions();
   void ShowSession();
   void ShowTable(const std::vector<JudgmentLine>& lines);
@@ -64,6 +66,7 @@ class JudgmentsPage : public QWidget {
   QListWidget* sessions_ = nullptr;
   QPushButton* elicit_ = nullptr;
   QPushButton* resume_ = nullptr;
+  QPushButton* import_ = nullptr;
   QPushButton* remove_ = nullptr;
   QLineEdit* by_ = nullptr;
   QLineEdit* note_ = nullptr;

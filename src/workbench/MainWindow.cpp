@@ -8,6 +8,7 @@
 #include "workbench/FileActions.h"
 #include "workbench/JudgeSession.h"
 #include "workbench/JudgmentsPage.h"
+#include "workbench/ReportPage.h"
 #include "workbench/ResultsPage.h"
 #include "workbench/Texts.h"
 
@@ -22,17 +23,44 @@ MainWindow::MainWindow() : files_(new FileActions(document_, this)) {
   setAcceptDrops(true);
   MakePages();
   MakeMenus();
+  connect(&document_, &Document::Changed, this, &MainWindow::RestorePage);
   connect(&document_, &Document::Changed, this, &MainWindow::ShowState);
   connect(&document_, &Document::Refused, this,
           [this](const QString& reason) { QMessageBox::warning(this, tr("Not possible"), reason); });
   const auto tell = [this](const QString& text) { statusBar()->showMessage(text, 15000); };
   connect(files_, &FileActions::Told, this, tell);
   connect(results_, &ResultsPage::Told, this, tell);
+  connect(report_, &ReportPage::Told, this, tell);
   statusBar()->setObjectName(QStringLiteral("status"));
   statusBar()->setAccessibleName(tr("Status"));
   resize(1180, 760);
-  restoreGeometry(QSettings().value(QStringLiteral("geometry")).toByteArray());
+  RestoreState();
   ShowState();
+}
+
+void MainWindow::KeepState() {
+  QSettings settings;
+  settings.setValue(QStringLiteral("geometry"), saveGeometry());
+  settings.setValue(QStringLiteral("page"), tabs_->currentIndex());
+  for (const QSplitter* const splitter : findChildren<QSplitter*>()) {
+    settings.setValue("splitters/" + splitter->objectName(), splitter->saveState());
+  }
+}
+
+void MainWindow::RestoreState() {
+  const QSettings settings;
+  restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+  for (QSplitter* const splitter : findChildren<QSplitter*>()) {
+    splitter->restoreState(settings.value("splitters/" + splitter->objectName()).toByteArray());
+  }
+  const int page = settings.value(QStringLiteral("page"), 0).toInt();
+  if (page > 0 && page < tabs_->count()) lastPage_ = page;
+}
+
+// With nothing open the first page is the one that leads on.
+void MainWindow::RestorePage() {
+  if (!lastPage_ || document_.Path().isEmpty()) return;
+  tabs_->setCurrentIndex(*std::exchange(lastPage_, std::nullopt));
 }
 
 // The pages know the document, and they go before it.
@@ -53,6 +81,10 @@ QWidget* MainWindow::MakeAdvice() {
   advice_ = Named(new QLabel, "advice", tr("What is missing"));
   advice_->setWordWrap(true);
   go_ = Named(new QPushButton, "adviceGo", tr("Go to the page"));
+  // The pages stay where they are while it is hidden.
+  QSizePolicy policy = go_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  go_->setSizePolicy(policy);
   layout->addWidget(advice_, 1);
   layout->addWidget(go_);
   connect(go_, &QPushButton::clicked, this, [this] { ShowPage(AdviceFor(document_.Data()).Where); });
@@ -72,16 +104,23 @@ void MainWindow::MakePages() {
   attributes_ = new AttributesPage(document_);
   judgments_ = new JudgmentsPage(document_);
   results_ = new ResultsPage(document_);
-  for (QWidget* const page : std::initializer_list<QWidget*>{data_, attributes_, judgments_, results_}) {
+  report_ = new ReportPage(*results_);
+  for (QWidget* const page : std::initializer_list<QWidget*>{data_, attributes_, judgments_, results_, report_}) {
     tabs_->addTab(page, QString::number(tabs_->count() + 1) + "  " + page->accessibleName());
     auto* const shortcut =
         new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + tabs_->count())), this);
     connect(shortcut, &QShortcut::activated, this, [this, page] { tabs_->setCurrentWidget(page); });
   }
-  connect(tabs_, &QTabWidget::currentChanged, this, &MainWindow::ShowState);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+    lastPage_.reset();
+    ShowState();
+  });
   connect(data_, &DataPage::OpenWanted, files_, &FileActions::AskAndOpen);
   connect(data_, &DataPage::PasteWanted, files_, &FileActions::PasteTable);
   connect(judgments_, &JudgmentsPage::ElicitWanted, this, &MainWindow::Elicit);
+  connect(judgments_, &JudgmentsPage::ImportWanted, this, [this] {
+    if (files_->AskAndImportJudgments()) judgments_->ChooseSession(document_.Data().Sessions.size() - 1);
+  });
 }
 
 void MainWindow::MakeMenus() {
@@ -115,7 +154,7 @@ void MainWindow::MakeFileMenu() {
   file->addSeparator();
   save_ = file->addAction(tr("&Save"), QKeySequence::Save, files_, &FileActions::Save);
   file->addAction(tr("Save &as…"), QKeySequence::SaveAs, files_, &FileActions::AskAndSave);
-  locked_.push_back(file->addAction(tr("Save repor&t…"), this, &MainWindow::SaveReport));
+  locked_.push_back(file->addAction(tr("Save repor&t…"), report_, [this] { report_->AskAndSave(std::nullopt); }));
   file->addSeparator();
   file->addAction(tr("&Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), this, &QWidget::close);
 }
@@ -126,19 +165,6 @@ void MainWindow::MakeEditMenu() {
   redo_ = edit->addAction(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), &document_, &Document::Redo);
   edit->addSeparator();
   locked_.push_back(edit->addAction(tr("&Paste"), QKeySequence::Paste, this, &MainWindow::Paste));
-}
-
-// What the page Results shows, of the data as they are now.
-void MainWindow::SaveReport() {
-  const SharedEvaluation shown = results_->Shown();
-  const Project& project = document_.Data();
-  if (!shown || (shown->How.Session && *shown->How.Session >= project.Sessions.size())) {
-    QMessageBox::information(this, tr("Save report"), tr("There are no results to report yet."));
-    return;
-  }
-  if (AskAndSaveReport(this, project, shown->How, makePdf_)) {
-    statusBar()->showMessage(tr("The report was saved."), 15000);
-  }
 }
 
 void MainWindow::Paste() {
@@ -177,7 +203,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   if (!files_->MayLeave()) return event->ignore();
-  QSettings().setValue(QStringLiteral("geometry"), saveGeometry());
+  KeepState();
   event->accept();
 }
 
@@ -262,6 +288,7 @@ void MainWindow::LockForWizard(bool locked) {
   data_->setEnabled(!locked);
   attributes_->setEnabled(!locked);
   results_->setEnabled(!locked);
+  report_->setEnabled(!locked);
   judgments_->ShowWizardOpen(locked);
   results_->Hide(locked);
   if (locked) ShowPage(PageKind::Judgments);

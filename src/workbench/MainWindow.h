@@ -3,7 +3,6 @@
 
 #include "workbench/Advice.h"
 #include "workbench/Document.h"
-#include "workbench/SaveReport.h"
 
 #include <QMainWindow>
 
@@ -19,6 +18,7 @@ class DataPage;
 class FileActions;
 class JudgeSession;
 class JudgmentsPage;
+class ReportPage;
 class ResultsPage;
 struct JudgmentSession;
 
@@ -34,8 +34,7 @@ class MainWindow : public QMainWindow {
   ResultsPage& Results() { return *results_; }
   bool Open(const QString& path);
   void ShowPage(PageKind page);
-  void ReportBy(MakePdf makePdf) { makePdf_ = std::move(makePdf); }  // without it there are no reports as PDF
-  JudgeSession* Wizard() const { return wizard_; }                   // null: not open
+  JudgeSession* Wizard() const { return wizard_; }  // null: not open
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -51,7 +50,9 @@ class MainWindow : public QMainWindow {
   void MakeEditMenu();
   void ShowState();
   void Paste();
-  void SaveReport();
+  void KeepState();
+  void RestoreState();
+  void RestorePage();
 
   void Elicit(std::optional<std::size_t> resume);
   bool MayJudge();
@@ -66,13 +67,14 @@ class MainWindow : public QMainWindow {
   AttributesPage* attributes_ = nullptr;
   JudgmentsPage* judgments_ = nullptr;
   ResultsPage* results_ = nullptr;
+  ReportPage* report_ = nullptr;
   QLabel* advice_ = nullptr;
   QPushButton* go_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
   QAction* save_ = nullptr;
   std::vector<QAction*> locked_;  // while the wizard is open
-  MakePdf makePdf_;
+  std::optional<int> lastPage_;   // of the last time, until a project is there to show on it
   JudgeSession* wizard_ = nullptr;
   std::optional<std::size_t> stored_;  // the session that the open wizard handed over
 };

@@ -10,8 +10,6 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kMostBounds = 3;
-
 std::vector<ResultField> FieldsOf(const Evaluation& evaluation) {
   const bool judged = evaluation.How.Session.has_value();
   const bool ranked = judged && !evaluation.Results.Units.empty() && evaluation.Results.Units.front().Ranks;
@@ -36,22 +34,8 @@ std::vector<ResultField> FieldsOf(const Evaluation& evaluation) {
   return fields;
 }
 
-QString RanksLabel(const Dea::UnitResult& unit) {
-  return unit.Ranks ? FromText(RanksText(unit)).replace(QLatin1Char('-'), QStringLiteral("–")) : QString();
-}
-
 QString BoundOf(const Evaluation& evaluation, const Dea::HeldBackBy& bound) {
-  return FromText(BoundText(evaluation, bound)).replace(QLatin1String(">="), "≥").replace(QLatin1String("<="), "≤");
-}
-
-QString HeldBackLabel(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  QStringList bounds;
-  for (const Dea::HeldBackBy& bound : unit.HeldBackBy) {
-    if (bounds.size() == kMostBounds) break;
-    bounds += BoundOf(evaluation, bound);
-  }
-  const auto more = static_cast<qsizetype>(unit.HeldBackBy.size()) - bounds.size();
-  return bounds.join(QStringLiteral(", ")) + (more > 0 ? ResultsModel::tr(" and %1 more").arg(more) : QString());
+  return FromText(BoundText(evaluation, bound, Signs()));
 }
 
 QString NameOfUnit(const Evaluation& evaluation, int unit) {
@@ -89,12 +73,14 @@ QString PricesTable(const Evaluation& evaluation, const Dea::UnitResult& unit) {
 QString RangeSentence(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   const QString name = "<b>" + Escaped(NameOfUnit(evaluation, unit.Unit)) + "</b>";
   if (evaluation.How.Form == ScoreForm::Value) {
-    const QString range = unit.Value ? ScoreLabel(unit.Value->Low) + "–" + ScoreLabel(unit.Value->High) : QString();
+    const QString range = unit.Value ? FromText(SpanText(ThreeDecimals(unit.Value->Low, Signs()),
+                                                         ThreeDecimals(unit.Value->High, Signs()), Signs()))
+                                     : QString();
     const bool leads = unit.Distance && *unit.Distance <= 0.0;
     return ResultsModel::tr("%1 has a value of %2; ").arg(name, range) +
            (leads ? ResultsModel::tr("it is best at some of the weights.")
                   : ResultsModel::tr("it is at least %1 of the whole range behind the best.")
-                        .arg(ScoreLabel(unit.Distance)));
+                        .arg(FromText(DistanceText(unit.Distance, Signs()))));
   }
   if (!evaluation.How.Session || !unit.Max) {
     return ResultsModel::tr("%1 is %2 efficient without judgments.").arg(name, ScoreLabel(unit.Free));
@@ -139,9 +125,9 @@ bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit) {
   return IsOne(unit.Max);
 }
 
-QString ScoreLabel(const std::optional<double>& score) {
-  return score ? FromText(ScoreText(score)) : QStringLiteral("–");
-}
+QString RanksLabel(const Dea::UnitResult& unit) { return unit.Ranks ? FromText(RanksText(unit, Signs())) : QString(); }
+
+QString ScoreLabel(const std::optional<double>& score) { return FromText(ScoreText(score, Signs())); }
 
 void ResultsModel::Show(SharedEvaluation evaluation) {
   beginResetModel();
@@ -180,12 +166,27 @@ QString ResultsModel::TextAt(const Dea::UnitResult& unit, ResultField field) con
   switch (field) {
     case ResultField::Unit: return NameOfUnit(*evaluation_, unit.Unit);
     case ResultField::Ranks: return RanksLabel(unit);
-    case ResultField::HeldBackBy: return HeldBackLabel(*evaluation_, unit);
-    case ResultField::Peers: return FromText(PeersText(*evaluation_, unit));
-    default: break;
+    case ResultField::HeldBackBy: return FromText(HeldBackText(*evaluation_, unit, Signs()));
+    case ResultField::Peers: return FromText(PeersText(*evaluation_, unit, Signs()));
+    default: return FromText(NumberText(unit, field));
   }
-  const QVariant number = NumberAt(unit, field);
-  return number.isValid() ? ScoreLabel(number.toDouble()) : QStringLiteral("–");
+}
+
+String ResultsModel::NumberText(const Dea::UnitResult& unit, ResultField field) {
+  const auto valueEnd = [&unit](double Dea::Interval::*end) {
+    return unit.Value ? std::optional((*unit.Value).*end) : std::nullopt;
+  };
+  switch (field) {
+    case ResultField::Free: return ScoreText(unit.Free, Signs());
+    case ResultField::Min: return ScoreText(unit.Min, Signs());
+    case ResultField::Max: return ScoreText(unit.Max, Signs());
+    case ResultField::Super: return ThreeDecimals(unit.Super, Signs());
+    case ResultField::ValueLow: return ThreeDecimals(valueEnd(&Dea::Interval::Low), Signs());
+    case ResultField::ValueHigh: return ThreeDecimals(valueEnd(&Dea::Interval::High), Signs());
+    case ResultField::Distance: return DistanceText(unit.Distance, Signs());
+    case ResultField::Regret: return DistanceText(unit.Regret, Signs());
+    default: return {};
+  }
 }
 
 QVariant ResultsModel::data(const QModelIndex& index, int role) const {
@@ -261,25 +262,28 @@ QString SummaryText(const Evaluation& evaluation) {
   const auto best =
       std::count_if(units.begin(), units.end(), [&](const Dea::UnitResult& unit) { return IsBest(evaluation, unit); });
   if (evaluation.How.Form == ScoreForm::Value) {
-    return ResultsModel::tr("%1 of %2 are best at some of the weights.")
-        .arg(best)
-        .arg(FromText(CountOf(units.size(), "unit")));
+    return ResultsModel::tr("%1 of %2 are best at some of the weights.").arg(best).arg(UnitsText(units.size()));
   }
-  const QString counted =
-      ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(FromText(CountOf(units.size(), "unit")));
+  const QString counted = ResultsModel::tr("%1 of %2 are efficient").arg(best).arg(UnitsText(units.size()));
   if (evaluation.How.Session) return ResultsModel::tr("%1 under the judgments.").arg(counted);
   const bool all = static_cast<std::size_t>(best) == units.size();
   if (!all) return ResultsModel::tr("%1 without judgments.").arg(counted);
   return ResultsModel::tr("%1 without judgments: %2 for %3 let every unit pick its own weights.")
-      .arg(counted, FromText(CountOf(evaluation.Problem.Columns.size(), "attribute")),
-           FromText(CountOf(units.size(), "unit")));
+      .arg(counted, AttributesText(evaluation.Problem.Columns.size()), UnitsText(units.size()));
+}
+
+QString ReasonText(const Evaluation& evaluation, const Dea::LeftOut& left) {
+  if (!left.Lacking) return ResultsModel::tr("all inputs are zero");
+  const Dea::Column& column = evaluation.Problem.Columns[static_cast<std::size_t>(*left.Lacking)];
+  return ResultsModel::tr("no value in column %1").arg(FromText(column.Name));
 }
 
 QString DetailsOf(const Evaluation& evaluation, const Dea::UnitResult& unit, const std::vector<int>& dominators) {
   QString html = "<p>" + RangeSentence(evaluation, unit) + "</p>" + BoundsList(evaluation, unit) +
                  Dominated(evaluation, dominators);
   if (!unit.Peers.empty()) {
-    html += "<p>" + ResultsModel::tr("Peers: %1.").arg(Escaped(FromText(PeersText(evaluation, unit)))) + "</p>";
+    html +=
+        "<p>" + ResultsModel::tr("Peers: %1.").arg(Escaped(FromText(PeersText(evaluation, unit, Signs())))) + "</p>";
   }
   return html + PricesTable(evaluation, unit);
 }

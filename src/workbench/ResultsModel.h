@@ -34,6 +34,7 @@ class ResultsModel : public QAbstractTableModel {
  private:
   QVariant NumberAt(const Dea::UnitResult& unit, ResultField field) const;
   QString TextAt(const Dea::UnitResult& unit, ResultField field) const;
+  static String NumberText(const Dea::UnitResult& unit, ResultField field);
 
   SharedEvaluation evaluation_;
   std::vector<ResultField> fields_;
@@ -62,10 +63,14 @@ class ResultsFilter : public QSortFilterProxyModel {
 // The greatest score is 1, or no unit is ahead.
 bool IsBest(const Evaluation& evaluation, const Dea::UnitResult& unit);
 QString ScoreLabel(const std::optional<double>& score);
+QString RanksLabel(const Dea::UnitResult& unit);  // empty without ranks
 
 // One sentence of all units, as "12 of 12 units are efficient without judgments: 14 attributes for 12 units let every
 // unit pick its own weights."
 QString SummaryText(const Evaluation& evaluation);
+
+// Why a unit has no result.
+QString ReasonText(const Evaluation& evaluation, const Dea::LeftOut& left);
 
 // What is known of a unit, as HTML: its range, what holds it back, prices, shares, peers, and the units given, which
 // are better than it at all weights.

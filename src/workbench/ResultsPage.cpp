@@ -4,10 +4,10 @@
 #include "modelfiles/WholeFile.h"
 #include "project/ProjectChecks.h"
 #include "workbench/JudgmentsPage.h"
+#include "workbench/ResultsBars.h"
 #include "workbench/Solver.h"
 #include "workbench/Tables.h"
 #include "workbench/Texts.h"
-#include "workbench/charts/BarChart.h"
 
 #include <QtWidgets>
 
@@ -26,40 +26,6 @@ constexpr ScoreOrientation kOrientations[] = {ScoreOrientation::In, ScoreOrienta
 template <class Value, std::size_t kCount>
 void Choose(QComboBox& box, const Value (&values)[kCount], Value value) {
   box.setCurrentIndex(static_cast<int>(std::find(values, values + kCount, value) - values));
-}
-
-Bar BarOf(const Evaluation& evaluation, const Dea::UnitResult& unit) {
-  Bar bar;
-  if (evaluation.How.Form == ScoreForm::Value) {
-    if (unit.Value) {
-      bar.Low = unit.Value->Low;
-      bar.High = unit.Value->High;
-    }
-  } else if (unit.Max) {
-    const double other = unit.Min.value_or(*unit.Max);
-    bar.Low = std::min(*unit.Max, other);
-    bar.High = std::max(*unit.Max, other);
-    bar.Mark = unit.Free;
-  }
-  bar.IsNothing = !bar.High;
-  return bar;
-}
-
-// The ends that the bars of all units lie in; scores from 0 on, factors from 1.
-std::pair<double, double> ScoresShown(const std::vector<BarRow>& rows, const Evaluation& evaluation) {
-  const bool factors = evaluation.How.Form == ScoreForm::Ratio && evaluation.How.Orientation == ScoreOrientation::Out;
-  double low = 1.0;
-  double high = factors ? 1.1 : 0.0;
-  for (const BarRow& row : rows) {
-    for (const auto& end : {row.First.Low, row.First.High, row.First.Mark}) {
-      if (!end) continue;
-      low = std::min(low, *end);
-      high = std::max(high, *end);
-    }
-  }
-  if (high <= low) low = high - 0.1;
-  const double margin = 0.04 * (high - low);
-  return {factors ? low - margin : std::max(0.0, low - margin), high + margin};
 }
 
 }  // namespace
@@ -89,43 +55,43 @@ ResultsPage::ResultsPage(Document& document, QWidget* parent)
   ShowDocument();
 }
 
-QComboBox* ResultsPage::AddChoice(QBoxLayout& layout, const char* name, const QString& title,
+QComboBox* ResultsPage::AddChoice(QGridLayout& grid, const char* name, const QString& title,
                                   const QStringList& choices) {
-  auto* const column = new QVBoxLayout;
-  auto* const label = new QLabel(title);
   auto* const box = Named(new QComboBox, name, QString(title).remove(QLatin1Char('&')));
   box->addItems(choices);
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box->setMinimumContentsLength(14);
-  label->setBuddy(box);
-  column->addWidget(label);
-  column->addWidget(box);
-  layout.addLayout(column, 1);
+  box->setMinimumContentsLength(12);
+  AddField(grid, title, *box);
   connect(box, &QComboBox::activated, this, &ResultsPage::TakeChoice);
   return box;
 }
 
+// Below its title, in a column of its own.
+void ResultsPage::AddField(QGridLayout& grid, const QString& title, QWidget& field) {
+  auto* const label = new QLabel(title);
+  label->setBuddy(&field);
+  const int column = grid.columnCount();
+  grid.addWidget(label, 0, column);
+  grid.addWidget(&field, 1, column);
+  grid.setColumnStretch(column, 1);
+}
+
 QLayout* ResultsPage::MakeChoices() {
-  auto* const row = new QHBoxLayout;
-  session_ = AddChoice(*row, "resultsSession", tr("&Judgments"), {});
-  form_ = AddChoice(*row, "form", tr("F&orm"), {tr("Ratio (efficiency)"), tr("Value (distance)")});
-  returns_ = AddChoice(*row, "returns", tr("&Returns to scale"),
+  auto* const grid = new QGridLayout;
+  session_ = AddChoice(*grid, "resultsSession", tr("&Judgments"), {});
+  form_ = AddChoice(*grid, "form", tr("F&orm"), {tr("Ratio (efficiency)"), tr("Value (distance)")});
+  returns_ = AddChoice(*grid, "returns", tr("&Returns to scale"),
                        {tr("Constant"), tr("Variable"), tr("Not increasing"), tr("Not decreasing")});
-  orientation_ = AddChoice(*row, "orientation", tr("Orien&tation"), {tr("Inputs"), tr("Outputs")});
-  auto* const column = new QVBoxLayout;
-  auto* const label = new QLabel(tr("&Widen intervals by"));
+  orientation_ = AddChoice(*grid, "orientation", tr("Orien&tation"), {tr("Inputs"), tr("Outputs")});
   widen_ = Named(new QDoubleSpinBox, "widen", tr("Widen all intervals by this factor"));
   widen_->setRange(1.0, 3.0);
   widen_->setSingleStep(0.1);
   widen_->setPrefix(QStringLiteral("× "));
   widen_->setKeyboardTracking(false);
   widen_->setLocale(QLocale::c());
-  label->setBuddy(widen_);
-  column->addWidget(label);
-  column->addWidget(widen_);
-  row->addLayout(column);
+  AddField(*grid, tr("&Widen intervals by"), *widen_);
   connect(widen_, &QDoubleSpinBox::valueChanged, this, &ResultsPage::ComputeSoon);
-  return row;
+  return grid;
 }
 
 QLayout* ResultsPage::MakeSearch() {
@@ -139,23 +105,27 @@ QLayout* ResultsPage::MakeSearch() {
   progress_->setRange(0, 1000);
   progress_->setMaximumWidth(220);
   cancel_ = Named(new QPushButton(tr("Ca&ncel")), "cancel", tr("Cancel the computation"));
+  bars_ = Named(new QComboBox, "bars", tr("What the chart shows"));
+  bars_->addItems({tr("Chart of scores"), tr("Chart of ranks")});
   save_ = Named(new QPushButton(tr("Save &picture…")), "savePicture", tr("Save the range chart as a picture"));
   row->addWidget(find_, 1);
   row->addWidget(onlyBest_);
   row->addWidget(progress_);
   row->addWidget(cancel_);
   row->addWidget(compute_);
+  row->addWidget(bars_);
   row->addWidget(save_);
   connect(find_, &QLineEdit::textChanged, filter_, &ResultsFilter::SetText);
   connect(onlyBest_, &QCheckBox::toggled, filter_, &ResultsFilter::SetOnlyBest);
   connect(compute_, &QPushButton::clicked, this, &ResultsPage::Compute);
-  connect(cancel_, &QPushButton::clicked, this, [this] { solver_->Cancel(); });
+  connect(cancel_, &QPushButton::clicked, this, &ResultsPage::Cancel);
+  connect(bars_, &QComboBox::currentIndexChanged, this, &ResultsPage::ShowChart);
   connect(save_, &QPushButton::clicked, this, [this] { chart_->AskAndSave(); });
   return row;
 }
 
 QWidget* ResultsPage::MakeTables() {
-  auto* const above = new QSplitter;
+  auto* const above = Named(new QSplitter, "rangesSplitter", tr("Divided page"));
   table_ = Named(new QTableView, "results", tr("Results of the units"));
   table_->setModel(filter_);
   table_->setSortingEnabled(true);
@@ -179,7 +149,7 @@ QWidget* ResultsPage::MakeTables() {
   above->setChildrenCollapsible(false);
   details_ = Named(new QTextBrowser, "details", tr("The chosen unit"));
   details_->setTabChangesFocus(true);
-  auto* const splitter = new QSplitter(Qt::Vertical);
+  auto* const splitter = Named(new QSplitter(Qt::Vertical), "resultsSplitter", tr("Divided page"));
   splitter->addWidget(above);
   splitter->addWidget(details_);
   splitter->setStretchFactor(0, 1);
@@ -203,12 +173,20 @@ QWidget* ResultsPage::MakeTables() {
 
 void ResultsPage::ConnectSolver() {
   connect(solver_, &Solver::Began, this, [this] { ShowBusy(true); });
-  connect(solver_, &Solver::Progressed, this,
-          [this](double share) { progress_->setValue(static_cast<int>(1000.0 * share)); });
+  connect(solver_, &Solver::Progressed, this, [this](double share) {
+    progress_->setValue(static_cast<int>(1000.0 * share));
+    Q_EMIT Progressed(progress_->value());
+  });
   connect(solver_, &Solver::Solved, this, &ResultsPage::ShowResults);
   connect(solver_, &Solver::Failed, this, [this](const QString& reason) { ShowMessage(reason); });
   connect(solver_, &Solver::Cancelled, this, [this] { ShowMessage(tr("Cancelled. “Compute” starts again.")); });
 }
+
+void ResultsPage::Cancel() { solver_->Cancel(); }
+
+bool ResultsPage::IsSolving() const { return solver_->IsBusy(); }
+
+QString ResultsPage::Message() const { return summary_->text(); }
 
 bool ResultsPage::IsBusy() const { return solver_->IsBusy() || soon_->isActive() || chartSoon_->isActive(); }
 
@@ -267,7 +245,8 @@ void ResultsPage::Compute() {
   if (hidden_) return;
   try {
     CheckForResults(document_.Data());
-    solver_->Start(document_.Shared(), Wanted());
+    solving_ = document_.Shared();
+    solver_->Start(solving_, Wanted());
   } catch (const ModelFault& fault) {
     ShowMessage(FromText(fault.what()));
   }
@@ -285,6 +264,7 @@ void ResultsPage::ShowBusy(bool busy) {
   cancel_->setVisible(busy);
   compute_->setVisible(!busy);
   if (busy) progress_->setValue(0);
+  if (busy) Q_EMIT StateChanged();
 }
 
 void ResultsPage::ShowMessage(const QString& text) {
@@ -292,10 +272,12 @@ void ResultsPage::ShowMessage(const QString& text) {
   model_->Show(nullptr);
   details_->clear();
   summary_->setText(text);
+  Q_EMIT StateChanged();
 }
 
 void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   if (hidden_) return;
+  shownOf_ = solving_;
   const QString chosen = table_->currentIndex().siblingAtColumn(0).data().toString();
   ShowBusy(false);
   model_->Show(evaluation);
@@ -304,7 +286,8 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   for (const Dea::LeftOut& left : evaluation->Results.LeftOut) {
     if (lines.size() > 4) break;
     lines += tr("Left out: %1 (%2).")
-                 .arg(FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]), FromText(left.Reason));
+                 .arg(FromText(evaluation->Problem.Units[static_cast<std::size_t>(left.Unit)]),
+                      ReasonText(*evaluation, left));
   }
   if (evaluation->Results.LeftOut.size() > 3)
     lines += tr("%1 units are left out.").arg(evaluation->Results.LeftOut.size());
@@ -314,6 +297,7 @@ void ResultsPage::ShowResults(const SharedEvaluation& evaluation) {
   }
   if (!table_->currentIndex().isValid() && filter_->rowCount() > 0) table_->selectRow(0);
   ShowUnit();
+  Q_EMIT StateChanged();
   Q_EMIT Told(
       tr("Computed; the worst violation of any condition is %1.").arg(evaluation->Results.WorstViolation, 0, 'g', 2));
 }
@@ -328,25 +312,21 @@ void ResultsPage::FitColumns() {
 void ResultsPage::ShowChart() {
   std::vector<BarRow> rows;
   const SharedEvaluation& evaluation = model_->Shown();
+  bars_->setEnabled(evaluation && HasRanks(*evaluation));
+  const BarKind kind = bars_->isEnabled() && bars_->currentIndex() == 1 ? BarKind::Ranks : BarKind::Scores;
   const int count = evaluation ? filter_->rowCount() : 0;
   rows.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     const int source = filter_->mapToSource(filter_->index(i, 0)).row();
-    BarRow row;
-    row.Name = model_->UnitName(source);
-    row.First = BarOf(*evaluation, model_->ResultOf(source));
-    row.Value = row.First.IsNothing ? tr("no score")
-                                    : tr("%1 to %2").arg(ScoreLabel(row.First.Low), ScoreLabel(row.First.High));
-    if (row.First.Mark) row.Value += tr(", without judgments %1").arg(ScoreLabel(row.First.Mark));
-    rows.push_back(std::move(row));
+    rows.push_back(BarRowOf(*evaluation, model_->ResultOf(source), kind));
   }
   if (evaluation) {
-    const auto [low, high] = ScoresShown(rows, *evaluation);
+    const auto [low, high] = BarsShown(rows, *evaluation, kind);
     chart_->SetShown(low, high);
-    const bool ratio = evaluation->How.Form == ScoreForm::Ratio;
-    chart_->SetAxisLabel(ratio ? tr("efficiency; the tick is that without judgments") : tr("value"));
+    chart_->SetAxisLabel(BarsLabel(*evaluation, kind));
     chart_->SetTitle(QString::fromStdString(document_.Data().Name));
-    chart_->SetReferenceLine(ratio ? std::optional(1.0) : std::nullopt);
+    const bool scores = evaluation->How.Form == ScoreForm::Ratio && kind == BarKind::Scores;
+    chart_->SetReferenceLine(scores ? std::optional(1.0) : std::nullopt);
   }
   chart_->SetRows(std::move(rows));
   chart_->Select(table_->currentIndex().row());

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "workbench/Document.h"
-#include "workbench/ResultsModel.h"
+#include "workbench/SaveReport.h"
 
 #include <QWidget>
 
-class QBoxLayout;
 class QComboBox;
 class QDoubleSpinBox;
+class QGridLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -31,19 +31,26 @@ class ResultsPage : public QWidget {
   explicit ResultsPage(Document& document, QWidget* parent = nullptr);
 
   void Compute();
+  void Cancel();
   void Hide(bool hidden);  // while somebody judges
   bool IsBusy() const;
+  bool IsSolving() const;
   SharedEvaluation Shown() const { return model_->Shown(); }
+  Found Newest() const { return {shownOf_, model_->Shown()}; }
+  QString Message() const;  // what is said of the results, or why there are none
   BarChart& Ranges() const { return *chart_; }
 
  Q_SIGNALS:
   void Told(const QString& text);  // for the status line
+  void StateChanged();             // computing, computed, or why not
+  void Progressed(int ofAThousand);
 
  private:
   QLayout* MakeChoices();
   QLayout* MakeSearch();
   QWidget* MakeTables();
-  QComboBox* AddChoice(QBoxLayout& layout, const char* name, const QString& title, const QStringList& choices);
+  QComboBox* AddChoice(QGridLayout& grid, const char* name, const QString& title, const QStringList& choices);
+  static void AddField(QGridLayout& grid, const QString& title, QWidget& field);
   void ConnectSolver();
 
   void ShowDocument();
@@ -75,11 +82,14 @@ class ResultsPage : public QWidget {
   QPushButton* compute_ = nullptr;
   QPushButton* cancel_ = nullptr;
   QPushButton* save_ = nullptr;
+  QComboBox* bars_ = nullptr;
   QProgressBar* progress_ = nullptr;
   QLabel* summary_ = nullptr;
   QTableView* table_ = nullptr;
   BarChart* chart_ = nullptr;
   QTextBrowser* details_ = nullptr;
+  std::shared_ptr<const Project> solving_;
+  std::shared_ptr<const Project> shownOf_;
   bool showing_ = false;
   bool hidden_ = false;
 };

@@ -1,7 +1,10 @@
 #include "workbench/SaveReport.h"
 
-#include "dea/Watch.h"
 #include "modelfiles/WholeFile.h"
+#include "project/Exports.h"
+#include "project/ResultsText.h"
+#include "workbench/AskForFile.h"
+#include "workbench/ReportDocument.h"
 #include "workbench/Texts.h"
 
 #include <QtWidgets>
@@ -10,30 +13,55 @@ namespace Tarnwise {
 
 namespace {
 
-bool IsPdf(const QString& path) { return path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive); }
+constexpr const char* kEndings[] = {"html", "pdf", "csv", "R"};  // of the kinds
 
-String Now() { return ToText(QDateTime::currentDateTimeUtc().toString(Qt::ISODate)); }
+std::vector<FileKind> KindsFor(std::optional<ReportKind> kind) {
+  const QString texts[] = {QObject::tr("Web pages"), QObject::tr("PDF"), QObject::tr("Tables of the results"),
+                           QObject::tr("R scripts that check the scores")};
+  std::vector<FileKind> kinds;
+  for (int i = 0; i < 4; ++i) {
+    if (!kind || i == static_cast<int>(*kind)) kinds.push_back({texts[i], QString::fromLatin1(kEndings[i])});
+  }
+  return kinds;
+}
+
+String TextOf(ReportKind kind, const Found& found) {
+  switch (kind) {
+    case ReportKind::WebPage: return ReportHtml(ReportNow(found));
+    case ReportKind::Pdf: return ReportPdf(ReportNow(found));
+    case ReportKind::Table: return ResultsCsv(*found.Results);
+    case ReportKind::RScript: return RScript(*found.Results);
+  }
+  return {};
+}
 
 }  // namespace
 
-void WriteReportFile(const QString& path, const Project& project, const Asked& asked, const MakePdf& makePdf) {
-  const Report report = ReportOf(project, Evaluate(project, asked, {}), Now());
-  const String bytes = IsPdf(path) ? makePdf(report) : ReportHtml(report);
-  WriteFileAtomically(ToText(path), {bytes.begin(), bytes.end()});
+Report ReportNow(const Found& found) {
+  return ReportOf(*found.Of, *found.Results, ToText(QDateTime::currentDateTimeUtc().toString(Qt::ISODate)));
 }
 
-bool AskAndSaveReport(QWidget* window, const Project& project, const Asked& asked, const MakePdf& makePdf) {
-  const QString name = project.Name.empty() ? QObject::tr("report") : FromText(project.Name);
-  QString kinds = QObject::tr("Web pages (*.html)");
-  if (makePdf) kinds += QObject::tr(";;PDF (*.pdf)");
-  QString kind;
-  QString path = QFileDialog::getSaveFileName(window, QObject::tr("Save report"), name + ".html", kinds, &kind);
+ReportKind KindOfReport(const QString& path) {
+  for (int i = 0; i < 4; ++i) {
+    const QString ending = "." + QString::fromLatin1(kEndings[i]);
+    if (path.endsWith(ending, Qt::CaseInsensitive)) return static_cast<ReportKind>(i);
+  }
+  return ReportKind::WebPage;
+}
+
+void WriteReportFile(const QString& path, ReportKind kind, const Found& found) {
+  const String text = TextOf(kind, found);
+  WriteFileAtomically(ToText(path), {text.begin(), text.end()});
+}
+
+bool AskAndSaveReport(QWidget* window, std::optional<ReportKind> kind, const Found& found) {
+  const QString name = found.Of->Name.empty() ? QObject::tr("report") : FromText(found.Of->Name);
+  const QString path = AskForFile(window, QObject::tr("Save report"), name, KindsFor(kind));
   if (path.isEmpty()) return false;
-  if (QFileInfo(path).suffix().isEmpty()) path += kind.contains("pdf") ? ".pdf" : ".html";
   QApplication::setOverrideCursor(Qt::WaitCursor);
   QString fault;
   try {
-    WriteReportFile(path, project, asked, makePdf);
+    WriteReportFile(path, kind.value_or(KindOfReport(path)), found);
   } catch (const std::exception& reason) {
     fault = QString::fromUtf8(reason.what());
   }

@@ -2,11 +2,34 @@
 
 #include "project/NumberText.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLineEdit>
 #include <QLocale>
 
 namespace Tarnwise {
+
+namespace {
+
+struct TextsTr {
+  Q_DECLARE_TR_FUNCTIONS(Texts)
+};
+
+}  // namespace
+
+QString UnitsText(std::size_t count) { return count == 1 ? TextsTr::tr("1 unit") : TextsTr::tr("%1 units").arg(count); }
+
+QString AttributesText(std::size_t count) {
+  return count == 1 ? TextsTr::tr("1 attribute") : TextsTr::tr("%1 attributes").arg(count);
+}
+
+const ResultsSigns& Signs() {
+  static const ResultsSigns signs{
+      "–", "–", "–", ToText(TextsTr::tr(", seen ")), " ≥ ", " ≤ ", ToText(TextsTr::tr(" and %1 more"))};
+  return signs;
+}
+
+QString RowsText(std::size_t count) { return count == 1 ? TextsTr::tr("1 row") : TextsTr::tr("%1 rows").arg(count); }
 
 std::optional<double> TypedNumber(const QString& text) {
   const String typed = ToText(text.trimmed());

@@ -2,7 +2,7 @@
 // people who hear the window.
 #pragma once
 
-#include <tarnwise/Scalars.h>
+#include "project/Signs.h"
 
 #include <QString>
 
@@ -20,6 +20,14 @@ std::optional<double> TypedNumber(const QString& text);
 
 // The fewest digits that make the number again; empty where there is none.
 QString NumberText(const std::optional<double>& number);
+
+// "1 unit", "12 units"; "1 attribute"; "1 row".
+QString UnitsText(std::size_t count);
+QString AttributesText(std::size_t count);
+QString RowsText(std::size_t count);
+
+// What stands between numbers in the window.
+const ResultsSigns& Signs();
 
 // "2024-05-17T09:30:00Z" as this place's people write it; as it is where it is no time.
 QString TimeText(const String& made);

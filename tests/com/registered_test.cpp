@@ -9,7 +9,7 @@
 namespace Tarnwise {
 namespace {
 
-ComRef<_TRN_DEA> Made() {
+ComRef<_TRN_DEA> MadeById() {
   ComRef<_TRN_DEA> object;
   void** const receiver = reinterpret_cast<void**>(object.Receive());
   EXPECT_EQ(CoCreateInstance(CLSID_TRN_DEA, nullptr, CLSCTX_INPROC_SERVER, IID__TRN_DEA, receiver), S_OK);
@@ -20,7 +20,7 @@ ComRef<_TRN_DEA> MadeByName() {
   CLSID clsid = {};
   EXPECT_EQ(CLSIDFromProgID(L"Tarnwise_DEA.TRN_DEA", &clsid), S_OK);
   EXPECT_EQ(clsid, CLSID_TRN_DEA);
-  return Made();
+  return MadeById();
 }
 
 void ExpectEvents(_TRN_DEA* object) {
@@ -84,7 +84,7 @@ TEST(Manifest, FindsTheComponentUnregistered) {
   ULONG_PTR cookie = 0;
   ASSERT_TRUE(ActivateActCtx(made, &cookie));
   {
-    const ComRef<_TRN_DEA> object = Made();
+    const ComRef<_TRN_DEA> object = MadeById();
     EXPECT_TRUE(object);
     if (object) ExpectEvents(object.Get());
   }

@@ -33,6 +33,8 @@ inline WizardData ModelWith(const Curve& curve, Double low, Double high) {
   return model;
 }
 
+inline Double ValueAt(const Curve& curve, Double x) { return AkimaInterpolate(curve, -1, x)[4]; }
+
 class Chance {
  public:
   explicit Chance(std::uint64_t seed) : engine_(seed) {}

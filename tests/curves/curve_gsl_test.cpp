@@ -30,8 +30,6 @@ class Peer {
   std::unique_ptr<gsl_interp, Free> interp_;
 };
 
-Double ValueAt(const Curve& curve, Double x) { return AkimaInterpolate(curve, -1, x)[4]; }
-
 // The largest deviation inside the points, relative to the value.
 Double Deviation(const Curve& curve, Chance& chance) {
   const Peer peer(curve);

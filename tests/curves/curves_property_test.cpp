@@ -19,8 +19,6 @@ Curve AnyCurve(int fewest) {
   return curve;
 }
 
-Double ValueAt(const Curve& curve, Double x) { return AkimaInterpolate(curve, -1, x)[4]; }
-
 std::size_t AnyPoint(const Curve& curve) { return static_cast<std::size_t>(Whole(0, curve.N - 1)); }
 
 RC_GTEST_PROP(CurveLaw, GoesThroughItsPoints, ()) {

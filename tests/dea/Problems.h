@@ -9,7 +9,11 @@
 
 namespace Tarnwise::Dea {
 
+constexpr Double kSame = 1e-9;       // what rounding makes of equal numbers
+constexpr Double kSixDigits = 6e-7;  // published with six decimals
+
 constexpr Double kMissing = std::numeric_limits<Double>::quiet_NaN();
+constexpr Double no = kMissing;  // in tables of expected numbers
 
 Column InputColumn(const String& name, std::vector<Double> values);  // worst and best: the largest and the least
 Column OutputColumn(const String& name, std::vector<Double> values);

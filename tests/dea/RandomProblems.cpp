@@ -1,13 +1,16 @@
 #include "RandomProblems.h"
 
+#include "runtime/At.h"
+
+#include <rapidcheck.h>
+
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace Tarnwise::Dea {
 
 namespace {
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 Double NumberOf(Chance& chance, Kind kind) {
   switch (kind) {
@@ -149,5 +152,12 @@ Problem RandomProblem(Chance& chance, Kind kind, const Extent& extent) {
   if (!chance.OneIn(4)) problem.Session = RandomSession(chance, problem);
   return problem;
 }
+
+int Rounds(int otherwise) {
+  const char* const text = std::getenv("TARNWISE_ROUNDS");
+  return text != nullptr ? std::atoi(text) : otherwise;
+}
+
+Chance AnyChance() { return Chance(*rc::gen::arbitrary<std::uint64_t>()); }
 
 }  // namespace Tarnwise::Dea

@@ -39,6 +39,12 @@ struct Extent {
   int MostPerSide = 4;
 };
 
+// How many problems of each kind there are: the number in TARNWISE_ROUNDS, else the one given.
+int Rounds(int otherwise);
+
+// Another one in each run of a property.
+Chance AnyChance();
+
 // With a session three times out of four: intervals on any basis, points, one bound only, none; curves and snapshots.
 Problem RandomProblem(Chance& chance, Kind kind, const Extent& extent);
 

@@ -1,6 +1,7 @@
 #include "Reference.h"
 
 #include "dea/Values.h"
+#include "runtime/At.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,8 +9,6 @@
 namespace Tarnwise::Dea {
 
 namespace {
-
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 bool IsInput(const Problem& problem, std::size_t j) { return problem.Columns[j].Use == Role::Input; }
 
@@ -320,6 +319,20 @@ double ReferenceRegret(const Problem& problem, int unit) {
 
 bool ReferenceValueDominates(const Problem& problem, int winner, int loser) {
   return LeastDifference(problem, winner, loser) > 1e-9;
+}
+
+bool HasOutputs(const Problem& problem, int unit) {
+  bool any = false;
+  for (const Column& column : problem.Columns) {
+    if (column.Use != Role::Output) continue;
+    any = true;
+    if (column.Values[At(unit)] > 0.0) return true;
+  }
+  return !any;
+}
+
+bool IsSame(const std::optional<double>& a, const std::optional<double>& b, double tolerance) {
+  return a.has_value() == b.has_value() && (!a || std::fabs(*a - *b) <= tolerance * std::fmax(1.0, std::fabs(*a)));
 }
 
 }  // namespace Tarnwise::Dea

@@ -5,9 +5,6 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSixDigits = 6e-7;
-constexpr Double no = kMissing;
-
 using Numbers = std::vector<Double>;
 
 Results Evaluated(Returns returns, Orientation orientation) {
@@ -75,7 +72,7 @@ TEST(HospitalsFree, HaveNothingOfASession) {
   }
 }
 
-struct Judged {
+struct JudgedTable {
   Numbers Max, Min, Super;
   std::vector<RankRange> Ranks;
 };
@@ -91,7 +88,7 @@ void ExpectRanks(const std::vector<RankRange>& expected, const Results& results,
   }
 }
 
-Results ExpectJudged(const Judged& expected, const Session& session) {
+Results ExpectJudged(const JudgedTable& expected, const Session& session) {
   Results results = Evaluate(HospitalsJudged(session));
   ExpectAll(expected.Max, All(results, &UnitResult::Max), kSixDigits);
   ExpectAll(expected.Min, All(results, &UnitResult::Min), kSixDigits);

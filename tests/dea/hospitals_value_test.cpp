@@ -7,15 +7,11 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSixDigits = 6e-7;
-
 struct Row {
   char Name;
   Double Least, Most, Distance, Super, Regret;  // Distance: 0 where it is a lead
   RankRange Ranks, Seen;
 };
-
-constexpr Double no = kMissing;
 
 void ExpectRows(const std::vector<Row>& rows, const Results& results) {
   ASSERT_EQ(rows.size(), results.Units.size());

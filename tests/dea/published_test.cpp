@@ -8,8 +8,6 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSixDigits = 6e-7;
-
 // Of the Pyfrontier tutorial on assurance regions.
 TEST(Published, PyfrontierAssuranceRegion) {
   Problem problem =

@@ -11,10 +11,6 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSame = 1e-9;
-
-Chance AnyChance() { return Chance(*rc::gen::arbitrary<std::uint64_t>()); }
-
 Problem AnyProblem(Chance& chance, Kind kind) {
   Problem problem = RandomProblem(chance, kind, {});
   RC_PRE(!UnitsThatCount(problem).empty());

@@ -4,28 +4,18 @@
 #include "Reference.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSame = 1e-8;  // relative to what is 1 or more; the other solver's own tolerance is in it
-
-int Rounds() {
-  const char* const text = std::getenv("TARNWISE_ROUNDS");
-  return text != nullptr ? std::atoi(text) : 25;
-}
+constexpr Double kSolversDiffer = 1e-8;  // relative to what is 1 or more; the other solver's own tolerance is in it
 
 void ExpectSame(const std::optional<Double>& expected, const std::optional<Double>& actual, const char* what,
                 int unit) {
   ASSERT_EQ(expected.has_value(), actual.has_value())
       << what << " of unit " << unit << ": " << expected.value_or(-1) << ' ' << actual.value_or(-1);
   if (!expected) return;
-  EXPECT_NEAR(*expected, *actual, kSame * std::fmax(1.0, std::fabs(*expected))) << what << " of unit " << unit;
-}
-
-bool IsSame(const std::optional<Double>& a, const std::optional<Double>& b) {
-  return a.has_value() == b.has_value() && (!a || std::fabs(*a - *b) <= kSame * std::fmax(1.0, std::fabs(*a)));
+  EXPECT_NEAR(*expected, *actual, kSolversDiffer * std::fmax(1.0, std::fabs(*expected))) << what << " of unit " << unit;
 }
 
 // A program's answer by the second solver; where that gives up or has another one than was found, rational arithmetic
@@ -34,21 +24,10 @@ template <typename Reference>
 std::optional<Double> Answer(const std::optional<Double>& found, Reference reference) {
   try {
     const std::optional<Double> answer = reference(LeastCostByClp);
-    if (IsSame(answer, found)) return answer;
+    if (IsSame(answer, found, kSolversDiffer)) return answer;
   } catch (const std::runtime_error&) {
   }
   return reference(LeastCostExactly);
-}
-
-bool HasOutputs(const Problem& problem, int unit) {
-  bool any = false;
-  bool found = false;
-  for (const Column& column : problem.Columns) {
-    if (column.Use != Role::Output) continue;
-    any = true;
-    found = found || column.Values[static_cast<std::size_t>(unit)] > 0.0;
-  }
-  return found || !any;
 }
 
 void CheckRanks(const Results& results, const std::function<bool(int, int)>& dominates) {
@@ -85,10 +64,10 @@ void CheckHeldBack(const Problem& problem, const RawBounds& judged, int k, const
                  [&](Solver solver) { return ReferenceMax(problem, without, k, -1, solver); });
       ASSERT_TRUE(score);
       const Double gain = std::fabs(*score - *unit.Max);
-      if (std::fabs(gain - 1e-6) < 1e-7 + kSame * *unit.Max) continue;
+      if (std::fabs(gain - 1e-6) < 1e-7 + kSolversDiffer * *unit.Max) continue;
       EXPECT_EQ(gain > 1e-6, found.has_value()) << "unit " << k << " column " << j << " gain " << gain;
       if (found) {
-        EXPECT_NEAR(gain, *found, kSame * std::fmax(1.0, *unit.Max)) << "unit " << k << " column " << j;
+        EXPECT_NEAR(gain, *found, kSolversDiffer * std::fmax(1.0, *unit.Max)) << "unit " << k << " column " << j;
       }
     }
   }
@@ -161,7 +140,7 @@ class SecondSolver : public testing::TestWithParam<int> {
   template <typename Check>
   void Rounds(Form form, const Extent& extent, Check check) {
     const auto kind = static_cast<Kind>(GetParam());
-    for (int round = 0; round < Dea::Rounds() && !HasFailure(); ++round) {
+    for (int round = 0; round < Dea::Rounds(25) && !HasFailure(); ++round) {
       Chance chance(static_cast<std::uint64_t>(1000 * GetParam() + 1000000 * static_cast<int>(form) + round) + 17);
       Problem problem = RandomProblem(chance, kind, extent);
       problem.Options.Form = form;

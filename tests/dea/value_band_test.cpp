@@ -11,8 +11,6 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSame = 1e-9;
-
 Results WithBand(Problem problem, Double band) {
   problem.Options.CrossBand = band;
   return Evaluate(problem);
@@ -94,7 +92,7 @@ TEST(HospitalsBox, WeightsAreThoseOfTheTable) {
   }
 }
 
-Problem AnyProblem(Chance& chance) {
+Problem AnyValueProblem(Chance& chance) {
   Problem problem = RandomProblem(chance, static_cast<Kind>(chance.Whole(0, kKinds - 1)), {});
   problem.Options.Form = Form::Value;
   RC_PRE(!UnitsThatCount(problem).empty());
@@ -102,8 +100,8 @@ Problem AnyProblem(Chance& chance) {
 }
 
 RC_GTEST_PROP(CrossBandProperty, AWiderBandNeverShrinksRangesNorRaisesDistances, ()) {
-  Chance chance(*rc::gen::arbitrary<std::uint64_t>());
-  const Problem problem = AnyProblem(chance);
+  Chance chance = AnyChance();
+  const Problem problem = AnyValueProblem(chance);
   const Double band = chance.Real(1.0, 2.0);
   const Results narrow = WithBand(problem, band);
   const Results wide = WithBand(problem, band * chance.Real(1.0, 3.0));
@@ -118,8 +116,8 @@ RC_GTEST_PROP(CrossBandProperty, AWiderBandNeverShrinksRangesNorRaisesDistances,
 // Whatever the scores (zero, negative, beyond their curves), the judgments and the band: there is an answer, and every
 // regret is 0 or more.
 RC_GTEST_PROP(CrossBandProperty, TheValueFormIsNeverInfeasible, ()) {
-  Chance chance(*rc::gen::arbitrary<std::uint64_t>());
-  Problem problem = AnyProblem(chance);
+  Chance chance = AnyChance();
+  Problem problem = AnyValueProblem(chance);
   for (Column& column : problem.Columns) {
     for (Double& x : column.Values) x *= chance.OneIn(4) ? -1.0 : chance.OneIn(6) ? 0.0 : 1.0;
   }
@@ -135,8 +133,8 @@ RC_GTEST_PROP(CrossBandProperty, TheValueFormIsNeverInfeasible, ()) {
 // Where a unit is best for some weights its distance is 0 or less: minus its lead over the best other one, as one whole
 // program in weights says.
 RC_GTEST_PROP(CrossBandProperty, ANegativeDistanceIsTheLead, ()) {
-  Chance chance(*rc::gen::arbitrary<std::uint64_t>());
-  Problem problem = AnyProblem(chance);
+  Chance chance = AnyChance();
+  Problem problem = AnyValueProblem(chance);
   problem.Options.CrossBand = chance.Real(1.0, 2.0);
   const Results results = Evaluate(problem);
   for (int k = 0; k < static_cast<int>(results.Units.size()); ++k) {

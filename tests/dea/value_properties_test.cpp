@@ -10,16 +10,12 @@
 namespace Tarnwise::Dea {
 namespace {
 
-constexpr Double kSame = 1e-9;
-
-Problem AnyProblem(Chance& chance) {
+Problem AnyJudgedProblem(Chance& chance) {
   Problem problem = RandomProblem(chance, chance.OneIn(3) ? Kind::Spread : static_cast<Kind>(chance.Whole(0, 5)), {});
   problem.Options.Form = Form::Value;
   RC_PRE(!UnitsThatCount(problem).empty());
   return problem;
 }
-
-Chance AnyChance() { return Chance(*rc::gen::arbitrary<std::uint64_t>()); }
 
 void AssertSame(const Results& a, const Results& b) {
   RC_ASSERT(a.Units.size() == b.Units.size());
@@ -45,7 +41,7 @@ void Move(Scale& scale, Double by, Double times) {
 // Scores with their scale and curve moved along, below zero too, or measured in another unit.
 RC_GTEST_PROP(ValueProperty, AScaleThatMovesWithItsCurveChangesNothing, ()) {
   Chance chance = AnyChance();
-  Problem problem = AnyProblem(chance);
+  Problem problem = AnyJudgedProblem(chance);
   const Results before = Evaluate(problem);
   const int column = chance.Whole(0, static_cast<int>(problem.Columns.size()) - 1);
   Column& changed = problem.Columns[static_cast<std::size_t>(column)];
@@ -65,7 +61,7 @@ RC_GTEST_PROP(ValueProperty, AScaleThatMovesWithItsCurveChangesNothing, ()) {
 
 RC_GTEST_PROP(ValueProperty, ValuesRegretsAndDistancesFitTogether, ()) {
   Chance chance = AnyChance();
-  const Problem problem = AnyProblem(chance);
+  const Problem problem = AnyJudgedProblem(chance);
   const Results results = Evaluate(problem);
   RC_ASSERT(results.WorstViolation <= 1e-9);
   for (const UnitResult& unit : results.Units) {
@@ -79,7 +75,7 @@ RC_GTEST_PROP(ValueProperty, ValuesRegretsAndDistancesFitTogether, ()) {
 
 RC_GTEST_PROP(ValueProperty, AUnitThatIsTheBestInADrawIsNotBehind, ()) {
   Chance chance = AnyChance();
-  const Problem problem = AnyProblem(chance);
+  const Problem problem = AnyJudgedProblem(chance);
   RC_PRE(problem.Session.has_value());
   for (const UnitResult& unit : Evaluate(problem).Units) {
     if (unit.RanksSeen->Best == 1 && unit.Distance) RC_ASSERT(*unit.Distance <= kSame);
@@ -88,7 +84,7 @@ RC_GTEST_PROP(ValueProperty, AUnitThatIsTheBestInADrawIsNotBehind, ()) {
 
 RC_GTEST_PROP(ValueProperty, WideningNeverShrinksTheRangeNorRaisesTheDistance, ()) {
   Chance chance = AnyChance();
-  Problem problem = AnyProblem(chance);
+  Problem problem = AnyJudgedProblem(chance);
   RC_PRE(problem.Session.has_value());
   const Results narrow = Evaluate(problem);
   problem.Options.Widen = chance.Real(1.0, 3.0);
@@ -103,7 +99,7 @@ RC_GTEST_PROP(ValueProperty, WideningNeverShrinksTheRangeNorRaisesTheDistance, (
 
 RC_GTEST_PROP(ValueProperty, ThePoolGivesWhatOneWholeProgramGives, ()) {
   Chance chance = AnyChance();
-  const Problem problem = AnyProblem(chance);
+  const Problem problem = AnyJudgedProblem(chance);
   const Results results = Evaluate(problem);
   for (int k = 0; k < static_cast<int>(results.Units.size()); ++k) {
     const std::optional<Double>& distance = results.Units[static_cast<std::size_t>(k)].Distance;

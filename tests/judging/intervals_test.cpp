@@ -226,7 +226,7 @@ World AnyWorld() {
 }
 
 // A target that the step would let judge, -1 when there is none.
-int AnyTarget(const WizardData& data) {
+int AnyPlacedTarget(const WizardData& data) {
   std::vector<int> ids;
   for (int i = 0; i < data.NumAtts(); ++i) {
     if (data.AttO[i] != data.AttO[ReferenceOf(data, i)]) ids.push_back(i);
@@ -244,7 +244,7 @@ RC_GTEST_PROP(Commits, KeepEveryIntervalInOrder, ()) {
   const World world = AnyWorld();
   WizardData data = RankedData(world.Atts, world.BRef, world.CRef);
   for (int n = *rc::gen::inRange(1, 12); n > 0; --n) {
-    const int t = AnyTarget(data);
+    const int t = AnyPlacedTarget(data);
     if (t < 0) break;
     const auto [low, high] = AnyBounds();
     CommitInterval(data, t, low, high);
@@ -260,7 +260,7 @@ RC_GTEST_PROP(Commits, LeaveJudgedAttributesOfOtherRanksAlone, ()) {
   const World world = AnyWorld();
   WizardData data = RankedData(world.Atts, world.BRef, world.CRef);
   for (int n = *rc::gen::inRange(1, 12); n > 0; --n) {
-    const int t = AnyTarget(data);
+    const int t = AnyPlacedTarget(data);
     if (t < 0) break;
     const std::vector<Interval> before = IntervalsOf(data);
     const std::vector<bool> done = DoneOf(data);
@@ -282,7 +282,7 @@ RC_GTEST_PROP(Commits, MakePeersEqual, ()) {
   const World world = AnyWorld();
   WizardData data = RankedData(world.Atts, world.BRef, world.CRef);
   for (int n = *rc::gen::inRange(1, 12); n > 0; --n) {
-    const int t = AnyTarget(data);
+    const int t = AnyPlacedTarget(data);
     if (t < 0) break;
     const auto [low, high] = AnyBounds();
     CommitInterval(data, t, low, high);
@@ -299,7 +299,7 @@ RC_GTEST_PROP(Commits, MakePeersEqual, ()) {
 RC_GTEST_PROP(Commits, PutTheUnjudgedNextToTheTargetOnTheirSideOfIt, ()) {
   const World world = AnyWorld();
   WizardData data = RankedData(world.Atts, world.BRef, world.CRef);
-  const int t = AnyTarget(data);
+  const int t = AnyPlacedTarget(data);
   RC_PRE(t >= 0);
   const auto [low, high] = AnyBounds();
   const std::vector<Interval> before = IntervalsOf(data);

@@ -9,6 +9,8 @@
 
 namespace Tarnwise {
 
+constexpr Single kH = 375.0F;  // of a row button
+
 struct Ordering : OpenForm<frmIniImpOrder> {
   explicit Ordering(const WizardData& model) : OpenForm(model) {
     Form->ShowTRNDirectB = [this] { Notes.push_back("direct"); };

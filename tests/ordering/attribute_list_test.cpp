@@ -6,8 +6,6 @@ namespace {
 
 using enum Group;
 
-constexpr Single kH = 375.0F;  // of a row button
-
 TEST(AttributeList, HoldsEachGroupInAscendingId) {
   Ordering o(ModelOf({{" Waiting time ", Cost}, {"Patients", Benefit}, {"Beds", Cost}, {"Visits", Benefit}}));
   o.Open();

@@ -7,7 +7,6 @@ namespace {
 
 using enum Group;
 
-constexpr Single kH = 375.0F;
 constexpr Colour kMarkerColour = 255;
 
 // Where a newcomer to a row with so many attributes would land.

@@ -7,11 +7,11 @@ namespace {
 
 constexpr Group kGroups[] = {Group::Benefit, Group::Cost};
 
-struct Ranking {
+struct RandomRanking {
   WizardData Data;
   RankOrder Order;
 
-  Ranking() : Data(ModelOf(Whole(1, 7), Whole(1, 7))) { OpenRankOrder(Order, Data); }
+  RandomRanking() : Data(ModelOf(Whole(1, 7), Whole(1, 7))) { OpenRankOrder(Order, Data); }
 
   // What a user can do with one attribute or one list; rows only up to their limit.
   void Step() {
@@ -56,14 +56,14 @@ struct Ranking {
   }
 };
 
-int CountOn(const Ranking& r, Group g, int rank) {
+int CountOn(const RandomRanking& r, Group g, int rank) {
   int count = 0;
   for (int i = 0; i < r.Data.NumAtts(); ++i) count += InGroup(r.Data, i, g) && r.Order.AttRank[i] == rank ? 1 : 0;
   return count;
 }
 
 RC_GTEST_PROP(RankingProperty, SizesAddUpToWhatIsPlaced, ()) {
-  Ranking r;
+  RandomRanking r;
   r.Work();
   for (const Group g : kGroups) {
     int sum = 0;
@@ -79,7 +79,7 @@ RC_GTEST_PROP(RankingProperty, SizesAddUpToWhatIsPlaced, ()) {
 }
 
 RC_GTEST_PROP(RankingProperty, TheCommitKeepsOrderAndTiesAndLeavesNoGap, ()) {
-  Ranking r;
+  RandomRanking r;
   r.Work();
   r.PlaceAll();
   CommitRankOrder(r.Order, r.Data);
@@ -104,7 +104,7 @@ RC_GTEST_PROP(RankingProperty, TheCommitKeepsOrderAndTiesAndLeavesNoGap, ()) {
 }
 
 RC_GTEST_PROP(RankingProperty, TheCommitLeavesTheWorkingStateAndCanBeRepeated, ()) {
-  Ranking r;
+  RandomRanking r;
   r.Work();
   r.PlaceAll();
   const RankOrder before = r.Order;
@@ -118,7 +118,7 @@ RC_GTEST_PROP(RankingProperty, TheCommitLeavesTheWorkingStateAndCanBeRepeated, (
 }
 
 RC_GTEST_PROP(RankingProperty, AnInsertedRowMovesWhatStandsBelowByOne, ()) {
-  Ranking r;
+  RandomRanking r;
   r.Work();
   const Group g = kGroups[Whole(0, 1)];
   RC_PRE(!AtRowLimit(r.Order, r.Data, g));
@@ -133,7 +133,7 @@ RC_GTEST_PROP(RankingProperty, AnInsertedRowMovesWhatStandsBelowByOne, ()) {
 }
 
 RC_GTEST_PROP(RankingProperty, OnlyAcceptedDropsCountAsAChange, ()) {
-  Ranking r;
+  RandomRanking r;
   const int adds = Whole(0, 5);
   for (int k = 0; k < adds; ++k) {
     if (!AtRowLimit(r.Order, r.Data, Group::Benefit)) AddRank(r.Order, Group::Benefit);
@@ -152,7 +152,7 @@ void StoreWeights(WizardData& data, int steps) {
 }
 
 RC_GTEST_PROP(SavedRankingProperty, LargerWeightsRankBetterAndEqualOnesTie, ()) {
-  Ranking r;
+  RandomRanking r;
   StoreWeights(r.Data, 6);
   RankFromSavedWeights(r.Order, r.Data);
   const auto& weights = r.Data.SavedJudgments.SavedWeights;
@@ -172,10 +172,10 @@ RC_GTEST_PROP(SavedRankingProperty, LargerWeightsRankBetterAndEqualOnesTie, ()) 
 }
 
 RC_GTEST_PROP(SavedRankingProperty, DoesNotDependOnTheUnitOfTheWeights, ()) {
-  Ranking r;
+  RandomRanking r;
   StoreWeights(r.Data, 20);
   RankFromSavedWeights(r.Order, r.Data);
-  Ranking scaled;
+  RandomRanking scaled;
   scaled.Data = r.Data;
   for (int i = 0; i < r.Data.NumAtts(); ++i) scaled.Data.SavedJudgments.SavedWeights[i] *= 8.0;
   OpenRankOrder(scaled.Order, scaled.Data);
@@ -184,7 +184,7 @@ RC_GTEST_PROP(SavedRankingProperty, DoesNotDependOnTheUnitOfTheWeights, ()) {
 }
 
 RC_GTEST_PROP(SavedRankingProperty, ANegativeWeightIsNeverRanked, ()) {
-  Ranking r;
+  RandomRanking r;
   StoreWeights(r.Data, 6);
   const int negative = Whole(0, r.Data.NumAtts() - 1);
   r.Data.SavedJudgments.SavedWeights[negative] = -Between(0.001, 5.0);

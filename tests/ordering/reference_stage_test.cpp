@@ -7,7 +7,6 @@ namespace {
 
 using enum Group;
 
-constexpr Single kH = 375.0F;
 constexpr Colour kRed = 255;
 constexpr Colour kBlue = 16711680;
 

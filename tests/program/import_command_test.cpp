@@ -1,3 +1,4 @@
+#include "Samples.h"
 #include "modelfiles/WholeFile.h"
 #include "program/ImportCommand.h"
 #include "project/ProjectChecks.h"
@@ -11,7 +12,6 @@
 namespace Tarnwise {
 namespace {
 
-const String kSamples = TARNWISE_SAMPLES "/";
 const char* const kNow = "2024-05-17T09:30:00Z";
 
 class ImportCommand : public testing::Test {

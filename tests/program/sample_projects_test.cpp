@@ -1,4 +1,5 @@
 // The projects that are shipped, and what the README says of them.
+#include "Samples.h"
 #include "modelfiles/WholeFile.h"
 #include "program/SolveCommand.h"
 #include "project/ProjectFile.h"
@@ -9,8 +10,6 @@
 
 namespace Tarnwise {
 namespace {
-
-const String kSamples = TARNWISE_SAMPLES "/";
 
 String Table(const String& sample, const std::optional<String>& session = std::nullopt) {
   SolveOptions options;

@@ -1,6 +1,7 @@
 // From a CSV file by way of the wizard to results, and what the results' JSON holds when.
 #include "program/SolveCommand.h"
 
+#include "Samples.h"
 #include "modelfiles/Json.h"
 #include "play/Player.h"
 #include "program/ImportCommand.h"
@@ -16,8 +17,6 @@
 
 namespace Tarnwise {
 namespace {
-
-const String kSamples = TARNWISE_SAMPLES "/";
 
 Json Sorted(const Json& object) {
   std::vector<String> keys;

@@ -15,7 +15,7 @@ struct DelimiterRow {
   char Delimiter;
 };
 
-const DelimiterRow kRows[] = {
+const DelimiterRow kDelimiterRows[] = {
     {"commas", "Unit,X,Y\nA,1,2\nB,3,4\n", ','},
     {"semicolons", "Unit;X;Y\nA;1;2\nB;3;4\n", ';'},
     {"tabs", "Unit\tX\tY\nA\t1\t2\n", '\t'},
@@ -37,7 +37,7 @@ const DelimiterRow kRows[] = {
 };
 
 TEST(Delimiter, IsFound) {
-  for (const DelimiterRow& row : kRows) {
+  for (const DelimiterRow& row : kDelimiterRows) {
     SCOPED_TRACE(row.Name);
     EXPECT_EQ(Found(row.Text), row.Delimiter);
   }

@@ -25,7 +25,7 @@ String Format(const String& text, const NumberOptions& options = {}, char delimi
   return String(NameOfSign(found.Format.Decimal)) + (found.Seen ? "!" : "");
 }
 
-String Fault(const String& text, const NumberOptions& options = {}) {
+String NumberFault(const String& text, const NumberOptions& options = {}) {
   return FaultOf([&] { (void)Format(text, options); });
 }
 
@@ -56,10 +56,10 @@ TEST(DecimalSign, FollowsFromTheCells) {
 }
 
 TEST(DecimalSign, OfThreeDecimalsAloneIsUnclear) {
-  EXPECT_EQ(Fault("Unit;X\nA;12\nB;1.234\n"),
+  EXPECT_EQ(NumberFault("Unit;X\nA;12\nB;1.234\n"),
             "the decimal sign is unclear: \"1.234\" (line 3, X) may have decimals or thousands; say --decimal point or "
             "--thousands point");
-  EXPECT_EQ(Fault("Unit;X\nA;1,234\n"),
+  EXPECT_EQ(NumberFault("Unit;X\nA;1,234\n"),
             "the decimal sign is unclear: \"1,234\" (line 2, X) may have decimals or thousands; say --decimal comma or "
             "--thousands comma");
 }
@@ -71,10 +71,10 @@ TEST(DecimalSign, InQuotesBetweenCommasIsUnclearAllTheSame) {
 }
 
 TEST(DecimalSign, OfTwoKindsIsUnclear) {
-  EXPECT_EQ(Fault("X;Y\n1.5;2\n3;4,5\n"),
+  EXPECT_EQ(NumberFault("X;Y\n1.5;2\n3;4,5\n"),
             "the decimal sign is unclear: it is the point in \"1.5\" (line 2, X) and the comma in \"4,5\" (line 3, Y); "
             "say which with --decimal");
-  EXPECT_EQ(Fault("X;Y\n1.234;2\n3;4,567\n"),
+  EXPECT_EQ(NumberFault("X;Y\n1.234;2\n3;4,567\n"),
             "the decimal sign is unclear: it is the point in \"1.234\" (line 2, X) and the comma in \"4,567\" (line 3, "
             "Y); say which with --decimal");
 }
@@ -101,7 +101,7 @@ TEST(DecimalSign, CannotMarkThousandsToo) {
   NumberOptions options;
   options.Decimal = ',';
   options.Thousands = ',';
-  EXPECT_EQ(Fault("X\n1\n", options), "the comma can't be both --decimal and --thousands");
+  EXPECT_EQ(NumberFault("X\n1\n", options), "the comma can't be both --decimal and --thousands");
 }
 
 TEST(DecimalSign, IsNotLookedForInCellsThatCountAsMissing) {

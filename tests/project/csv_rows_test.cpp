@@ -25,7 +25,7 @@ struct RowsRow {
   const char* Rows;
 };
 
-const RowsRow kRows[] = {
+const RowsRow kRowCases[] = {
     {"nothing", "", ""},
     {"one cell", "a", "1[a] "},
     {"an empty line", "\n", "1[] "},
@@ -53,7 +53,7 @@ const RowsRow kRows[] = {
 };
 
 TEST(CsvRows, AreTakenApart) {
-  for (const RowsRow& row : kRows) {
+  for (const RowsRow& row : kRowCases) {
     SCOPED_TRACE(row.Name);
     EXPECT_EQ(Rows(row.Text), row.Rows);
   }

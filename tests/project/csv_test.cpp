@@ -1,5 +1,6 @@
 #include "project/Csv.h"
 
+#include "support/Bytes.h"
 #include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
@@ -7,11 +8,9 @@
 namespace Tarnwise {
 namespace {
 
-std::vector<char> Bytes(const String& text) { return {text.begin(), text.end()}; }
+CsvTable Read(const String& text, const CsvOptions& options = {}) { return ReadCsv(BytesOf(text), options); }
 
-CsvTable Read(const String& text, const CsvOptions& options = {}) { return ReadCsv(Bytes(text), options); }
-
-String Fault(const String& text, const CsvOptions& options = {}) {
+String CsvFault(const String& text, const CsvOptions& options = {}) {
   return FaultOf([&] { (void)Read(text, options); });
 }
 
@@ -28,7 +27,7 @@ CsvOptions AskingFor(const std::vector<String>& columns) {
 }
 
 // Names, then each row's line and cells.
-String Shown(const CsvTable& table) {
+String ShownTable(const CsvTable& table) {
   String text;
   for (const String& name : table.Names) text += "<" + name + ">";
   for (std::size_t row = 0; row < table.Rows(); ++row) {
@@ -38,9 +37,11 @@ String Shown(const CsvTable& table) {
   return text;
 }
 
-String Shown(const String& text, const CsvOptions& options = {}) { return Shown(Read(text, options)); }
+String ShownTable(const String& text, const CsvOptions& options = {}) { return ShownTable(Read(text, options)); }
 
-TEST(Csv, IsNamesAndRowsOfCells) { EXPECT_EQ(Shown("Unit;X;Y\nA;1;2\nB;3;4\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]"); }
+TEST(Csv, IsNamesAndRowsOfCells) {
+  EXPECT_EQ(ShownTable("Unit;X;Y\nA;1;2\nB;3;4\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]");
+}
 
 TEST(Csv, TellsWhatItUnderstood) {
   const CsvTable table = Read("\xEF\xBB\xBFUnit;X\nA;1\n\nB;2\n;\n");
@@ -53,56 +54,56 @@ TEST(Csv, TellsWhatItUnderstood) {
 
 TEST(Csv, OfEveryEncodingGivesTheSameTable) {
   const String table = "<Unit><X> 2[M\xC3\xBCnchen][1]";
-  EXPECT_EQ(Shown("Unit,X\nM\xC3\xBCnchen,1\n"), table);
-  EXPECT_EQ(Shown("\xEF\xBB\xBFUnit,X\nM\xC3\xBCnchen,1\n"), table);
-  EXPECT_EQ(Shown("Unit,X\nM\xFCnchen,1\n"), table);
+  EXPECT_EQ(ShownTable("Unit,X\nM\xC3\xBCnchen,1\n"), table);
+  EXPECT_EQ(ShownTable("\xEF\xBB\xBFUnit,X\nM\xC3\xBCnchen,1\n"), table);
+  EXPECT_EQ(ShownTable("Unit,X\nM\xFCnchen,1\n"), table);
   String utf16 = "\xFF\xFE";
   for (const char c : String("Unit,X\nM\xFCnchen,1\n")) utf16 += {c, '\0'};
-  EXPECT_EQ(Shown(utf16), table);
+  EXPECT_EQ(ShownTable(utf16), table);
 }
 
 TEST(Csv, RowsAreCountedByTheLinesOfTheFile) {
-  EXPECT_EQ(Shown("Unit,X\n\n\"A\nA\",1\n\n\nB,2\n"), "<Unit><X> 3[A\nA][1] 7[B][2]");
+  EXPECT_EQ(ShownTable("Unit,X\n\n\"A\nA\",1\n\n\nB,2\n"), "<Unit><X> 3[A\nA][1] 7[B][2]");
 }
 
 TEST(Csv, DoubledQuotesAreOne) {
-  EXPECT_EQ(Shown("Unit,\"X \"\"net\"\"\"\n\"\"\"A\"\"\",1\n"), "<Unit><X \"net\"> 2[\"A\"][1]");
+  EXPECT_EQ(ShownTable("Unit,\"X \"\"net\"\"\"\n\"\"\"A\"\"\",1\n"), "<Unit><X \"net\"> 2[\"A\"][1]");
 }
 
 TEST(Csv, TableOutlivesTheWayItWasMade) {
   CsvTable table = Read("Unit,X\n\"say \"\"A\"\"\",1\nB,2\n");
   const CsvTable moved = std::move(table);
-  EXPECT_EQ(Shown(moved), "<Unit><X> 2[say \"A\"][1] 3[B][2]");
+  EXPECT_EQ(ShownTable(moved), "<Unit><X> 2[say \"A\"][1] 3[B][2]");
 }
 
 TEST(Csv, LineThatNamesTheDelimiterIsNoRow) {
-  EXPECT_EQ(Shown("sep=;\nUnit;X,Y\nA;1,2\n"), "<Unit><X,Y> 3[A][1,2]");
-  EXPECT_EQ(Shown("sep=,\r\nUnit,X\r\nA,1\r\n"), "<Unit><X> 3[A][1]");
-  EXPECT_EQ(Shown("sep=;,X\nA,1\n"), "<sep=;><X> 2[A][1]");
+  EXPECT_EQ(ShownTable("sep=;\nUnit;X,Y\nA;1,2\n"), "<Unit><X,Y> 3[A][1,2]");
+  EXPECT_EQ(ShownTable("sep=,\r\nUnit,X\r\nA,1\r\n"), "<Unit><X> 3[A][1]");
+  EXPECT_EQ(ShownTable("sep=;,X\nA,1\n"), "<sep=;><X> 2[A][1]");
 }
 
 TEST(Csv, DelimiterThatIsToldIsNotLookedFor) {
   CsvOptions options;
   options.Delimiter = ',';
-  EXPECT_EQ(Shown("Unit;A,B\nx;y,2\n", options), "<Unit;A><B> 2[x;y][2]");
+  EXPECT_EQ(ShownTable("Unit;A,B\nx;y,2\n", options), "<Unit;A><B> 2[x;y][2]");
   options.Delimiter = ':';
-  EXPECT_EQ(Shown("Unit:X\nA:1\n", options), "<Unit><X> 2[A][1]");
+  EXPECT_EQ(ShownTable("Unit:X\nA:1\n", options), "<Unit><X> 2[A][1]");
 }
 
 TEST(Csv, RaggedRowsAreAllNamed) {
-  EXPECT_EQ(Fault("Unit,X,Y\nA,1,2\nB,3\nC,4,5,6\nD,7,8\n"),
+  EXPECT_EQ(CsvFault("Unit,X,Y\nA,1,2\nB,3\nC,4,5,6\nD,7,8\n"),
             "line 1 has 3 cells, but line 3 (B) has 2, line 4 (C) has 4");
 }
 
 TEST(Csv, EmptyCellsAtTheEndOfRowsAreNoColumns) {
-  EXPECT_EQ(Shown("Unit;X;Y;\nA;1;2;\n"), "<Unit><X><Y> 2[A][1][2]");
-  EXPECT_EQ(Shown("Unit;X;Y\nA;1;2;;\nB;3;4\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]");
-  EXPECT_EQ(Shown("Unit;X;Y;\nA;1;2\nB;3;4;\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]");
+  EXPECT_EQ(ShownTable("Unit;X;Y;\nA;1;2;\n"), "<Unit><X><Y> 2[A][1][2]");
+  EXPECT_EQ(ShownTable("Unit;X;Y\nA;1;2;;\nB;3;4\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]");
+  EXPECT_EQ(ShownTable("Unit;X;Y;\nA;1;2\nB;3;4;\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][4]");
 }
 
 TEST(Csv, ShortRowIsNotFilledUp) {
-  EXPECT_EQ(Fault("Unit;X;Y\nA;1;2\nB;3\n"), "line 1 has 3 cells, but line 3 (B) has 2");
-  EXPECT_EQ(Shown("Unit;X;Y\nA;1;2\nB;3;\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][]");
+  EXPECT_EQ(CsvFault("Unit;X;Y\nA;1;2\nB;3\n"), "line 1 has 3 cells, but line 3 (B) has 2");
+  EXPECT_EQ(ShownTable("Unit;X;Y\nA;1;2\nB;3;\n"), "<Unit><X><Y> 2[A][1][2] 3[B][3][]");
 }
 
 TEST(Csv, HeaderIsWhereWordsStandAboveNumbers) {
@@ -113,51 +114,52 @@ TEST(Csv, HeaderIsWhereWordsStandAboveNumbers) {
 }
 
 TEST(Csv, FirstRowWithNumbersMayBeAHeaderOrNot) {
-  EXPECT_EQ(Fault("Unit,2019\nA,1\nB,2\n"),
+  EXPECT_EQ(CsvFault("Unit,2019\nA,1\nB,2\n"),
             "line 1 may hold the columns' names or the first values (\"2019\" in column 2); say which with --header or "
             "--no-header");
-  EXPECT_EQ(Shown("Unit,2019\nA,1\n", WithHeader(true)), "<Unit><2019> 2[A][1]");
-  EXPECT_EQ(Shown("Unit,2019\nA,1\n", WithHeader(false)), "<Column 1><Column 2> 1[Unit][2019] 2[A][1]");
+  EXPECT_EQ(ShownTable("Unit,2019\nA,1\n", WithHeader(true)), "<Unit><2019> 2[A][1]");
+  EXPECT_EQ(ShownTable("Unit,2019\nA,1\n", WithHeader(false)), "<Column 1><Column 2> 1[Unit][2019] 2[A][1]");
 }
 
 TEST(Csv, FirstRowThatLacksAValueMayBeAHeaderOrNot) {
-  EXPECT_EQ(Fault("A,?\nB,2\n"),
+  EXPECT_EQ(CsvFault("A,?\nB,2\n"),
             "line 1 may hold the columns' names or the first values (\"?\" in column 2); say which with --header or "
             "--no-header");
 }
 
 TEST(Csv, NamesAskedForSettleTheHeader) {
-  EXPECT_EQ(Shown("Unit,2019\nA,1\n", AskingFor({"Unit", "2019"})), "<Unit><2019> 2[A][1]");
-  EXPECT_EQ(Shown("Unit,\" 2019\n net\"\nA,1\n", AskingFor({"2019 net"})), "<Unit><2019 net> 3[A][1]");
-  EXPECT_NE(Fault("Unit,2019\nA,1\n", AskingFor({"Unit", "2020"})), "no fault");
+  EXPECT_EQ(ShownTable("Unit,2019\nA,1\n", AskingFor({"Unit", "2019"})), "<Unit><2019> 2[A][1]");
+  EXPECT_EQ(ShownTable("Unit,\" 2019\n net\"\nA,1\n", AskingFor({"2019 net"})), "<Unit><2019 net> 3[A][1]");
+  EXPECT_NE(CsvFault("Unit,2019\nA,1\n", AskingFor({"Unit", "2020"})), "no fault");
 }
 
 TEST(Csv, NamesStandOnOneLineWithoutBlanksAround) {
-  EXPECT_EQ(Shown("Unit,\" Doctors\n(full time) \"\nA,1\n"), "<Unit><Doctors (full time)> 3[A][1]");
+  EXPECT_EQ(ShownTable("Unit,\" Doctors\n(full time) \"\nA,1\n"), "<Unit><Doctors (full time)> 3[A][1]");
 }
 
 TEST(Csv, ColumnWithoutANameGetsOne) {
   const CsvTable table = Read(",X,\nA,1,2\n", WithHeader(true));
-  EXPECT_EQ(Shown(table), "<Column 1><X><Column 3> 2[A][1][2]");
+  EXPECT_EQ(ShownTable(table), "<Column 1><X><Column 3> 2[A][1][2]");
   EXPECT_EQ(table.Unnamed, (std::vector<std::size_t>{0, 2}));
 }
 
 TEST(Csv, ColumnsOfTheSameNameAreAFault) {
-  EXPECT_EQ(Fault("Unit,X,Y,X \nA,1,2,3\n"), "columns 2 and 4 are both called \"X\"");
-  EXPECT_EQ(Fault("Unit,Column 3,\nA,1,2\n", WithHeader(true)), "columns 2 and 3 are both called \"Column 3\"");
+  EXPECT_EQ(CsvFault("Unit,X,Y,X \nA,1,2,3\n"), "columns 2 and 4 are both called \"X\"");
+  EXPECT_EQ(CsvFault("Unit,Column 3,\nA,1,2\n", WithHeader(true)), "columns 2 and 3 are both called \"Column 3\"");
 }
 
 TEST(Csv, WithoutContentIsAFault) {
-  for (const char* const text : {"", "\n\n", "\xEF\xBB\xBF", "  \r\n"}) EXPECT_EQ(Fault(text), "it is empty") << text;
+  for (const char* const text : {"", "\n\n", "\xEF\xBB\xBF", "  \r\n"})
+    EXPECT_EQ(CsvFault(text), "it is empty") << text;
   CsvOptions options;
   options.Delimiter = ';';
-  EXPECT_EQ(Fault(";;\n;;\n", options), "it has no rows");
+  EXPECT_EQ(CsvFault(";;\n;;\n", options), "it has no rows");
 }
 
 TEST(Csv, WithAHeaderAloneHasNoRows) { EXPECT_EQ(Read("Unit,X\n").Rows(), 0U); }
 
 TEST(Csv, WorkbookIsNotTakenForText) {
-  EXPECT_EQ(Fault("PK\x03\x04\x14"), "it is a workbook or an archive; save the sheet as CSV");
+  EXPECT_EQ(CsvFault("PK\x03\x04\x14"), "it is a workbook or an archive; save the sheet as CSV");
 }
 
 TEST(Csv, PreviewIsTheTableCut) {
@@ -180,7 +182,7 @@ TEST(Csv, PreviewIsTheTableCut) {
 TEST(Csv, PreviewFailsWhereTheWholeTableDoes) {
   CsvOptions options;
   options.MostRows = 1;
-  EXPECT_EQ(Fault("Unit,X\nA,1\nB,2\nC\n", options), "line 1 has 2 cells, but line 4 (C) has 1");
+  EXPECT_EQ(CsvFault("Unit,X\nA,1\nB,2\nC\n", options), "line 1 has 2 cells, but line 4 (C) has 1");
 }
 
 TEST(Csv, ManyRowsAreReadToTheLast) {
@@ -196,7 +198,7 @@ TEST(Csv, ManyRowsAreReadToTheLast) {
 TEST(Csv, FaultInTheLastOfManyRowsIsFound) {
   String text = "Unit,X\n";
   for (int i = 0; i < 50000; ++i) text += "U" + std::to_string(i) + ",1\n";
-  EXPECT_EQ(Fault(text + "last,1,2\n"), "line 1 has 2 cells, but line 50002 (last) has 3");
+  EXPECT_EQ(CsvFault(text + "last,1,2\n"), "line 1 has 2 cells, but line 50002 (last) has 3");
 }
 
 }  // namespace

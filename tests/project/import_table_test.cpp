@@ -20,12 +20,12 @@ ImportedTable Import(const String& text, const TableOptions& options) {
   return ImportTable({text.begin(), text.end()}, options);
 }
 
-String Fault(const String& text, const TableOptions& options) {
+String TableFault(const String& text, const TableOptions& options) {
   return FaultOf([&] { (void)Import(text, options); });
 }
 
 // Role, name, range and values of each column.
-String Shown(const Project& project) {
+String ShownProject(const Project& project) {
   String text;
   for (const DataColumn& column : project.Columns) {
     text += String(NameOf(column.Role)) + " " + column.Name;
@@ -39,7 +39,7 @@ String Shown(const Project& project) {
 TEST(ImportTable, MakesColumnsWithTheirRolesAndRanges) {
   const ImportedTable imported = Import("Unit,X,Y,Z\nA,19,94,7\nB,55,260,\n", Roles({"X"}, {"Y"}));
   EXPECT_EQ(imported.Project.Units, (std::vector<String>{"A", "B"}));
-  EXPECT_EQ(Shown(imported.Project), "input X 60..15 19 55; output Y 80..280 94 260; unused Z 7 -; ");
+  EXPECT_EQ(ShownProject(imported.Project), "input X 60..15 19 55; output Y 80..280 94 260; unused Z 7 -; ");
   EXPECT_EQ(FaultOf([&] { CheckProject(imported.Project); }), "no fault");
 }
 
@@ -72,40 +72,40 @@ TEST(ImportTable, NamesEveryCellThatItCouldNotRead) {
 
 TEST(ImportTable, QuestionMarkIsAMissingValue) {
   const ImportedTable imported = Import("Unit,X\nA,?\nB,2\n", Roles({"X"}, {}));
-  EXPECT_EQ(Shown(imported.Project), "input X 2.2..1.8 - 2; ");
+  EXPECT_EQ(ShownProject(imported.Project), "input X 2.2..1.8 - 2; ");
   EXPECT_TRUE(imported.Report.Unread.empty());
 }
 
 TEST(ImportTable, TextsToldToBeMissingAre) {
   TableOptions options = Roles({"X"}, {});
   options.Numbers.Missing = {"-99", "none yet"};
-  EXPECT_EQ(Shown(Import("Unit,X\nA,-99\nB,2\nC,none yet\n", options).Project), "input X 2.2..1.8 - 2 -; ");
+  EXPECT_EQ(ShownProject(Import("Unit,X\nA,-99\nB,2\nC,none yet\n", options).Project), "input X 2.2..1.8 - 2 -; ");
 }
 
 TEST(ImportTable, NumberOfAnotherFormatIsNotTakenForMissing) {
-  EXPECT_EQ(Fault("Unit;X\nA;1.5\nB;1,234\nC;2,5 \n", Roles({"X"}, {})).substr(0, 30),
+  EXPECT_EQ(TableFault("Unit;X\nA;1.5\nB;1,234\nC;2,5 \n", Roles({"X"}, {})).substr(0, 30),
             "the decimal sign is unclear: i");
   EXPECT_EQ(
-      Fault("Unit;X\nA;1.5\nB;1,234\n", Roles({"X"}, {})),
+      TableFault("Unit;X\nA;1.5\nB;1,234\n", Roles({"X"}, {})),
       "column \"X\": \"1,234\" (line 3) can't be read with a decimal point and no thousands marks; say which with "
       "--decimal and --thousands, or what is missing with --missing");
   TableOptions options = Roles({"X"}, {});
   options.Numbers.Thousands = ',';
   EXPECT_EQ(Import("Unit;X\nA;1.5\nB;1,234\n", options).Project.Columns[0].Values[1], 1234.0);
   options.Numbers.Thousands = ' ';
-  EXPECT_NE(Fault("Unit;X\nA;1.5\nB;1,234\n", options).find("the thousands mark blank"), String::npos);
+  EXPECT_NE(TableFault("Unit;X\nA;1.5\nB;1,234\n", options).find("the thousands mark blank"), String::npos);
 }
 
 TEST(ImportTable, ColumnWithoutNumbersCannotBeUsed) {
-  EXPECT_EQ(Fault("Unit,X,Y\nA,low,1\nB,?,2\n", Roles({"X"}, {"Y"})),
+  EXPECT_EQ(TableFault("Unit,X,Y\nA,low,1\nB,?,2\n", Roles({"X"}, {"Y"})),
             "column \"X\" has no numbers; its first cell is \"low\"");
-  EXPECT_EQ(Fault("Unit,X,Y\nA,,1\nB,,2\n", Roles({"X"}, {"Y"})),
+  EXPECT_EQ(TableFault("Unit,X,Y\nA,,1\nB,,2\n", Roles({"X"}, {"Y"})),
             "column \"X\" has no numbers; its first cell is \"\"");
 }
 
 TEST(ImportTable, UnusedColumnsKeepTheirNumbers) {
   const ImportedTable imported = Import("Unit,Region,X,Code\nA,north,1,12\nB,south,2,A13\n", Roles({"X"}, {}));
-  EXPECT_EQ(Shown(imported.Project), "unused Region - -; input X 2.1..0.9 1 2; unused Code 12 -; ");
+  EXPECT_EQ(ShownProject(imported.Project), "unused Region - -; input X 2.1..0.9 1 2; unused Code 12 -; ");
   ASSERT_EQ(imported.Report.Texts.size(), 2U);
   EXPECT_EQ(imported.Report.Texts[0].Column, "Region");
   EXPECT_EQ(imported.Report.Texts[0].Count, 2U);
@@ -116,14 +116,16 @@ TEST(ImportTable, UnusedColumnsKeepTheirNumbers) {
 TEST(ImportTable, OnlyTheUnusedColumnsThatAreNamedAreKeptIfAnyAre) {
   TableOptions options = Roles({"X"}, {});
   options.Unused = {"Code"};
-  EXPECT_EQ(Shown(Import("Unit,Region,X,Code\nA,3,1,12\nB,4,2,13\n", options).Project),
+  EXPECT_EQ(ShownProject(Import("Unit,Region,X,Code\nA,3,1,12\nB,4,2,13\n", options).Project),
             "input X 2.1..0.9 1 2; unused Code 12 13; ");
 }
 
 TEST(ImportTable, UnusedColumnsDecideOnTheDecimalSignWhereNoOtherDoes) {
-  EXPECT_EQ(Shown(Import("Unit;X;Y\nA;1;2,5\n", Roles({"X"}, {})).Project), "input X 1.1..0.9 1; unused Y 2.5; ");
-  EXPECT_EQ(Shown(Import("Unit;X;Y\nA;1.5;2,5\n", Roles({"X"}, {})).Project), "input X 1.6..1.4 1.5; unused Y -; ");
-  EXPECT_NE(Fault("Unit;X;Y\nA;1;2.345\n", Roles({"X"}, {})), "no fault");
+  EXPECT_EQ(ShownProject(Import("Unit;X;Y\nA;1;2,5\n", Roles({"X"}, {})).Project),
+            "input X 1.1..0.9 1; unused Y 2.5; ");
+  EXPECT_EQ(ShownProject(Import("Unit;X;Y\nA;1.5;2,5\n", Roles({"X"}, {})).Project),
+            "input X 1.6..1.4 1.5; unused Y -; ");
+  EXPECT_NE(TableFault("Unit;X;Y\nA;1;2.345\n", Roles({"X"}, {})), "no fault");
 }
 
 TEST(ImportTable, NamesMayComeInListsOrOneByOne) {
@@ -132,26 +134,28 @@ TEST(ImportTable, NamesMayComeInListsOrOneByOne) {
 }
 
 TEST(ImportTable, NameThatNoColumnHasIsAFault) {
-  EXPECT_EQ(Fault("Unit,Doctors\nA,1\n", Roles({"Docters"}, {})),
+  EXPECT_EQ(TableFault("Unit,Doctors\nA,1\n", Roles({"Docters"}, {})),
             "there is no column \"Docters\"; did you mean \"Doctors\"?");
-  EXPECT_EQ(Fault("Name,X\nA,1\n", Roles({"X"}, {})), "there is no column \"Unit\"; there are \"Name\", \"X\"");
-  EXPECT_EQ(Fault("Unit,Wards\nA,1\n", Roles({"Wards,"}, {})),
+  EXPECT_EQ(TableFault("Name,X\nA,1\n", Roles({"X"}, {})), "there is no column \"Unit\"; there are \"Name\", \"X\"");
+  EXPECT_EQ(TableFault("Unit,Wards\nA,1\n", Roles({"Wards,"}, {})),
             "there is no column \"\"; there are \"Unit\", \"Wards\"");
 }
 
 TEST(ImportTable, ColumnHasOneRole) {
-  EXPECT_EQ(Fault("Unit,X\nA,1\n", Roles({"X"}, {"X"})), "column \"X\" is named twice: input and output");
-  EXPECT_EQ(Fault("Unit,X\nA,1\n", Roles({"X,X"}, {})), "column \"X\" is named twice: input and input");
-  EXPECT_EQ(Fault("Unit,X\nA,1\n", Roles({"X"}, {"Unit"})), "column \"Unit\" names the units and can't be output too");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\n", Roles({"X"}, {"X"})), "column \"X\" is named twice: input and output");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\n", Roles({"X,X"}, {})), "column \"X\" is named twice: input and input");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\n", Roles({"X"}, {"Unit"})),
+            "column \"Unit\" names the units and can't be output too");
 }
 
 TEST(ImportTable, UnitsHaveNames) {
-  EXPECT_EQ(Fault("Unit,X\nA,1\n\n ,2\n", Roles({"X"}, {})), "line 4: the unit has no name in \"Unit\"");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\n\n ,2\n", Roles({"X"}, {})), "line 4: the unit has no name in \"Unit\"");
 }
 
 TEST(ImportTable, UnitsHaveDifferentNames) {
-  EXPECT_EQ(Fault("Unit,X\nA,1\nB,2\nA ,3\n", Roles({"X"}, {})), "line 4: the unit \"A\" stands in line 2 already");
-  EXPECT_EQ(Fault("Unit,X\nA,1\na,2\n", Roles({"X"}, {})), "no fault");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\nB,2\nA ,3\n", Roles({"X"}, {})),
+            "line 4: the unit \"A\" stands in line 2 already");
+  EXPECT_EQ(TableFault("Unit,X\nA,1\na,2\n", Roles({"X"}, {})), "no fault");
 }
 
 TEST(ImportTable, NamesThatLookLikeMissingValuesAreNames) {
@@ -159,14 +163,14 @@ TEST(ImportTable, NamesThatLookLikeMissingValuesAreNames) {
 }
 
 TEST(ImportTable, NeedsRows) {
-  EXPECT_EQ(Fault("Unit,X\n", Roles({"X"}, {})), "there are no rows below the names of the columns");
+  EXPECT_EQ(TableFault("Unit,X\n", Roles({"X"}, {})), "there are no rows below the names of the columns");
 }
 
 TEST(ImportTable, WithoutAHeaderColumnsAreCalledByTheirNumbers) {
   TableOptions options = Roles({"Column 2"}, {"Column 3"});
   options.Unit = "Column 1";
   options.Csv.Header = false;
-  EXPECT_EQ(Shown(Import("A,1,2\nB,3,4\n", options).Project),
+  EXPECT_EQ(ShownProject(Import("A,1,2\nB,3,4\n", options).Project),
             "input Column 2 3.2..0.8 1 3; output Column 3 1.8..4.2 2 4; ");
 }
 
@@ -181,14 +185,15 @@ TEST(ImportTable, NamesOfTheFirstColumnMayBeMissingAsInR) {
 TEST(ImportTable, RangesThatAreGivenReplaceThoseOfTheData) {
   TableOptions options = Roles({"X"}, {"Y"});
   options.Ranges = {{"X", 50, 10}};
-  EXPECT_EQ(Shown(Import("Unit,X,Y\nA,19,94\nB,55,260\n", options).Project),
+  EXPECT_EQ(ShownProject(Import("Unit,X,Y\nA,19,94\nB,55,260\n", options).Project),
             "input X 50..10 19 55; output Y 80..280 94 260; ");
   options.Ranges = {{"Z", 50, 10}};
-  EXPECT_EQ(Fault("Unit,X,Y,Z\nA,1,2,3\n", options), "the range of \"Z\" is given, but that is no input and no output");
+  EXPECT_EQ(TableFault("Unit,X,Y,Z\nA,1,2,3\n", options),
+            "the range of \"Z\" is given, but that is no input and no output");
 }
 
 TEST(ImportTable, ValuesMayBeNegativeOrZero) {
-  EXPECT_EQ(Shown(Import("Unit,X,Y\nA,-5,0\nB,12,0\n", Roles({"X"}, {"Y"})).Project),
+  EXPECT_EQ(ShownProject(Import("Unit,X,Y\nA,-5,0\nB,12,0\n", Roles({"X"}, {"Y"})).Project),
             "input X 14..-6 -5 12; output Y 0..1 0 0; ");
 }
 

@@ -15,7 +15,7 @@ struct RangeRow {
   double NiceHigh;
 };
 
-const RangeRow kRows[] = {
+const RangeRow kRangeRows[] = {
     {"doctors of the hospitals", 19, 55, 15, 60},
     {"nurses of the hospitals", 131, 306, 120, 320},
     {"outpatients of the hospitals", 94, 260, 80, 280},
@@ -37,7 +37,7 @@ const RangeRow kRows[] = {
 };
 
 TEST(NiceRange, LiesAroundTheDataInRoundSteps) {
-  for (const RangeRow& row : kRows) {
+  for (const RangeRow& row : kRangeRows) {
     SCOPED_TRACE(row.Name);
     const Range range = NiceRange(row.Low, row.High);
     EXPECT_EQ(range.Low, row.NiceLow);

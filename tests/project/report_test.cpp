@@ -55,7 +55,7 @@ std::vector<Drawing> ChartsOf(const Report& report) {
   return charts;
 }
 
-std::size_t CountOf(const String& text, const String& what) {
+std::size_t TimesIn(const String& text, const String& what) {
   std::size_t count = 0;
   for (std::size_t at = text.find(what); at != String::npos; at = text.find(what, at + what.size())) ++count;
   return count;
@@ -191,8 +191,8 @@ TEST(Report, ChartsStayWithinTheirEdges) {
 TEST(ReportHtml, IsOneFileWithChartsWithin) {
   const Report report = ReportFor(HospitalsJudged(), WishesFor(0));
   const String html = ReportHtml(report);
-  EXPECT_EQ(ChartsOf(report).size(), CountOf(html, "<svg "));
-  EXPECT_EQ(ChartsOf(report).size(), CountOf(html, "<desc id=\"chart-"));
+  EXPECT_EQ(ChartsOf(report).size(), TimesIn(html, "<svg "));
+  EXPECT_EQ(ChartsOf(report).size(), TimesIn(html, "<desc id=\"chart-"));
   EXPECT_EQ(String::npos, html.find("src="));
   EXPECT_EQ(String::npos, html.find("href="));
   EXPECT_EQ(0U, html.find("<!DOCTYPE html>\n<html lang=\"en\">"));
@@ -214,7 +214,7 @@ TEST(ReportHtml, RichTextHasAMarkForEachChart) {
   const Report report = ReportFor(HospitalsJudged(), WishesFor(0));
   const String text = ReportRichText(report);
   EXPECT_EQ(String::npos, text.find("<svg"));
-  for (std::size_t k = 0; k < ChartsOf(report).size(); ++k) EXPECT_EQ(1U, CountOf(text, ChartMark(k))) << k;
+  for (std::size_t k = 0; k < ChartsOf(report).size(); ++k) EXPECT_EQ(1U, TimesIn(text, ChartMark(k))) << k;
 }
 
 // Tables and charts show the first or the best, and say so.

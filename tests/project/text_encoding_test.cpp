@@ -1,5 +1,6 @@
 #include "project/TextEncoding.h"
 
+#include "support/Bytes.h"
 #include "support/FaultOf.h"
 
 #include <gtest/gtest.h>
@@ -9,8 +10,6 @@ namespace {
 
 using namespace std::string_literals;
 
-std::vector<char> Bytes(const std::string& text) { return {text.begin(), text.end()}; }
-
 struct Decoded {
   String Text;
   String Encoding;
@@ -18,11 +17,11 @@ struct Decoded {
 };
 
 Decoded Decode(const std::string& bytes, std::optional<TextEncoding> told = std::nullopt) {
-  const DecodedText decoded = DecodeText(Bytes(bytes), told);
+  const DecodedText decoded = DecodeText(BytesOf(bytes), told);
   return {String(decoded.Text.begin(), decoded.Text.end()), NameOf(decoded.Encoding)};
 }
 
-String Fault(const std::string& bytes, std::optional<TextEncoding> told = std::nullopt) {
+String EncodingFault(const std::string& bytes, std::optional<TextEncoding> told = std::nullopt) {
   return FaultOf([&] { (void)Decode(bytes, told); });
 }
 
@@ -43,7 +42,7 @@ struct EncodingRow {
   const char* Encoding;
 };
 
-const EncodingRow kRows[] = {
+const EncodingRow kEncodingRows[] = {
     {"nothing", "", "", "UTF-8"},
     {"ASCII", "a,b\r\n\t1", "a,b\r\n\t1", "UTF-8"},
     {"UTF-8", "M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x98\x80", "M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x98\x80", "UTF-8"},
@@ -57,7 +56,7 @@ const EncodingRow kRows[] = {
 };
 
 TEST(TextEncoding, IsFound) {
-  for (const EncodingRow& row : kRows) {
+  for (const EncodingRow& row : kEncodingRows) {
     SCOPED_TRACE(row.Name);
     EXPECT_EQ(Decode(row.Bytes), (Decoded{row.Text, row.Encoding}));
   }
@@ -84,34 +83,38 @@ TEST(TextEncoding, ThatIsToldWinsWhereTheFileCouldBeAnother) {
 }
 
 TEST(TextEncoding, OfAFileThatMixesTwoIsUnclear) {
-  EXPECT_EQ(Fault("M\xC3\xBCnchen\nK\xF6ln\n"),
+  EXPECT_EQ(EncodingFault("M\xC3\xBCnchen\nK\xF6ln\n"),
             "line 2: the byte F6 is no UTF-8, as line 1 is; if the whole file is in another encoding, name it with "
             "--encoding");
-  EXPECT_EQ(Fault("K\xF6ln\r\n\r\nM\xC3\xBCnchen\r\n"),
+  EXPECT_EQ(EncodingFault("K\xF6ln\r\n\r\nM\xC3\xBCnchen\r\n"),
             "line 1: the byte F6 is no UTF-8, as line 3 is; if the whole file is in another encoding, name it with "
             "--encoding");
 }
 
 TEST(TextEncoding, ByteThatNoneKnowsIsAFault) {
-  EXPECT_EQ(Fault("a\nb\n\x81"), "line 3: the byte 81 is neither UTF-8 nor Windows-1252; save the file as UTF-8");
+  EXPECT_EQ(EncodingFault("a\nb\n\x81"),
+            "line 3: the byte 81 is neither UTF-8 nor Windows-1252; save the file as UTF-8");
 }
 
 TEST(TextEncoding, TextThatBreaksTheRulesOfItsEncodingIsAFault) {
-  EXPECT_EQ(Fault("\xEF\xBB\xBFK\xF6ln"), "line 1: the byte F6 is no UTF-8; name the file's encoding with --encoding");
-  EXPECT_EQ(Fault("a\xC3", TextEncoding::Utf8),
+  EXPECT_EQ(EncodingFault("\xEF\xBB\xBFK\xF6ln"),
+            "line 1: the byte F6 is no UTF-8; name the file's encoding with --encoding");
+  EXPECT_EQ(EncodingFault("a\xC3", TextEncoding::Utf8),
             "line 1: the byte C3 is no UTF-8; name the file's encoding with --encoding");
-  EXPECT_EQ(Fault(Utf16(u"\xFEFF"
-                        u"ab",
-                        false) +
-                  "c"),
+  EXPECT_EQ(EncodingFault(Utf16(u"\xFEFF"
+                                u"ab",
+                                false) +
+                          "c"),
             "it is cut off: UTF-16 has two bytes for each unit");
-  EXPECT_EQ(Fault(Utf16(std::u16string{0xFEFF, u'a', u'\n', 0xD83D}, false)),
+  EXPECT_EQ(EncodingFault(Utf16(std::u16string{0xFEFF, u'a', u'\n', 0xD83D}, false)),
             "line 2: half a character (D83D) in UTF-16");
-  EXPECT_EQ(Fault(Utf16(std::u16string{0xFEFF, 0xDE00, 0xD83D}, true)), "line 1: half a character (DE00) in UTF-16");
-  EXPECT_EQ(Fault(Utf16(std::u16string{0xFEFF, 0xD83D, u'a'}, true)), "line 1: half a character (D83D) in UTF-16");
-  EXPECT_EQ(Fault("\xEF\xBB\xBF"
-                  "a",
-                  TextEncoding::Windows1252),
+  EXPECT_EQ(EncodingFault(Utf16(std::u16string{0xFEFF, 0xDE00, 0xD83D}, true)),
+            "line 1: half a character (DE00) in UTF-16");
+  EXPECT_EQ(EncodingFault(Utf16(std::u16string{0xFEFF, 0xD83D, u'a'}, true)),
+            "line 1: half a character (D83D) in UTF-16");
+  EXPECT_EQ(EncodingFault("\xEF\xBB\xBF"
+                          "a",
+                          TextEncoding::Windows1252),
             "it begins with the mark of Unicode, so it is no Windows-1252");
 }
 
@@ -131,22 +134,22 @@ TEST(TextEncoding, SequencesThatOnlyLookLikeUtf8AreNone) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.Name);
-    EXPECT_NE(Fault(row.Bytes, TextEncoding::Utf8), "no fault");
+    EXPECT_NE(EncodingFault(row.Bytes, TextEncoding::Utf8), "no fault");
   }
 }
 
 TEST(TextEncoding, ControlCharactersAreNoText) {
-  EXPECT_EQ(Fault("a,b\n1,\0,2\n"s),
+  EXPECT_EQ(EncodingFault("a,b\n1,\0,2\n"s),
             "line 2: the control character U+0000 is no text; if the file is in UTF-16, say --encoding utf-16le or "
             "utf-16be");
-  EXPECT_EQ(Fault("a\x1B[2J"), "line 1: the control character U+001B is no text");
-  EXPECT_EQ(Fault("a\x7F"), "line 1: the control character U+007F is no text");
-  EXPECT_EQ(Fault("a\xC2\x85"), "line 1: the control character U+0085 is no text");
-  EXPECT_EQ(Fault("a\xC2\xA0"), "no fault");
+  EXPECT_EQ(EncodingFault("a\x1B[2J"), "line 1: the control character U+001B is no text");
+  EXPECT_EQ(EncodingFault("a\x7F"), "line 1: the control character U+007F is no text");
+  EXPECT_EQ(EncodingFault("a\xC2\x85"), "line 1: the control character U+0085 is no text");
+  EXPECT_EQ(EncodingFault("a\xC2\xA0"), "no fault");
 }
 
 TEST(TextEncoding, OfUtf16WithoutAMarkHasToBeTold) {
-  EXPECT_NE(Fault(Utf16(u"a,b\n1,2\n", false)).find("--encoding utf-16le"), String::npos);
+  EXPECT_NE(EncodingFault(Utf16(u"a,b\n1,2\n", false)).find("--encoding utf-16le"), String::npos);
 }
 
 TEST(TextEncoding, IsKnownByItsName) {

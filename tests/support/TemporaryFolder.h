@@ -2,6 +2,7 @@
 #pragma once
 
 #include "runtime/Paths.h"
+#include "support/Bytes.h"
 
 #include <fstream>
 #include <random>
@@ -35,9 +36,7 @@ class TemporaryFolder {
         .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return File(name);
   }
-  String Write(const String& name, const String& text) const {
-    return Write(name, std::vector<char>(text.begin(), text.end()));
-  }
+  String Write(const String& name, const String& text) const { return Write(name, BytesOf(text)); }
 
   static std::vector<char> Read(const String& path) {
     std::ifstream file(PathFromText(path), std::ios::binary);

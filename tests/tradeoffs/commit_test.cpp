@@ -5,27 +5,25 @@
 namespace Tarnwise {
 namespace {
 
-Interval Held(const WizardData& data, int att) { return IntervalOf(data, att); }
-
 TEST(TradeOffCommit, OfAPointMakesAllThreeEqual) {
   WizardData data = Ward();
   CommitTradeOff(data, 0, {"1.25", "1.25", "1.25"});
-  EXPECT_EQ(Held(data, 0), (Interval{1.25, 1.25, 1.25}));
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.25, 1.25, 1.25}));
   EXPECT_TRUE(data.WeightDone[0]);
 }
 
 TEST(TradeOffCommit, OfEqualEndsTakesTheMiddleForAllThree) {
   WizardData data = Ward();
   CommitTradeOff(data, 0, {"1.25", "1.25", "1.4"});
-  EXPECT_EQ(Held(data, 0), (Interval{1.4, 1.4, 1.4}));
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.4, 1.4, 1.4}));
 }
 
 TEST(TradeOffCommit, OfAnIntervalKeepsTheRatioAtAAsItsMiddle) {
   WizardData data = Ward();
   CommitTradeOff(data, 0, {"2", "1.2", "1.3"});
-  EXPECT_EQ(Held(data, 0), (Interval{1.2, 1.3, 2.0})) << "not the mean of the ends";
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.2, 1.3, 2.0})) << "not the mean of the ends";
   CommitTradeOff(data, 0, {"1.2", "2", "1.3"});
-  EXPECT_EQ(Held(data, 0), (Interval{1.2, 1.3, 2.0}));
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.2, 1.3, 2.0}));
 }
 
 TEST(TradeOffCommit, CopiesTheRatiosToTheSameRankButNotThePoints) {
@@ -33,7 +31,7 @@ TEST(TradeOffCommit, CopiesTheRatiosToTheSameRankButNotThePoints) {
   GiveScale(data, 3, 0.0, 1000.0);
   data.ABPoints2[2] = PointsAt(70, 30, 50, 46);
   CommitTradeOff(data, 2, {"0.8", "0.8", "0.8"});
-  EXPECT_EQ(Held(data, 3), Held(data, 2));
+  EXPECT_EQ(IntervalOf(data, 3), IntervalOf(data, 2));
   EXPECT_TRUE(data.WeightDone[3]);
   const ABPoint& peer = data.ABPoints2[3];
   EXPECT_EQ(peer.AX, 650.0F);
@@ -52,8 +50,8 @@ TEST(TradeOffCommit, TellsWhichAttributesAreJudgedByIt) {
 TEST(TradeOffCommit, NeverCopiesToAReferenceOrToTheOtherGroup) {
   WizardData data = TradeOffData({B(1), B(1), C(1), C(2)}, 1, 3);
   CommitTradeOff(data, 0, {"1.5", "1.5", "1.5"});
-  EXPECT_EQ(Held(data, 1), (Interval{1.0, 1.0, 1.0}));
-  EXPECT_EQ(Held(data, 2), (Interval{1.2, 1.2, 1.2}));
+  EXPECT_EQ(IntervalOf(data, 1), (Interval{1.0, 1.0, 1.0}));
+  EXPECT_EQ(IntervalOf(data, 2), (Interval{1.2, 1.2, 1.2}));
 }
 
 TEST(TradeOffCommit, ComparesOrientationsAsTexts) {
@@ -61,7 +59,7 @@ TEST(TradeOffCommit, ComparesOrientationsAsTexts) {
   data.AttributeList.AttOrientation[3] = "0.0";
   CommitTradeOff(data, 2, {"0.7", "0.7", "0.7"});
   EXPECT_FALSE(data.WeightDone[3]) << "a benefit too, but written otherwise";
-  EXPECT_EQ(Held(data, 3), (Interval{0.8, 0.8, 0.8}));
+  EXPECT_EQ(IntervalOf(data, 3), (Interval{0.8, 0.8, 0.8}));
 }
 
 TEST(TradeOffCommit, APeersPointIsCertainWhereBothCornersMeet) {
@@ -81,7 +79,7 @@ TEST(TradeOffCommit, APeerOfAnIntervalBelowOneStaysCertain) {
   WizardData data = Ward();
   CommitTradeOff(data, 2, {"0.6", "0.9", "0.7"});
   const ABPoint& peer = data.ABPoints2[3];
-  EXPECT_EQ(Held(data, 3), (Interval{0.6, 0.7, 0.9}));
+  EXPECT_EQ(IntervalOf(data, 3), (Interval{0.6, 0.7, 0.9}));
   EXPECT_EQ(peer.AOrientation, 0);
   EXPECT_EQ(peer.ALX, 65.0F);
 }
@@ -135,22 +133,22 @@ TEST(TradeOffCommit, APeerWhoseCornersDifferInBothScoresKeepsItsOrientation) {
 TEST(TradeOffCommit, PushesTheUnjudgedNeighbours) {
   WizardData data = TradeOffData({B(1), B(2), B(3), B(4), C(1)}, 3, 4);
   CommitTradeOff(data, 2, {"1.3", "1.3", "1.3"});
-  EXPECT_EQ(Held(data, 1), (Interval{1.3, 1.3, 1.3}));
-  EXPECT_EQ(Held(data, 0), (Interval{1.3, 1.3, 1.3}));
+  EXPECT_EQ(IntervalOf(data, 1), (Interval{1.3, 1.3, 1.3}));
+  EXPECT_EQ(IntervalOf(data, 0), (Interval{1.3, 1.3, 1.3}));
   EXPECT_FALSE(data.WeightDone[1]);
-  EXPECT_EQ(Held(data, 3), (Interval{1.0, 1.0, 1.0}));
+  EXPECT_EQ(IntervalOf(data, 3), (Interval{1.0, 1.0, 1.0}));
 }
 
 TEST(TradeOffCommit, PushesDownToTheFirstJudgedRank) {
   WizardData data = TradeOffData({B(1), B(2), B(3), B(4), C(1)}, 0, 4);
   Judge(data, 2, 0.7, 0.75);
   CommitTradeOff(data, 1, {"0.6", "0.65", "0.62"});
-  EXPECT_EQ(Held(data, 2), Range(0.7, 0.75));
-  EXPECT_EQ(Held(data, 3), (Interval{0.8, 0.8, 0.8}));
+  EXPECT_EQ(IntervalOf(data, 2), Range(0.7, 0.75));
+  EXPECT_EQ(IntervalOf(data, 3), (Interval{0.8, 0.8, 0.8}));
   WizardData open = TradeOffData({B(1), B(2), B(3), B(4), C(1)}, 0, 4);
   CommitTradeOff(open, 1, {"0.6", "0.65", "0.62"});
-  EXPECT_EQ(Held(open, 2), (Interval{0.6, 0.6, 0.6}));
-  EXPECT_EQ(Held(open, 3), (Interval{0.6, 0.6, 0.6}));
+  EXPECT_EQ(IntervalOf(open, 2), (Interval{0.6, 0.6, 0.6}));
+  EXPECT_EQ(IntervalOf(open, 3), (Interval{0.6, 0.6, 0.6}));
 }
 
 TEST(TradeOffCommit, OfInfinityIsATypeMismatchAndStoresNothing) {
@@ -159,7 +157,7 @@ TEST(TradeOffCommit, OfInfinityIsATypeMismatchAndStoresNothing) {
         TradeOffRatios{"1.5", "1.5", "Infinity!"}}) {
     WizardData data = Ward();
     EXPECT_EQ(ErrorNumber([&] { return CommitTradeOff(data, 0, ratios); }), 13);
-    EXPECT_EQ(Held(data, 0), (Interval{1.2, 1.2, 1.2}));
+    EXPECT_EQ(IntervalOf(data, 0), (Interval{1.2, 1.2, 1.2}));
     EXPECT_FALSE(data.WeightDone[0]);
   }
 }

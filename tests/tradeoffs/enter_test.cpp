@@ -4,8 +4,6 @@
 namespace Tarnwise {
 namespace {
 
-Interval Held(const WizardData& data, int att) { return IntervalOf(data, att); }
-
 TEST(EnteredTradeOff, WritesTheRecordCommitsAndMarksTheName) {
   TradeOffStep step(Ward());
   step.MoveA(60, 40);
@@ -15,7 +13,7 @@ TEST(EnteredTradeOff, WritesTheRecordCommitsAndMarksTheName) {
   EXPECT_EQ(step.TakeNotes(), (Lines{"pointer 11", "pointer 0"}));
   EXPECT_EQ(step.Record(0).AX, 60.0F);
   EXPECT_EQ(step.Record(0).BY, 80.0F);
-  EXPECT_EQ(Held(step.Data, 0), (Interval{2.0, 2.0, 2.0}));
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{2.0, 2.0, 2.0}));
   EXPECT_EQ(step.Form->imgcmbTargetAtt.Items[0].Text, " ¤ Att 0");
   EXPECT_EQ(step.Form->imgcmbTargetAtt.Items[2].Text, "Att 2");
   EXPECT_FALSE(step.EnterAllowed());
@@ -60,7 +58,7 @@ TEST(EnteredTradeOff, MayBeMovedAndEnteredAgain) {
   step.MoveB(40, 80);
   EXPECT_TRUE(step.EnterAllowed());
   step.Click("cmdEnter");
-  EXPECT_EQ(Held(step.Data, 0), (Interval{2.0, 2.0, 2.0}));
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{2.0, 2.0, 2.0}));
 }
 
 TEST(EnteredReferencePair, ChangesItsRatioAndItsRecordAndNothingElse) {
@@ -113,7 +111,7 @@ TEST(EnteredInfinity, IsATypeMismatchWithTheRecordWrittenAndThePointerBack) {
   EXPECT_EQ(step.Record(0).AX, 12.0F);
   EXPECT_EQ(step.Record(0).BY, 78.0F);
   EXPECT_FALSE(step.Data.WeightDone[0]);
-  EXPECT_EQ(Held(step.Data, 0), (Interval{1.2, 1.2, 1.2}));
+  EXPECT_EQ(IntervalOf(step.Data, 0), (Interval{1.2, 1.2, 1.2}));
 }
 
 TEST(EnteredInfinity, OfTheReferencePairIsOneToo) {

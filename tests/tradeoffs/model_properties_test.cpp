@@ -11,7 +11,7 @@
 namespace Tarnwise {
 namespace {
 
-rc::Gen<Double> Between(Double low, Double high) {
+rc::Gen<Double> AnyBetween(Double low, Double high) {
   return rc::gen::map(rc::gen::inRange(0, 1000001), [=](int part) { return low + (high - low) * part / 1000000.0; });
 }
 
@@ -26,7 +26,7 @@ void GiveRisingCurve(WizardData& data, int att, Double low, Double high) {
   for (int k = 0; k < n; ++k) {
     x.push_back(low + (high - low) * k / (n - 1));
     y.push_back(sum);
-    sum += *Between(1.0, 1.7);
+    sum += *AnyBetween(1.0, 1.7);
   }
   for (Double& value : y) value /= y.back();
   GiveCurve(data, att, x, y);
@@ -35,8 +35,8 @@ void GiveRisingCurve(WizardData& data, int att, Double low, Double high) {
 WizardData AnyPair() {
   WizardData data = TradeOffData({B(1), B(2), C(1)}, 1, 2);
   for (int i = 0; i < 2; ++i) {
-    const Double low = *Between(-200.0, 200.0);
-    const Double high = low + *Between(1.0, 500.0);
+    const Double low = *AnyBetween(-200.0, 200.0);
+    const Double high = low + *AnyBetween(1.0, 500.0);
     GiveRisingCurve(data, i, low, high);
     data.AttValueData.WorstScore[i] = low;
     data.AttValueData.BestScore[i] = high;
@@ -50,7 +50,7 @@ Double HalfRange(const WizardData& data, int att) {
 
 RC_GTEST_PROP(SuggestionProperty, ThePointsGiveBackTheRatio, ()) {
   WizardData data = AnyPair();
-  const Double ratio = *rc::gen::oneOf(Between(0.05, 0.999), Between(1.001, 12.0));
+  const Double ratio = *rc::gen::oneOf(AnyBetween(0.05, 0.999), AnyBetween(1.001, 12.0));
   SuggestABPoints(data, 0, 1, ratio);
   const ABPoint& p = data.ABPoints2[0];
   if (p.BY == static_cast<Single>(HalfRange(data, 1))) return;  // B's value was not reached
@@ -69,8 +69,8 @@ RC_GTEST_PROP(SuggestionProperty, ThePointsGiveBackTheRatio, ()) {
 RC_GTEST_PROP(SuggestionProperty, AtOneTheReferencePairGivesOneOnStraightCurves, ()) {
   WizardData data = TradeOffData({B(1), C(1)}, 0, 1);
   for (int i = 0; i < 2; ++i) {
-    const Double low = *Between(-200.0, 200.0);
-    GiveScale(data, i, low, low + *Between(1.0, 500.0));
+    const Double low = *AnyBetween(-200.0, 200.0);
+    GiveScale(data, i, low, low + *AnyBetween(1.0, 500.0));
   }
   SuggestRefPairPoints(data, 1, 0);
   const ABPoint& p = data.ABPoints2[1];
@@ -83,10 +83,10 @@ RC_GTEST_PROP(CornersProperty, TheCornersGiveBackTheBounds, ()) {
   const auto scoreAt = [&](int att, Double part) {
     return static_cast<Single>(values.ScoreMin[att] + (values.ScoreMax[att] - values.ScoreMin[att]) * part);
   };
-  data.ABPoints2[0] = PointsAt(scoreAt(0, *Between(0.4, 0.6)), scoreAt(1, *Between(0.1, 0.4)),
-                               scoreAt(0, *Between(0.1, 0.3)), scoreAt(1, *Between(0.5, 0.9)));
-  const Double low = *Between(0.3, 3.0);
-  const Double high = low + *Between(0.0, 3.0);
+  data.ABPoints2[0] = PointsAt(scoreAt(0, *AnyBetween(0.4, 0.6)), scoreAt(1, *AnyBetween(0.1, 0.4)),
+                               scoreAt(0, *AnyBetween(0.1, 0.3)), scoreAt(1, *AnyBetween(0.5, 0.9)));
+  const Double low = *AnyBetween(0.3, 3.0);
+  const Double high = low + *AnyBetween(0.0, 3.0);
   data.WeightsL[0] = low;
   data.WeightsH[0] = high;
   IntervalCorners(data, 0, 1);
@@ -102,7 +102,7 @@ RC_GTEST_PROP(CornersProperty, TheCornersGiveBackTheBounds, ()) {
 }
 
 RC_GTEST_PROP(SuggestionProperty, EndsForEveryModelAndLeavesNumbersOnly, ()) {
-  const auto any = rc::gen::oneOf(Between(-1.0, 1.0), Between(-1000.0, 1000.0),
+  const auto any = rc::gen::oneOf(AnyBetween(-1.0, 1.0), AnyBetween(-1000.0, 1000.0),
                                   rc::gen::element(0.0, 1e-300, -1e-300, 1e9, -1e9, 1e30, -1e30, 1e300, -1e300));
   WizardData data = TradeOffData({B(1), B(2), C(1)}, 1, 2);
   AttValueData& values = data.AttValueData;
@@ -118,7 +118,7 @@ RC_GTEST_PROP(SuggestionProperty, EndsForEveryModelAndLeavesNumbersOnly, ()) {
       values.ValuePointY(i, k) = *any;
     }
   }
-  const Double ratio = *rc::gen::oneOf(any, Between(1.0, 200.0));
+  const Double ratio = *rc::gen::oneOf(any, AnyBetween(1.0, 200.0));
   try {
     SuggestABPoints(data, 0, 1, ratio);
   } catch (const RuntimeError& error) {

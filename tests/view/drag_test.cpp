@@ -1,6 +1,7 @@
 // Automatic drag: what targets are told, by pointer and by keyboard.
 #include "view/Bench.h"
 #include "view/Driver.h"
+#include "view/Keys.h"
 
 #include <gtest/gtest.h>
 
@@ -211,22 +212,15 @@ TEST(DragTarget, IsTheFormOutsideItsPanelsAndNothingOutsideTheForm) {
   EXPECT_EQ(DragTargetAt(*bench.On, {10001, 50}), nullptr);
 }
 
-constexpr int kLeft = 37;
-constexpr int kUp = 38;
-constexpr int kRight = 39;
-constexpr int kDown = 40;
-constexpr int kSpace = 32;
-constexpr int kEscape = 27;
-
 TEST(KeyboardDrag, WalksTheTargetsAndDropsWithTheSameNotifications) {
   Dragging bench;
-  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
   EXPECT_TRUE(bench.Drag().Active());
-  bench.KeyOn(bench.On->cmdSource, kDown);
-  bench.KeyOn(bench.On->cmdSource, kDown);
-  bench.KeyOn(bench.On->cmdSource, kUp);
-  bench.KeyOn(bench.On->cmdSource, kUp);
-  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kKeyDown);
+  bench.KeyOn(bench.On->cmdSource, kKeyDown);
+  bench.KeyOn(bench.On->cmdSource, kKeyUp);
+  bench.KeyOn(bench.On->cmdSource, kKeyUp);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
   EXPECT_EQ(bench.Notes, (Lines{"picRow(0) enter cmdSource 1000,250", "picRow(0) over cmdSource 1000,250",
                                 "picRow(0) leave cmdSource 1000,250", "picRow(1) enter cmdSource 1000,250",
                                 "picRow(1) over cmdSource 1000,250", "picRow(1) leave cmdSource 1000,250",
@@ -237,19 +231,19 @@ TEST(KeyboardDrag, WalksTheTargetsAndDropsWithTheSameNotifications) {
 TEST(KeyboardDrag, UsesItsOwnKeysAndNoOthers) {
   Dragging bench;
   Control& source = bench.On->cmdSource;
-  for (const int code : {kSpace, kDown, kLeft, kSpace, kSpace, kEscape}) {
+  for (const int code : {kKeySpace, kKeyDown, kKeyLeft, kKeySpace, kKeySpace, kKeyEscape}) {
     EXPECT_TRUE(Input::ControlKey(source, code, 0)) << code;
   }
   EXPECT_FALSE(bench.Drag().Active());
-  EXPECT_TRUE(Input::ControlKey(source, kSpace, 0));
+  EXPECT_TRUE(Input::ControlKey(source, kKeySpace, 0));
   EXPECT_FALSE(Input::ControlKey(source, 'A', 0));
   EXPECT_TRUE(bench.Drag().Active());
 }
 
 TEST(KeyboardDrag, BeginsAtTheLastTargetByTheUpKey) {
   Dragging bench;
-  bench.KeyOn(bench.On->cmdSource, kSpace);
-  bench.KeyOn(bench.On->cmdSource, kUp);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
+  bench.KeyOn(bench.On->cmdSource, kKeyUp);
   EXPECT_EQ(bench.Notes[0], "picRow(3) enter cmdSource 1000,250");
 }
 
@@ -258,12 +252,12 @@ TEST(KeyboardDrag, GoesAcrossToTheFirstTargetOfAnotherContainer) {
   PictureBox other(*bench.On, &bench.On->picPanel[0], "picOther");
   Place(other, 8000, 2000, 500, 500);
   bench.NoteDrags(other);
-  bench.KeyOn(bench.On->cmdSource, kSpace);
-  bench.KeyOn(bench.On->cmdSource, kUp);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
+  bench.KeyOn(bench.On->cmdSource, kKeyUp);
   EXPECT_EQ(bench.Drag().Target(), &other);
-  bench.KeyOn(bench.On->cmdSource, kRight);
+  bench.KeyOn(bench.On->cmdSource, kKeyRight);
   EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
-  bench.KeyOn(bench.On->cmdSource, kLeft);
+  bench.KeyOn(bench.On->cmdSource, kKeyLeft);
   EXPECT_EQ(bench.Drag().Target(), &other);
 }
 
@@ -275,12 +269,12 @@ TEST(KeyboardDrag, GoesToTheTargetsNearestItsSourceFirst) {
   CommandButton near(*bench.On, &bench.On->picContent, "cmdNear");
   Place(near, 0, 2400, 500, 300);
   near.DragAutomatic = true;
-  bench.KeyOn(near, kSpace);
-  bench.KeyOn(near, kDown);
+  bench.KeyOn(near, kKeySpace);
+  bench.KeyOn(near, kKeyDown);
   EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
-  for (int i = 0; i < 4; ++i) bench.KeyOn(near, kDown);
+  for (int i = 0; i < 4; ++i) bench.KeyOn(near, kKeyDown);
   EXPECT_EQ(bench.Drag().Target(), &other);
-  bench.KeyOn(near, kEscape);
+  bench.KeyOn(near, kKeyEscape);
 }
 
 TEST(KeyboardDrag, GoesFirstToATargetBesideItsSourceThoughItsContainerIsTheLast) {
@@ -293,40 +287,40 @@ TEST(KeyboardDrag, GoesFirstToATargetBesideItsSourceThoughItsContainerIsTheLast)
   Place(source, 600, 0, 500, 300);
   source.DragAutomatic = true;
   bench.NoteDrags(beside);
-  bench.KeyOn(source, kSpace);
-  bench.KeyOn(source, kDown);
+  bench.KeyOn(source, kKeySpace);
+  bench.KeyOn(source, kKeyDown);
   EXPECT_EQ(bench.Drag().Target(), &beside);
-  bench.KeyOn(source, kDown);
+  bench.KeyOn(source, kKeyDown);
   EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
-  bench.KeyOn(source, kEscape);
+  bench.KeyOn(source, kKeyEscape);
 }
 
 TEST(KeyboardDrag, ComesToTheMiddleOfATargetInItsOwnScale) {
   Dragging bench;
   bench.NoteDrags(bench.On->picGraph);
-  bench.KeyOn(bench.On->cmdSource, kSpace);
-  bench.KeyOn(bench.On->cmdSource, kUp);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
+  bench.KeyOn(bench.On->cmdSource, kKeyUp);
   EXPECT_EQ(Only(bench.Notes, "picGraph enter"), Lines{"picGraph enter cmdSource 140,133"});
-  bench.KeyOn(bench.On->cmdSource, kRight);
+  bench.KeyOn(bench.On->cmdSource, kKeyRight);
   EXPECT_EQ(bench.Drag().Target(), &bench.On->picRow[0]);
   bench.TakeNotes();
-  bench.KeyOn(bench.On->cmdSource, kRight);
+  bench.KeyOn(bench.On->cmdSource, kKeyRight);
   EXPECT_EQ(Only(bench.Notes, "picGraph enter"), Lines{"picGraph enter cmdSource 140,133"});
 }
 
 TEST(KeyboardDrag, IsGivenUpByEscape) {
   Dragging bench;
-  bench.KeyOn(bench.On->cmdSource, kSpace);
-  bench.KeyOn(bench.On->cmdSource, kDown);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
+  bench.KeyOn(bench.On->cmdSource, kKeyDown);
   bench.TakeNotes();
-  bench.KeyOn(bench.On->cmdSource, kEscape);
+  bench.KeyOn(bench.On->cmdSource, kKeyEscape);
   EXPECT_EQ(bench.Notes, Lines{"picRow(0) leave cmdSource 1000,250"});
   EXPECT_FALSE(bench.Drag().Active());
 }
 
 TEST(KeyboardDrag, IsGivenUpByTab) {
   Dragging bench;
-  bench.KeyOn(bench.On->cmdSource, kSpace);
+  bench.KeyOn(bench.On->cmdSource, kKeySpace);
   TypeKey(*bench.On, 9, 9, 0);
   EXPECT_FALSE(bench.Drag().Active());
 }
@@ -347,14 +341,14 @@ TEST(KeyboardDrag, KeepsAHandleWithinItsContainer) {
   bench.NoteDrags(bench.On->picChart);
   PictureBox& handle = bench.On->picHandle[0];
   Place(handle, 2, 2, 6, 6);
-  bench.KeyOn(handle, kSpace);
-  bench.KeyOn(handle, kLeft, 1);
-  bench.KeyOn(handle, kUp, 1);
+  bench.KeyOn(handle, kKeySpace);
+  bench.KeyOn(handle, kKeyLeft, 1);
+  bench.KeyOn(handle, kKeyUp, 1);
   EXPECT_EQ(bench.Drag().X(), 0.0F);
   EXPECT_EQ(bench.Drag().Y(), 0.0F);
   for (int k = 0; k < 26; ++k) {
-    bench.KeyOn(handle, kRight, 1);
-    bench.KeyOn(handle, kDown, 1);
+    bench.KeyOn(handle, kKeyRight, 1);
+    bench.KeyOn(handle, kKeyDown, 1);
   }
   EXPECT_EQ(bench.Drag().X(), 252.0F);
   EXPECT_EQ(bench.Drag().Y(), 252.0F);
@@ -365,11 +359,11 @@ TEST(KeyboardDrag, MovesAHandleByOneUnitOrTen) {
   bench.NoteDrags(bench.On->picChart);
   PictureBox& handle = bench.On->picHandle[0];
   Place(handle, 100, 60, 6, 6);
-  bench.KeyOn(handle, kSpace);
-  bench.KeyOn(handle, kRight);
-  bench.KeyOn(handle, kDown, 1);
-  bench.KeyOn(handle, kLeft, 1);
-  bench.KeyOn(handle, kUp);
+  bench.KeyOn(handle, kKeySpace);
+  bench.KeyOn(handle, kKeyRight);
+  bench.KeyOn(handle, kKeyDown, 1);
+  bench.KeyOn(handle, kKeyLeft, 1);
+  bench.KeyOn(handle, kKeyUp);
   EXPECT_EQ(bench.Notes, (Lines{"picChart enter picHandle(0) 104,63", "picChart over picHandle(0) 104,63",
                                 "picChart over picHandle(0) 104,73", "picChart over picHandle(0) 94,73",
                                 "picChart over picHandle(0) 94,72"}));

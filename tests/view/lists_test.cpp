@@ -1,12 +1,11 @@
 // The keyboard on lists, tabs and scroll bars; what a person's typing leaves in a box.
 #include "view/Bench.h"
+#include "view/Keys.h"
 
 #include <gtest/gtest.h>
 
 namespace Tarnwise {
 namespace {
-
-enum KeyCode { kPageUp = 33, kPageDown = 34, kEnd = 35, kHome = 36, kLeft = 37, kUp = 38, kRight = 39, kDown = 40 };
 
 struct Lists : Bench {
   ~Lists() { Screen->Release(*On); }
@@ -19,7 +18,8 @@ TEST(ListKeys, ChooseTheItemsOfAnImageComboFromOne) {
   for (const char* const name : {"a", "b", "c"}) combo.Add({name, name, "", ""});
   combo.SelectedItem = 2;
   combo.Click = [&] { lists.Notes.push_back(std::to_string(combo.SelectedItem())); };
-  for (const int code : {kDown, kRight, kUp, kLeft, kLeft, kEnd, kHome}) EXPECT_TRUE(lists.Key(combo, code));
+  for (const int code : {kKeyDown, kKeyRight, kKeyUp, kKeyLeft, kKeyLeft, kKeyEnd, kKeyHome})
+    EXPECT_TRUE(lists.Key(combo, code));
   EXPECT_EQ(lists.Notes, (Lines{"3", "2", "1", "3", "1"}));
 }
 
@@ -28,7 +28,7 @@ TEST(ListKeys, ChooseTheTabsOfAStripFromOne) {
   TabStrip strip(*lists.On, lists.On.get(), "strip");
   strip.Tabs = {{"One", "one"}, {"Two", "two"}};
   strip.Click = [&] { lists.Notes.push_back(std::to_string(strip.SelectedItem())); };
-  for (const int code : {kUp, kRight, kDown, kHome, kEnd}) EXPECT_TRUE(lists.Key(strip, code));
+  for (const int code : {kKeyUp, kKeyRight, kKeyDown, kKeyHome, kKeyEnd}) EXPECT_TRUE(lists.Key(strip, code));
   EXPECT_EQ(lists.Notes, (Lines{"2", "1", "2"}));
 }
 
@@ -38,7 +38,7 @@ TEST(ListKeys, ChooseTheRowsOfAComboBoxFromNought) {
   box.List = std::vector<String>{"3.33", "2.50", "2.00"};
   box.ListIndex = 0;
   box.Click = [&] { lists.Notes.push_back(std::to_string(box.ListIndex())); };
-  for (const int code : {kUp, kDown, kEnd, kDown, kHome}) EXPECT_TRUE(lists.Key(box, code));
+  for (const int code : {kKeyUp, kKeyDown, kKeyEnd, kKeyDown, kKeyHome}) EXPECT_TRUE(lists.Key(box, code));
   EXPECT_EQ(lists.Notes, (Lines{"1", "2", "0"}));
 }
 
@@ -46,7 +46,7 @@ TEST(ListKeys, ChooseNothingInAnEmptyList) {
   Lists lists;
   ImageCombo combo(*lists.On, lists.On.get(), "combo");
   combo.Click = [&] { lists.Notes.emplace_back("click"); };
-  for (const int code : {kUp, kDown, kHome, kEnd}) EXPECT_TRUE(lists.Key(combo, code));
+  for (const int code : {kKeyUp, kKeyDown, kKeyHome, kKeyEnd}) EXPECT_TRUE(lists.Key(combo, code));
   EXPECT_EQ(combo.SelectedItem(), 0);
   EXPECT_EQ(lists.Notes, Lines{});
 }
@@ -107,7 +107,7 @@ TEST(ListKeys, LeaveAllOtherKeysAlone) {
   lists.On->lstRows.ListIndex = 1;
   for (const int code : {33, 34, 41, 47, 58, 64, 91, 97}) EXPECT_FALSE(lists.Key(lists.On->lstRows, code)) << code;
   EXPECT_EQ(lists.On->lstRows.ListIndex(), 1);
-  EXPECT_FALSE(lists.Key(lists.On->lblText, kDown));
+  EXPECT_FALSE(lists.Key(lists.On->lblText, kKeyDown));
   EXPECT_FALSE(lists.Key(lists.On->picContent, 32));
 }
 
@@ -130,14 +130,14 @@ TEST(ScrollKeys, EachGoItsWayAndOthersAreLeftAlone) {
     EXPECT_TRUE(lists.Key(bar, code));
     return bar.Value();
   };
-  EXPECT_EQ(after(kUp), 493);
-  EXPECT_EQ(after(kLeft), 493);
-  EXPECT_EQ(after(kDown), 507);
-  EXPECT_EQ(after(kRight), 507);
-  EXPECT_EQ(after(kPageUp), 400);
-  EXPECT_EQ(after(kPageDown), 600);
-  EXPECT_EQ(after(kHome), 10);
-  EXPECT_EQ(after(kEnd), 1000);
+  EXPECT_EQ(after(kKeyUp), 493);
+  EXPECT_EQ(after(kKeyLeft), 493);
+  EXPECT_EQ(after(kKeyDown), 507);
+  EXPECT_EQ(after(kKeyRight), 507);
+  EXPECT_EQ(after(kKeyPageUp), 400);
+  EXPECT_EQ(after(kKeyPageDown), 600);
+  EXPECT_EQ(after(kKeyHome), 10);
+  EXPECT_EQ(after(kKeyEnd), 1000);
   EXPECT_FALSE(lists.Key(bar, 32));
   EXPECT_FALSE(lists.Key(bar, 41));
 }

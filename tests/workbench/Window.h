@@ -15,6 +15,11 @@
 
 namespace Tarnwise {
 
+// Milliseconds; only somebody who hangs waits so long. What is waited for takes some seconds at most on an idle
+// machine.
+constexpr int kPatience = 300000;
+constexpr int kGlance = 10;  // between two looks
+
 // The twelve hospitals: two inputs, two outputs, the ranges from the worst of them to the best.
 inline Project HospitalsFromTable() {
   TableOptions options;
@@ -63,8 +68,9 @@ Widget& Find(QWidget& in, const char* name) {
 }
 
 // Presses the button with this text, marks aside, in the next dialog that comes; after `before` was done there.
-inline void AnswerNext(const QString& button, std::function<void(QDialog&)> before = {}, int tries = 500) {
-  QTimer::singleShot(10, qApp, [=] {
+inline void AnswerNext(const QString& button, std::function<void(QDialog&)> before = {},
+                       int tries = kPatience / kGlance) {
+  QTimer::singleShot(kGlance, qApp, [=] {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) {
       if (tries > 0) return AnswerNext(button, before, tries - 1);
@@ -82,7 +88,7 @@ inline void AnswerNext(const QString& button, std::function<void(QDialog&)> befo
 
 inline bool AwaitResults(MainWindow& window) {
   return QTest::qWaitFor([&window] { return !window.Results().IsBusy() && window.Results().Shown() != nullptr; },
-                         30000);
+                         kPatience);
 }
 
 // On the screen, with that project in it.

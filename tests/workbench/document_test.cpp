@@ -126,7 +126,7 @@ TEST(Window, OpensAFileThatIsDroppedOnIt) {
   EXPECT_TRUE(enter.isAccepted());
   QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(&window, &drop);
-  EXPECT_TRUE(QTest::qWaitFor([&window] { return window.Work().Data().Units.size() == 12; }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&window] { return window.Work().Data().Units.size() == 12; }, kPatience));
 }
 
 TEST(Window, RemembersTheFilesThatWereOpenedLast) {
@@ -137,6 +137,38 @@ TEST(Window, RemembersTheFilesThatWereOpenedLast) {
   QMenu menu;
   open.Window.Files().FillRecent(menu);
   EXPECT_EQ(menu.actions().first()->text(), QDir::toNativeSeparators(FileIn(folder)));
+}
+
+TEST(Window, ShowsThePageThatWasOpenLastTime) {
+  const QTemporaryDir folder;
+  const QString path = FileIn(folder);
+  {
+    OpenWindow open;
+    open.Window.Work().Save(path);
+    open.Window.ShowPage(PageKind::Judgments);
+    Find<QSplitter>(open.Window, "judgmentsSplitter").setSizes({400, 500});
+    ASSERT_TRUE(open.Window.close());
+  }
+  MainWindow window;
+  window.show();
+  const QTabWidget& pages = Find<QTabWidget>(window, "pages");
+  EXPECT_EQ(pages.currentIndex(), 0) << "with nothing open the first page leads on";
+  ASSERT_TRUE(window.Open(path));
+  EXPECT_EQ(pages.currentIndex(), static_cast<int>(PageKind::Judgments));
+  const QList<int> sizes = Find<QSplitter>(window, "judgmentsSplitter").sizes();
+  EXPECT_GT(sizes[0], 300);
+  QSettings().clear();
+}
+
+TEST(Window, LeavesThePageWhereSomebodyWentMeanwhile) {
+  const QTemporaryDir folder;
+  const QString path = FileIn(folder);
+  QSettings().setValue("page", static_cast<int>(PageKind::Judgments));
+  OpenWindow open;
+  open.Window.ShowPage(PageKind::Attributes);
+  open.Window.Work().Save(path);
+  EXPECT_EQ(Find<QTabWidget>(open.Window, "pages").currentIndex(), static_cast<int>(PageKind::Attributes));
+  QSettings().clear();
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // at.
 #include "Window.h"
 #include "workbench/ImportDialog.h"
+#include "workbench/JudgmentsPage.h"
 #include "workbench/charts/Chart.h"
 
 #include <cmath>
@@ -23,6 +24,25 @@ QPalette Dark() {
   return dark;
 }
 
+// Windows' "Contrast Black" and the like.
+QPalette HighContrast() {
+  QPalette black(Qt::black, Qt::black);
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    for (const auto role :
+         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button, QPalette::ToolTipBase}) {
+      black.setColor(group, role, Qt::black);
+    }
+    const bool off = group == QPalette::Disabled;
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText, QPalette::ToolTipText,
+                            QPalette::Light, QPalette::Mid, QPalette::PlaceholderText}) {
+      black.setColor(group, role, off ? QColor(0x3f, 0xf2, 0x3f) : QColor(Qt::white));
+    }
+    black.setColor(group, QPalette::Highlight, QColor(0x1a, 0xeb, 0xff));
+    black.setColor(group, QPalette::HighlightedText, Qt::black);
+  }
+  return black;
+}
+
 void Keep(QWidget& widget, const QString& name) {
   const QString folder = qEnvironmentVariable("TARNWISE_LOOKS");
   if (folder.isEmpty()) return;
@@ -42,46 +62,92 @@ double Contrast(const QColor& a, const QColor& b) {
   return x > y ? x / y : y / x;
 }
 
-void LookAtPages(const QString& palette) {
+Project WithLongNames() {
   Project project = JudgedHospitals();
   project.Columns[0].Curve = {{15.0, 0.0}, {30.0, 0.62}, {37.5, 0.6}, {60.0, 1.0}};
   project.Columns[1].Values[4].reset();
   project.Columns[2].Values[6] = 0.0;
   project.Columns[0].Name = "Doctors, whole posts and those of the university's clinics that serve here by contract";
+  project.Units[2] = "Hospital C with the children's clinic and the house for convalescents beyond the river";
   project.Sessions[0].Attributes[0].Name = project.Columns[0].Name;
   project.Sessions.push_back(project.Sessions[0]);
   project.Sessions[1].Attributes[1].High.reset();
-  OpenWindow open(project);
-  open.Window.resize(1180, 760);
-  ASSERT_TRUE(AwaitResults(open.Window));
-  Find<QComboBox>(open.Window, "compare").setCurrentIndex(2);
+  return project;
+}
+
+void KeepPages(MainWindow& window, const QString& name) {
   const std::pair<PageKind, const char*> pages[] = {{PageKind::Data, "data"},
                                                     {PageKind::Attributes, "attributes"},
                                                     {PageKind::Judgments, "judgments"},
-                                                    {PageKind::Results, "results"}};
-  for (const auto& [page, name] : pages) {
-    open.Window.ShowPage(page);
+                                                    {PageKind::Results, "results"},
+                                                    {PageKind::Report, "report"}};
+  for (const auto& [page, of] : pages) {
+    window.ShowPage(page);
     QTest::qWait(50);
-    Keep(open.Window, palette + "-" + name);
+    Keep(window, name + "-" + of);
   }
+}
+
+void KeepHint(MainWindow& window, const QString& name) {
+  auto& judgments = Find<JudgmentsPage>(window, "judgmentsPage");
+  window.ShowPage(PageKind::Judgments);
+  judgments.ShowWizardOpen(true);
+  judgments.ShowHint(
+      "Doctors must stay at or above 1.00: Nurses, on the next lower judged rank, is judged up to 1.00.");
+  QCoreApplication::processEvents();
+  Keep(window, name + "-hint");
+  judgments.ShowWizardOpen(false);
+}
+
+void KeepImport(MainWindow& window, const QString& name) {
   const QByteArray table = "Klinik;Ärzte;Pflege\nAdlershof;20,5;151\nBuch;19;131,25\n";
-  ImportDialog dialog({table.begin(), table.end()}, "kliniken.csv", &open.Window);
+  ImportDialog dialog({table.begin(), table.end()}, "kliniken.csv", &window);
   dialog.show();
   QCoreApplication::processEvents();
-  Keep(dialog, palette + "-import");
+  Keep(dialog, name + "-import");
+}
+
+// The smaller size is that of a screen of 1920 x 1080 at 200 %.
+void LookAtPages(const QString& palette) {
+  OpenWindow open(WithLongNames());
+  open.Window.resize(1180, 760);
+  ASSERT_TRUE(AwaitResults(open.Window));
+  Find<QComboBox>(open.Window, "compare").setCurrentIndex(2);
+  KeepPages(open.Window, palette);
+  KeepHint(open.Window, palette);
+  KeepImport(open.Window, palette);
+  open.Window.ShowPage(PageKind::Results);
+  Find<QComboBox>(open.Window, "bars").setCurrentIndex(1);
+  Find<QTableView>(open.Window, "results").selectRow(3);
+  QTest::qWait(50);
+  Keep(open.Window, palette + "-ranks");
+  open.Window.resize(960, 500);
+  QTest::qWait(50);
+  EXPECT_LE(open.Window.width(), 960);
+  EXPECT_LE(open.Window.height(), 500);
+  KeepPages(open.Window, palette + "-small");
+  MainWindow empty;
+  empty.resize(1180, 760);
+  empty.show();
+  QCoreApplication::processEvents();
+  Keep(empty, palette + "-empty");
+}
+
+void LookAtPagesOn(const QPalette& palette, const QString& name) {
+  const QPalette former = QApplication::palette();
+  QApplication::setPalette(palette);
+  LookAtPages(name);
+  QApplication::setPalette(former);
 }
 
 TEST(WorkbenchLook, PagesOnALightPalette) { LookAtPages("light"); }
 
-TEST(WorkbenchLook, PagesOnADarkPalette) {
-  const QPalette former = QApplication::palette();
-  QApplication::setPalette(Dark());
-  LookAtPages("dark");
-  QApplication::setPalette(former);
-}
+TEST(WorkbenchLook, PagesOnADarkPalette) { LookAtPagesOn(Dark(), "dark"); }
 
-TEST(WorkbenchLook, InksOfChartsAreReadableOnBothPalettes) {
-  for (const QPalette& palette : {QApplication::palette(), Dark()}) {
+TEST(WorkbenchLook, PagesInHighContrast) { LookAtPagesOn(HighContrast(), "contrast"); }
+
+TEST(WorkbenchLook, InksOfChartsAreReadableOnAllPalettes) {
+  for (const QPalette& palette : {QApplication::palette(), Dark(), HighContrast()}) {
     const ChartInk ink = InkFor(palette);
     EXPECT_GE(Contrast(ink.Text, ink.Paper), 4.5);
     EXPECT_GE(Contrast(ink.Faint, ink.Paper), 4.5);

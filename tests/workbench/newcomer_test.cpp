@@ -22,8 +22,6 @@ QWidget* OnStep(const QString& name) {
   return nullptr;
 }
 
-constexpr int kPatience = 250;  // tries of a step, 20 milliseconds apart
-
 using Step = std::function<bool()>;
 
 // Works through the steps one by one, each as soon as it can be done.
@@ -37,14 +35,14 @@ class WizardUser : public QObject {
  private:
   // A click may run all steps of the wizard that follow inside itself, so the next act is arranged before.
   void Act() {
-    QTimer::singleShot(20, this, &WizardUser::Act);
+    QTimer::singleShot(kGlance, this, &WizardUser::Act);
     if (next_ == steps_.size()) return;
     const std::size_t at = next_++;
     if (steps_[at]()) {
       tries_ = 0;
     } else {
       next_ = at;
-      if (++tries_ == kPatience) GiveUp();
+      if (++tries_ == kPatience / kGlance) GiveUp();
     }
   }
   void GiveUp() {
@@ -196,7 +194,7 @@ TEST(Newcomer, GetsFromATableToJudgedRangesAndAPicture) {
   ASSERT_NE(window.Wizard(), nullptr);
   EXPECT_FALSE(Find<QWidget>(window, "dataPage").isEnabled());
   const WizardUser user(DirectJudgments(window), [&window] { window.Wizard()->End(); });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return window.Wizard() == nullptr; }, 60000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.Wizard() == nullptr; }, kPatience));
 
   Document onDisk;
   onDisk.Open(project);
@@ -222,7 +220,7 @@ TEST(Newcomer, WhoEndsTheWizardKeepsWhatWasThere) {
   QTest::mouseClick(&Find<QPushButton>(open.Window, "elicit"), Qt::LeftButton);
   ASSERT_NE(open.Window.Wizard(), nullptr);
   EXPECT_FALSE(open.Window.close());
-  ASSERT_TRUE(QTest::qWaitFor([&] { return open.Window.Wizard() == nullptr; }, 10000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return open.Window.Wizard() == nullptr; }, kPatience));
   EXPECT_EQ(open.Window.Work().Data(), JudgedHospitals());
   EXPECT_TRUE(Find<QWidget>(open.Window, "dataPage").isEnabled());
 }

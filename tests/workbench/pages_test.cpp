@@ -223,7 +223,7 @@ TEST(ResultsPage, TellsWhyThereAreNone) {
   Project project = JudgedHospitals();
   project.Columns[0].Values[2] = -4.0;
   OpenWindow open(project);
-  ASSERT_TRUE(QTest::qWaitFor([&open] { return !open.Window.Results().IsBusy(); }, 20000));
+  ASSERT_TRUE(QTest::qWaitFor([&open] { return !open.Window.Results().IsBusy(); }, kPatience));
   EXPECT_TRUE(Find<QLabel>(open.Window, "summary").text().contains("Doctors"));
   EXPECT_EQ(open.Window.Results().Shown(), nullptr);
 }

@@ -32,7 +32,7 @@ TEST(SolverThread, AnswersInTheThreadOfTheWindow) {
     evaluation = found;
   });
   solver.Start(std::make_shared<const Project>(JudgedHospitals()), AskedOf(JudgedHospitals(), {}));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return evaluation != nullptr; }, 20000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return evaluation != nullptr; }, kPatience));
   EXPECT_NEAR(*evaluation->Results.Units[1].Max, 0.853710, 5e-7);
   EXPECT_FALSE(solver.IsBusy());
 }
@@ -43,7 +43,7 @@ TEST(SolverThread, TellsWhyItCannotCompute) {
   project.Columns[0].Values[3] = -1.0;
   QSignalSpy failed(&solver, &Solver::Failed);
   solver.Start(std::make_shared<const Project>(project), {});
-  ASSERT_TRUE(failed.wait(20000));
+  ASSERT_TRUE(failed.wait(kPatience));
   EXPECT_TRUE(failed[0][0].toString().contains("Doctors"));
 }
 
@@ -53,9 +53,9 @@ TEST(SolverThread, IsCancelledInTheMiddle) {
   QSignalSpy cancelled(&solver, &Solver::Cancelled);
   QSignalSpy solved(&solver, &Solver::Solved);
   solver.Start(RandomUnits(30000), {});
-  ASSERT_TRUE(progressed.wait(30000));
+  ASSERT_TRUE(progressed.wait(kPatience));
   solver.Cancel();
-  ASSERT_TRUE(cancelled.wait(30000));
+  ASSERT_TRUE(cancelled.wait(kPatience));
   EXPECT_EQ(solved.count(), 0);
   EXPECT_FALSE(solver.IsBusy());
 }
@@ -65,7 +65,7 @@ TEST(SolverThread, AnswersTheNewestQuestionOnly) {
   QSignalSpy solved(&solver, &Solver::Solved);
   solver.Start(RandomUnits(30000), {});
   solver.Start(std::make_shared<const Project>(HospitalsFromTable()), {});
-  ASSERT_TRUE(solved.wait(30000));
+  ASSERT_TRUE(solved.wait(kPatience));
   QTest::qWait(50);
   EXPECT_EQ(solved.count(), 1);
 }

@@ -12,7 +12,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kRowHeight = 26;
+constexpr int kGridRowHeight = 26;
 constexpr double kPixelsPerTwip = 1.0 / 15.0;
 
 class GridWidget : public QTableWidget {
@@ -40,11 +40,11 @@ QWidget* MakeGrid(QtForm& form, Control& control, QWidget& parent) {
   table->setTabKeyNavigation(false);
   table->setWordWrap(false);
   table->verticalHeader()->hide();
-  table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+  table->verticalHeader()->setDefaultSectionSize(kGridRowHeight);
   table->horizontalHeader()->setSectionsClickable(false);
   table->horizontalHeader()->setHighlightSections(false);
   table->horizontalHeader()->setMinimumSectionSize(1);  // the proportions come first
-  table->horizontalHeader()->setFixedHeight(kRowHeight + 2);
+  table->horizontalHeader()->setFixedHeight(kGridRowHeight + 2);
   table->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   form.Watch(*table->viewport(), control);

@@ -13,7 +13,7 @@ namespace Tarnwise {
 
 namespace {
 
-constexpr int kRowHeight = 24;  // pixels of the design
+constexpr int kGridRowHeight = 24;  // pixels of the design
 
 void LayOutGrid(WinForm& form, Control& control, HWND window) {
   ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
@@ -62,7 +62,7 @@ void SetCell(HWND window, int row, int col, std::wstring text) {
 
 // Rows are as high as the pictures of the list, of which there are none.
 void SetRowHeight(WinForm& form, HWND window) {
-  const int height = Scaled(kRowHeight, form.Scale());
+  const int height = Scaled(kGridRowHeight, form.Scale());
   int width = 0;
   int now = 0;
   const HIMAGELIST images = ListView_GetImageList(window, LVSIL_SMALL);

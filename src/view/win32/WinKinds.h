@@ -12,6 +12,10 @@
 
 namespace Tarnwise {
 
+inline LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  return SendMessageW(window, message, wParam, lParam);
+}
+
 class WinForm;
 
 struct WinKind {
@@ -44,10 +48,6 @@ extern const WinKind kWinScrollBar;
 
 // A window class of this module without a procedure of its own, registered where it is not yet; its name.
 const wchar_t* OwnClass(const wchar_t* name);
-
-inline LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  return SendMessageW(window, message, wParam, lParam);
-}
 
 // The form's font, in the size of the present scale.
 void UseBaseFont(const WinForm& form, HWND window);

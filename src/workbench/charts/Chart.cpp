@@ -1,10 +1,17 @@
 #include "workbench/charts/Chart.h"
 
+#include "modelfiles/WholeFile.h"
+#include "workbench/AskForFile.h"
+#include "workbench/Texts.h"
+
 #include <QAccessible>
+#include <QBuffer>
 #include <QContextMenuEvent>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPageSize>
+#include <QPdfWriter>
 #include <QSvgGenerator>
 
 namespace Tarnwise {
@@ -61,24 +68,38 @@ void Chart::TellReaders() {
   QAccessible::updateAccessibility(&news);
 }
 
-bool Chart::Write(const QString& path, const QSize& size) {
-  if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) return savePdf(path, size.width(), size.height());
-  if (!path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)) {
-    return savePng(path, size.width(), size.height(), 2.0);
-  }
-  QSvgGenerator generator;
-  generator.setFileName(path);
-  generator.setSize(size);
-  generator.setViewBox(QRect(QPoint(0, 0), size));
-  generator.setTitle(title_);
-  QCPPainter painter;
-  if (!painter.begin(&generator)) return false;
+void Chart::Draw(QPaintDevice& on, const QSize& size) {
+  QCPPainter painter(&on);
   painter.setMode(QCPPainter::pmVectorized);
   painter.setMode(QCPPainter::pmNoCaching);
   painter.setMode(QCPPainter::pmNonCosmetic);
   painter.fillRect(QRect(QPoint(0, 0), size), Qt::white);
   toPainter(&painter, size.width(), size.height());
-  return painter.end();
+}
+
+QByteArray Chart::Picture(const QString& ending, const QSize& size) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  if (ending == QLatin1String("svg")) {
+    QSvgGenerator drawing;
+    drawing.setOutputDevice(&buffer);
+    drawing.setSize(size);
+    drawing.setViewBox(QRect(QPoint(0, 0), size));
+    drawing.setTitle(title_);
+    Draw(drawing, size);
+  } else if (ending == QLatin1String("pdf")) {
+    QPdfWriter page(&buffer);
+    page.setTitle(title_);
+    page.setResolution(logicalDpiX());
+    page.setPageSize(QPageSize(QSizeF(size) / logicalDpiX(), QPageSize::Inch));
+    page.setPageMargins({0, 0, 0, 0});
+    Draw(page, size);
+  } else {
+    constexpr double kSharpness = 2.0;
+    toPixmap(size.width(), size.height(), kSharpness).save(&buffer, "PNG");
+  }
+  return bytes;
 }
 
 void Chart::AddTitle() {
@@ -95,27 +116,31 @@ void Chart::RemoveTitle() {
 }
 
 // On paper it is light, whatever the screen is.
-bool Chart::SavePicture(const QString& path) {
+void Chart::SavePicture(const QString& path) {
   QPalette paper(Qt::white);
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   const QSize size = BeginPicture();
   AddTitle();
   Colour(InkFor(paper));
-  const bool written = Write(path, size);
+  const QByteArray bytes = Picture(QFileInfo(path).suffix().toLower(), size);
   RemoveTitle();
   EndPicture();
   Colour(Ink());
   replot();
-  return written && QFileInfo(path).size() > 0;
+  if (bytes.isEmpty()) throw ModelFault(ToText(tr("%1 could not be drawn").arg(path)));
+  WriteFileAtomically(ToText(path), {bytes.begin(), bytes.end()});
 }
 
 void Chart::AskAndSave() {
-  const QString path = QFileDialog::getSaveFileName(this, tr("Save the chart"),
-                                                    title_.isEmpty() ? tr("chart") + ".png" : title_ + ".png",
-                                                    tr("Pictures (*.png);;Drawings (*.svg);;Documents (*.pdf)"));
-  if (path.isEmpty() || SavePicture(path)) return;
-  QMessageBox::warning(this, tr("Save the chart"), tr("The chart could not be written to %1.").arg(path));
+  const QString path = AskForFile(this, tr("Save the chart"), title_.isEmpty() ? tr("chart") : title_,
+                                  {{tr("Pictures"), "png"}, {tr("Drawings"), "svg"}, {tr("Documents"), "pdf"}});
+  if (path.isEmpty()) return;
+  try {
+    SavePicture(path);
+  } catch (const ModelFault& fault) {
+    QMessageBox::warning(this, tr("The chart was not saved"), FromText(fault.what()));
+  }
 }
 
 void Chart::ZoomBy(double factor) {

@@ -38,9 +38,10 @@ class Chart : public QCustomPlot {
   // The line above a saved picture.
   void SetTitle(const QString& title) { title_ = title; }
 
-  // PNG (twice as sharp as the screen), SVG or PDF, by the ending. False where it can't be written.
-  bool SavePicture(const QString& path);
-  // Asks for the file; tells where it can't be written.
+  // PNG (twice as sharp as the screen), SVG or PDF, by the ending. The file is there whole or, with a ModelFault that
+  // says why, as it was.
+  void SavePicture(const QString& path);
+  // Asks for the file; tells why it can't be written.
   void AskAndSave();
 
   void ZoomBy(double factor);  // around the middle
@@ -67,7 +68,8 @@ class Chart : public QCustomPlot {
  private:
   void Colour(const ChartInk& ink);
   void AdjustToScreen();
-  bool Write(const QString& path, const QSize& size);
+  void Draw(QPaintDevice& on, const QSize& size);
+  QByteArray Picture(const QString& ending, const QSize& size);
   void AddTitle();
   void RemoveTitle();
 

@@ -138,7 +138,7 @@ void SetPicture(QToolButton& tool, const String& name, Colour ground) {
   const QVariant drawn = tool.property("ground");
   if (drawn.isValid() && drawn.toUInt() == ground) return;
   tool.setProperty("ground", ground);
-  tool.setIcon(PictureIcon(name, ground));
+  tool.setIcon(PictureIcon(name, ground, tool.iconSize().height()));
 }
 
 void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {

@@ -74,7 +74,7 @@ QtForm::QtForm(Form& form, QtToolkit& toolkit)
     : WindowedMirror(form, toolkit.Seen()), window_(std::make_unique<FormWindow>(*this)) {
   window_->setObjectName(Text(form.Name));
   window_->setFont(FontOf());
-  window_->setWindowIcon(WindowIcon());
+  window_->setWindowIcon(toolkit.WindowIcon());
   TakeColours();
   window_->setFocus();
   Keep(form, static_cast<QObject*>(window_.get()));
@@ -92,8 +92,6 @@ QtForm::~QtForm() = default;
 QWidget* QtForm::WidgetOf(const Control& control) const {
   return static_cast<QWidget*>(static_cast<QObject*>(NativeOf(control)));
 }
-
-Control* QtForm::ControlOf(const QObject* object) const { return OwnerOf(object); }
 
 void QtForm::Watch(QObject& object, Control& control) {
   WindowedMirror::Watch(&object, control);

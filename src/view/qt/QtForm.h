@@ -27,7 +27,7 @@ class QtForm : public QObject, public WindowedMirror {
   static QPointF InPixels(FormPoint at);               // of the window
 
   QWidget* WidgetOf(const Control& control) const;
-  Control* ControlOf(const QObject* object) const;  // null when the control has gone
+  Control* ControlOf(const QObject* object) const { return OwnerOf(object); }  // null when the control has gone
   // Events of this object are the control's: of its widget, and of parts of it.
   void Watch(QObject& object, Control& control);
 

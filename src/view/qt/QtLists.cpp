@@ -101,7 +101,7 @@ void SyncImageCombo(QtForm& form, Control& control, QWidget& widget) {
     const QString drawn = QString("%1 on %2").arg(Text(name)).arg(form.Colours().Base);
     if (combo.itemData(i).toString() == drawn) continue;
     combo.setItemData(i, drawn);
-    combo.setItemIcon(i, PictureIcon(name, form.Colours().Base));
+    combo.setItemIcon(i, PictureIcon(name, form.Colours().Base, combo.iconSize().height()));
   }
 }
 

@@ -87,17 +87,14 @@ QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground,
   return pixmap;
 }
 
-QIcon PictureIcon(const String& name, Colour ground) {
+QIcon PictureIcon(const String& name, Colour ground, int side) {
   QIcon icon;
   if (FindPicture(name) == nullptr) return icon;
-  for (const int size : {16, 20, 24, 32, 40, 48, 64}) {
-    icon.addPixmap(PicturePixmap(name, size, 1.0, ground));
-    icon.addPixmap(PicturePixmap(name, size, 1.0, ground, kDisabledOpacity), QIcon::Disabled);
-  }
+  const double ratio = qApp->devicePixelRatio();
+  icon.addPixmap(PicturePixmap(name, side, ratio, ground));
+  icon.addPixmap(PicturePixmap(name, side, ratio, ground, kDisabledOpacity), QIcon::Disabled);
   return icon;
 }
-
-QIcon WindowIcon() { return PictureIcon("window", kAsDrawn); }
 
 Qt::CursorShape CursorFor(int mousePointer) {
   switch (mousePointer) {

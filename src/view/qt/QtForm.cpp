@@ -193,7 +193,7 @@ Entered QtForm::EnteredIn(const TextBox& box) const { return EnteredInto(static_
 void QtForm::BuryWindow(void* window) {
   auto* const widget = static_cast<QWidget*>(static_cast<QObject*>(window));
   widget->hide();
-  Bury([gone = QPointer<QWidget>(widget)] { delete gone.data(); });
+  Bury([gone = QPointer<QWidget>(widget)] { delete gone.data(); }, Tree());
 }
 
 void QtForm::HideForm() { window_->hide(); }

@@ -289,7 +289,7 @@ void WinForm::BuryWindow(void* native) {
   SetTip(window, {});
   tipTexts_.erase(window);
   ShowWindow(window, SW_HIDE);
-  Bury([window] { DestroyWindow(window); });
+  Bury([window] { DestroyWindow(window); }, Tree());
 }
 
 void WinForm::HideForm() {

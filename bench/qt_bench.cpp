@@ -1,6 +1,10 @@
-// Drag/QtRepaint: one movement of a handle with 31 attributes, up to the repainted window (off screen).
+// With 31 attributes, off screen. Drag/QtRepaint: one movement of a handle, up to the repainted window. Open/Qt: a form
+// made, shown with all its windows painted, and released again.
 #include "Models.h"
 #include "direct/frmDirectB.h"
+#include "ordering/frmIniImpOrder.h"
+#include "selection/frmTRNSelMethod.h"
+#include "tradeoffs/frmTradeOffsB.h"
 #include "view/Platform.h"
 
 #include <tarnwise/TRN_DEA.h>
@@ -12,11 +16,15 @@ namespace {
 
 using namespace Tarnwise;
 
+struct Application : QApplication {
+  Application() : QApplication(argc, argv) {}
+  static inline int argc = 1;
+  static inline char name[] = "tarnwise_bench";
+  static inline char* argv[] = {name, nullptr};
+};
+
 void DragWithRepaint(benchmark::State& state) {
-  static int argc = 1;
-  static char name[] = "tarnwise_bench";
-  static char* argv[] = {name, nullptr};
-  const QApplication application(argc, argv);
+  const Application application;
   WizardData data = FullModel(16, 0);
   const std::shared_ptr<Platform> screen = MakeQtPlatform();
   const auto form = std::make_shared<frmDirectB>(screen, data);
@@ -35,5 +43,25 @@ void DragWithRepaint(benchmark::State& state) {
   QApplication::processEvents();
 }
 BENCHMARK(DragWithRepaint)->Name("Drag/QtRepaint");
+
+template <class AForm>
+void Open(benchmark::State& state) {
+  const Application application;
+  WizardData data = FullModel(16, 0);
+  const std::shared_ptr<Platform> screen = MakeQtPlatform();
+  for (auto _ : state) {
+    const auto form = std::make_shared<AForm>(screen, data);
+    screen->Created(*form);
+    form->Load();
+    screen->Show(*form);
+    QApplication::processEvents();
+    screen->Release(*form);
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(Open<frmTRNSelMethod>)->Name("Open/QtMethod")->Unit(benchmark::kMillisecond);
+BENCHMARK(Open<frmIniImpOrder>)->Name("Open/QtOrdering")->Unit(benchmark::kMillisecond);
+BENCHMARK(Open<frmDirectB>)->Name("Open/QtDirect")->Unit(benchmark::kMillisecond);
+BENCHMARK(Open<frmTradeOffsB>)->Name("Open/QtTradeOffs")->Unit(benchmark::kMillisecond);
 
 }  // namespace

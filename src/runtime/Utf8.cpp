@@ -28,6 +28,8 @@ bool IsCodePoint(char32_t c, std::size_t more) {
   return c >= kLeast[more] && c <= 0x10FFFF && !isHalf;
 }
 
+int UnitsOf(char32_t character) { return character < 0x10000 ? 1 : 2; }
+
 }  // namespace
 
 bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
@@ -65,6 +67,25 @@ std::vector<char32_t> CharactersOf(std::string_view text) {
     } else {
       ++i;
     }
+  }
+  return characters;
+}
+
+int Utf16UnitsBefore(std::string_view text, int characters) {
+  int units = 0;
+  for (const char32_t c : CharactersOf(text)) {
+    if (characters-- <= 0) break;
+    units += UnitsOf(c);
+  }
+  return units;
+}
+
+int CharactersBefore(std::string_view text, int utf16Units) {
+  int characters = 0;
+  for (const char32_t c : CharactersOf(text)) {
+    if (utf16Units <= 0) break;
+    utf16Units -= UnitsOf(c);
+    ++characters;
   }
   return characters;
 }

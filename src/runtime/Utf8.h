@@ -23,6 +23,11 @@ bool ContinuesCharacter(char byte);
 // need be, half of a UTF-16 pair, or beyond the last code point.
 std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& i);
 
+// Carets are counted in characters by the wizard, by platforms in units of UTF-16: one to a character of the basic
+// plane, two to one beyond it. Counts past the text's end are brought to it; half a pair counts as its character.
+int Utf16UnitsBefore(std::string_view text, int characters);
+int CharactersBefore(std::string_view text, int utf16Units);
+
 // Its characters as far as they are valid; what is none is left out.
 std::vector<char32_t> CharactersOf(std::string_view text);
 

@@ -18,6 +18,7 @@ struct Grave {
 
 struct Graveyard {
   int Depth = 0;
+  std::vector<const Form*> Entered;  // the form of each entry, the outermost first
   std::vector<Grave> Graves;
   std::function<void()> Soon;
   bool AtOnce = false;
@@ -28,22 +29,34 @@ Graveyard& Yard() {
   return yard.Get();
 }
 
+// The entry that has to end first, counted from 1.
+int DepthFor(const Form* form) {
+  const std::vector<const Form*>& entered = Yard().Entered;
+  const auto first = std::find(entered.begin(), entered.end(), form);
+  if (form != nullptr && first != entered.end()) return static_cast<int>(first - entered.begin()) + 1;
+  return std::max(Yard().Depth, 1);
+}
+
 void DigSoon() {
   if (!Yard().Graves.empty() && Yard().Soon) Yard().Soon();
 }
 
 }  // namespace
 
-Entry::Entry(Form& form) : form_(form.shared_from_this()) { ++Yard().Depth; }
+Entry::Entry(Form& form) : form_(form.shared_from_this()) {
+  ++Yard().Depth;
+  Yard().Entered.push_back(&form);
+}
 
 Entry::~Entry() {
   form_.reset();
   --Yard().Depth;
+  Yard().Entered.pop_back();
   DigSoon();
 }
 
-void Bury(std::function<void()> destroy) {
-  Yard().Graves.push_back({std::move(destroy), std::max(Yard().Depth, 1)});
+void Bury(std::function<void()> destroy, const Form* of) {
+  Yard().Graves.push_back({std::move(destroy), DepthFor(of)});
   if (Yard().AtOnce && Yard().Depth == 0)
     Dig();
   else

@@ -21,8 +21,9 @@ class Entry {
   std::shared_ptr<Form> form_;
 };
 
-// Destroys a window, or all of a form's, once what runs now on this thread has returned.
-void Bury(std::function<void()> destroy);
+// Destroys a window, or all of a form's, once what runs now on this thread has returned; and where it is the form's,
+// the outermost of what is carried out on that form: it may wait in a modal call.
+void Bury(std::function<void()> destroy, const Form* of = nullptr);
 
 // How a toolkit has Dig called from the thread's message loop. `atOnce`: what is buried while nothing runs need not
 // wait for it.

@@ -24,8 +24,9 @@ struct Palette {
 // From 1, no difference, to 21, black on white: the ratio of the two luminances as seen on a screen.
 double Contrast(Colour a, Colour b);
 
-constexpr double kReadable = 4.5;     // the least contrast of a text with its ground
-constexpr int kDisabledOpacity = 35;  // percent, of a tool's picture
+constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
+constexpr double kReadable = 4.5;      // the least contrast of a text with its ground
+constexpr int kDisabledOpacity = 35;   // percent, of a tool's picture
 
 bool IsDark(Colour ground);
 

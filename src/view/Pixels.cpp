@@ -47,6 +47,14 @@ PixelRect WindowPlace(const Control& control, double scale) {
   return IsHandle(control) ? place.Grown(Scaled(kGrabMargin, scale)) : place;
 }
 
+Tools ToolsOf(const Toolbar& bar, double scale) {
+  const PixelRect place = PixelPlace(bar, scale);
+  const bool upright = place.Height() > place.Width();
+  const int count = std::max(static_cast<int>(bar.Buttons.size()), 1);
+  const int along = upright ? place.Height() : place.Width();
+  return {std::min(upright ? place.Width() : place.Height(), along / count), upright};
+}
+
 bool IsPainted(const Control& control) {
   return control.Type == Kind::Line ||
          (control.Type == Kind::Shape && !control.DragAutomatic && !control.TakesDrags() && !control.Click);

@@ -27,6 +27,12 @@ PixelRect PixelPlace(const Control& control, double scale);    // edges on whole
 PixelRect PaintedPlace(const Control& control, double scale);  // of a line or a shape, with room for its ink
 PixelRect WindowPlace(const Control& control, double scale);   // of its window: around a handle there is a margin
 
+struct Tools {  // in a row from the left, or from the top
+  int Side = 0;
+  bool Upright = false;
+};
+Tools ToolsOf(const Toolbar& bar, double scale);
+
 bool IsPainted(const Control& control);  // it has no window of its own: its container draws it
 bool IsHandle(const Control& control);   // a small drag source: drawn as a handle
 

@@ -9,8 +9,8 @@ namespace Tarnwise {
 namespace {
 
 // Its windows go with it, once nothing of theirs is on the stack.
-void BuryMirror(std::shared_ptr<Mirror> mirror) {
-  Bury([kept = std::move(mirror)] { (void)kept; });
+void BuryMirror(std::shared_ptr<Mirror> mirror, const Form* form) {
+  Bury([kept = std::move(mirror)] { (void)kept; }, form);
 }
 
 }  // namespace
@@ -18,7 +18,7 @@ void BuryMirror(std::shared_ptr<Mirror> mirror) {
 WindowedToolkit::~WindowedToolkit() {
   for (auto& [form, mirror] : mirrors_) {
     mirror->Orphan();
-    BuryMirror(std::move(mirror));
+    BuryMirror(std::move(mirror), form);
   }
 }
 
@@ -41,7 +41,7 @@ void WindowedToolkit::Release(Form& form) {
     const std::shared_ptr<Mirror> mirror = std::move(found->second);
     mirrors_.erase(found);
     mirror->Release();
-    BuryMirror(mirror);
+    BuryMirror(mirror, &form);
   }
   Wake(form);
 }

@@ -4,15 +4,7 @@
 
 #include <windows.h>
 
-#include <algorithm>
-
 namespace Tarnwise {
-
-namespace {
-
-bool IsLowSurrogate(wchar_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-
-}  // namespace
 
 std::wstring Wide(const String& text) {
   const int bytes = static_cast<int>(text.size());
@@ -34,21 +26,6 @@ std::wstring WideCharacter(char32_t character) {
   String utf8;
   AppendUtf8(utf8, character);
   return Wide(utf8);
-}
-
-int CharactersBefore(const std::wstring& text, int units) {
-  const auto end = text.begin() + std::clamp(units, 0, static_cast<int>(text.size()));
-  return static_cast<int>(std::count_if(text.begin(), end, [](wchar_t unit) { return !IsLowSurrogate(unit); }));
-}
-
-int UnitsBefore(const std::wstring& text, int characters) {
-  int units = 0;
-  for (int seen = 0; units < static_cast<int>(text.size()); ++units) {
-    if (IsLowSurrogate(text[static_cast<std::size_t>(units)])) continue;
-    if (seen == characters) break;
-    ++seen;
-  }
-  return units;
 }
 
 }  // namespace Tarnwise

@@ -11,8 +11,4 @@ std::wstring Wide(const String& text);
 String Utf8(const std::wstring& text);
 std::wstring WideCharacter(char32_t character);  // one unit, or a pair
 
-// Carets are counted in characters by the wizard, in UTF-16 units by Windows.
-int CharactersBefore(const std::wstring& text, int units);
-int UnitsBefore(const std::wstring& text, int characters);
-
 }  // namespace Tarnwise

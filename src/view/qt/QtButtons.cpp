@@ -10,7 +10,6 @@
 #include <QSignalBlocker>
 #include <QStyleOptionButton>
 #include <QToolButton>
-#include <algorithm>
 
 namespace Tarnwise {
 
@@ -52,7 +51,8 @@ void SetCaption(const QtForm& form, const Control& control, QAbstractButton& but
 
 // The widget's own toggling is undone or confirmed by what the tree says afterwards.
 void TellClicks(QtForm& form, QAbstractButton& button) {
-  QObject::connect(&button, &QAbstractButton::clicked, &form, [&form, &button] { form.Clicked(button); });
+  QObject::connect(&button, &QAbstractButton::clicked, &form,
+                   [&form, &button] { form.Clicked(form.ControlOf(&button)); });
 }
 
 QWidget* MakeButton(QtForm& form, Control& control, QWidget& parent) {
@@ -114,8 +114,8 @@ void SyncCheck(QtForm& form, Control& control, QWidget& widget) {
 
 QWidget* MakeToolbar(QtForm& /*form*/, Control& /*control*/, QWidget& parent) { return new QWidget(&parent); }
 
-void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, std::size_t place) {
-  const Toolbar::Button& button = bar.Buttons[place];
+void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, int i) {
+  const Toolbar::Button& button = bar.Buttons[static_cast<std::size_t>(i)];
   auto* const tool = new QToolButton(&widget);
   tool->setObjectName(Text(button.Key));
   tool->setAutoRaise(false);
@@ -125,10 +125,11 @@ void AddTool(QtForm& form, Toolbar& bar, QWidget& widget, std::size_t place) {
   if (FindPicture(button.Picture) == nullptr) tool->setText(Text(button.Key));
   tool->show();
   form.Watch(*tool, bar);
-  QObject::connect(tool, &QToolButton::clicked, &form, [&form, &widget, place] { form.ToolPressed(widget, place); });
+  QObject::connect(tool, &QToolButton::clicked, &form,
+                   [&form, &widget, i] { form.ToolPressed(form.ControlOf(&widget), i); });
 }
 
-QList<QToolButton*> ToolsOf(const QWidget& widget) {
+QList<QToolButton*> ButtonsIn(const QWidget& widget) {
   return widget.findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
@@ -137,19 +138,15 @@ void SetPicture(QToolButton& tool, const String& name, Colour ground) {
   const QVariant drawn = tool.property("ground");
   if (drawn.isValid() && drawn.toUInt() == ground) return;
   tool.setProperty("ground", ground);
-  tool.setIcon(PictureIcon(name, ground));
+  tool.setIcon(PictureIcon(name, ground, tool.iconSize().height()));
 }
 
 void SyncToolbar(QtForm& form, Control& control, QWidget& widget) {
   auto& bar = static_cast<Toolbar&>(control);
-  for (std::size_t i = static_cast<std::size_t>(ToolsOf(widget).size()); i < bar.Buttons.size(); ++i) {
-    AddTool(form, bar, widget, i);
-  }
-  const auto tools = ToolsOf(widget);
-  const bool upright = widget.height() > widget.width();
-  const int count = std::max(static_cast<int>(tools.size()), 1);
-  const int side =
-      std::min(upright ? widget.width() : widget.height(), (upright ? widget.height() : widget.width()) / count);
+  const int wanted = static_cast<int>(bar.Buttons.size());
+  for (int i = static_cast<int>(ButtonsIn(widget).size()); i < wanted; ++i) AddTool(form, bar, widget, i);
+  const auto tools = ButtonsIn(widget);
+  const auto [side, upright] = ToolsOf(bar, form.Scale());
   for (int i = 0; i < tools.size(); ++i) {
     tools[i]->setGeometry(upright ? 0 : i * side, upright ? i * side : 0, side, side);
     tools[i]->setIconSize(QSize(side, side) * 5 / 8);

@@ -1,6 +1,5 @@
 #include "view/qt/QtCarried.h"
 
-#include "view/Gesture.h"
 #include "view/Lifetime.h"
 #include "view/Look.h"
 #include "view/Pictures.h"
@@ -8,7 +7,6 @@
 #include "view/qt/QtPaint.h"
 
 #include <QApplication>
-#include <QLabel>
 
 namespace Tarnwise {
 
@@ -25,62 +23,57 @@ QPixmap Translucent(const QPixmap& picture) {
 }
 
 // By its file, or where that is missing by the picture of the same name.
-QPixmap IconOf(const String& path, double ratio, Colour ground) {
-  if (FindPicture(path) != nullptr) return PicturePixmap(path, kCarriedSide, ratio, ground);
+QPixmap IconOf(const String& path, int side, double ratio, Colour ground) {
+  if (FindPicture(path) != nullptr) return PicturePixmap(path, side, ratio, ground);
   QString file = Text(path);
   file.replace('\\', '/');
   const QPixmap loaded(file);
-  return loaded.isNull() ? PicturePixmap(PictureNameOf(path), kCarriedSide, ratio, ground) : loaded;
+  return loaded.isNull() ? PicturePixmap(PictureNameOf(path), side, ratio, ground) : loaded;
 }
 
-}  // namespace
-
-QPixmap QtCarried::PictureOf(const QtForm& form, const Carried& carried) {
+QPixmap PictureOf(const QtForm& form, const Carried& carried, int side) {
   if (!carried.Picture.empty()) {
-    return IconOf(carried.Picture, form.Window().devicePixelRatioF(), form.Colours().Base);
+    return IconOf(carried.Picture, side, form.Window().devicePixelRatioF(), form.Colours().Base);
   }
   QWidget* const widget = carried.Own ? form.WidgetOf(carried.Source) : nullptr;
   return widget == nullptr ? QPixmap() : Translucent(widget->grab());
 }
 
-void QtCarried::Show(QtForm& form, const Carried& carried) {
-  const String looks = carried.Source.FullName() + "|" + carried.Picture;
-  auto* ghost = static_cast<QLabel*>(ghost_.data());
-  if (ghost == nullptr || ghostOf_ != looks) {
-    const QPixmap picture = PictureOf(form, carried);
-    if (ghost == nullptr) ghost = new QLabel(&form.Window());
-    ghost->setAttribute(Qt::WA_TransparentForMouseEvents);
-    ghost->setPixmap(picture);
-    ghost->resize(picture.deviceIndependentSize().toSize());
-    ghost->setVisible(!picture.isNull());
-    ghost_ = ghost;
-    ghostOf_ = looks;
-  }
-  const bool beside = carried.ByMouse && !carried.Picture.empty();
-  const QPointF corner =
-      beside ? QPointF(kIconBesidePointer, kIconBesidePointer) : QPointF(-ghost->width() / 2.0, -ghost->height() / 2.0);
-  ghost->move((QtForm::InPixels(carried.At) + corner).toPoint());
-  ghost->raise();
-  if (carried.ByMouse) SetCursor(CursorFor(ShownPointer(carried)));
+}  // namespace
+
+PixelSize QtCarried::Make(const Mirror& mirror, const Carried& carried, int side) {
+  const auto& form = static_cast<const QtForm&>(mirror);
+  const QPixmap picture = PictureOf(form, carried, side);
+  if (ghost_.isNull()) ghost_ = new QLabel(&form.Window());
+  ghost_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  ghost_->setPixmap(picture);
+  ghost_->resize(picture.deviceIndependentSize().toSize());
+  ghost_->setVisible(!picture.isNull());
+  return {ghost_->width(), ghost_->height()};
 }
 
-void QtCarried::SetCursor(Qt::CursorShape shape) {
-  if (pointed_)
-    QApplication::changeOverrideCursor(shape);
-  else
-    QApplication::setOverrideCursor(shape);
-  pointed_ = true;
+void QtCarried::MoveTo(const Mirror& /*mirror*/, int left, int top) {
+  if (ghost_.isNull()) return;
+  ghost_->move(left, top);
+  ghost_->raise();
 }
 
-void QtCarried::Hide() {
-  if (pointed_) QApplication::restoreOverrideCursor();
-  pointed_ = false;
-  if (!ghost_.isNull()) {
-    ghost_->hide();
-    Bury([ghost = ghost_] { delete ghost.data(); });
-  }
+void QtCarried::Destroy() {
+  if (ghost_.isNull()) return;
+  ghost_->hide();
+  Bury([ghost = ghost_] { delete ghost.data(); });
   ghost_ = nullptr;
-  ghostOf_.clear();
+}
+
+void QtCarried::Point(int pointer) {
+  const bool points = pointer != kDefaultPointer;
+  if (pointed_ && points)
+    QApplication::changeOverrideCursor(CursorFor(pointer));
+  else if (points)
+    QApplication::setOverrideCursor(CursorFor(pointer));
+  else if (pointed_)
+    QApplication::restoreOverrideCursor();
+  pointed_ = points;
 }
 
 }  // namespace Tarnwise

@@ -1,28 +1,23 @@
-// What a person sees of a drag: the picture that goes along, and the pointer's shape.
+// What a person sees of a drag.
 #pragma once
 
-#include "view/Mirror.h"
+#include "view/Carrying.h"
 
-#include <QPixmap>
+#include <QLabel>
 #include <QPointer>
-#include <QWidget>
 
 namespace Tarnwise {
 
-class QtForm;
-
-class QtCarried {
- public:
-  void Show(QtForm& form, const Carried& carried);
-  void Hide();
+class QtCarried : public Carrying {
+ protected:
+  PixelSize Make(const Mirror& mirror, const Carried& carried, int side) override;
+  void MoveTo(const Mirror& mirror, int left, int top) override;
+  void Destroy() override;
+  void Point(int pointer) override;
 
  private:
-  static QPixmap PictureOf(const QtForm& form, const Carried& carried);
-  void SetCursor(Qt::CursorShape shape);
-
   bool pointed_ = false;  // the pointer has a shape of the drag's
-  QPointer<QWidget> ghost_;
-  String ghostOf_;
+  QPointer<QLabel> ghost_;
 };
 
 }  // namespace Tarnwise

@@ -15,6 +15,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QPointer>
 #include <QScreen>
 
 namespace Tarnwise {
@@ -70,12 +71,13 @@ void SetCursorOf(QWidget& widget, const Control& control) {
 }  // namespace
 
 QtForm::QtForm(Form& form, QtToolkit& toolkit)
-    : Mirror(form), toolkit_(toolkit), window_(std::make_unique<FormWindow>(*this)) {
+    : WindowedMirror(form, toolkit.Seen()), window_(std::make_unique<FormWindow>(*this)) {
   window_->setObjectName(Text(form.Name));
   window_->setFont(FontOf());
-  window_->setWindowIcon(WindowIcon());
+  window_->setWindowIcon(toolkit.WindowIcon());
   TakeColours();
   window_->setFocus();
+  Keep(form, static_cast<QObject*>(window_.get()));
   Watch(*window_, form);
   SyncAll();
   // Labels once more, as those that they stand for are there now.
@@ -88,19 +90,13 @@ QtForm::QtForm(Form& form, QtToolkit& toolkit)
 QtForm::~QtForm() = default;
 
 QWidget* QtForm::WidgetOf(const Control& control) const {
-  if (Tree() != nullptr && &control == Tree()) return window_.get();
-  const auto found = widgets_.find(&control);
-  return found == widgets_.end() ? nullptr : found->second.data();
-}
-
-Control* QtForm::ControlOf(const QObject* object) const {
-  const auto found = controls_.find(object);
-  return found == controls_.end() ? nullptr : found->second;
+  return static_cast<QWidget*>(static_cast<QObject*>(NativeOf(control)));
 }
 
 void QtForm::Watch(QObject& object, Control& control) {
-  controls_[&object] = &control;
+  WindowedMirror::Watch(&object, control);
   object.installEventFilter(this);
+  connect(&object, &QObject::destroyed, this, [this](QObject* gone) { Lose(gone); });
 }
 
 bool QtForm::Create(Control& control) {
@@ -108,7 +104,7 @@ bool QtForm::Create(Control& control) {
   if (kind == nullptr) return false;
   QWidget* const widget = kind->Make(*this, control, *WidgetOf(*control.Parent));
   widget->setObjectName(Text(control.FullName()));
-  widgets_[&control] = widget;
+  Keep(control, static_cast<QObject*>(widget));
   Watch(*widget, control);
   if (TakesFocus(control)) widget->setFocusPolicy(Qt::TabFocus);  // a press moves the focus the tree's way
   return true;
@@ -178,20 +174,6 @@ void QtForm::PaletteCame(const Control& control) {
 
 void QtForm::Repaint(const Control& container, const PixelRect& area) { WidgetOf(container)->update(ToQRect(area)); }
 
-void QtForm::RunTimer(Timer& record, int interval) {
-  QTimer*& timer = timers_[&record];
-  if (timer == nullptr) {
-    timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this, &record] {
-      if (timers_.count(&record) != 0) Hand().Ticked(*this, record);
-    });
-  }
-  if (interval == 0)
-    timer->stop();
-  else if (!timer->isActive() || timer->interval() != interval)
-    timer->start(interval);
-}
-
 void QtForm::ToFront(const Control& control) { WidgetOf(control)->raise(); }
 
 void QtForm::BorderToFront(const Control& container) {
@@ -202,41 +184,20 @@ void QtForm::BorderToFront(const Control& container) {
 
 void QtForm::FocusTree() {
   if (Tree() == nullptr) return;
-  const Control* const active = Tree()->ActiveControl;
-  QWidget* widget = active != nullptr && IsUsable(*active) ? WidgetOf(*active) : nullptr;
-  if (widget == nullptr) widget = window_.get();
+  auto* const widget = static_cast<QWidget*>(static_cast<QObject*>(KeyboardWindow()));
   if (window_->focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 
 Entered QtForm::EnteredIn(const TextBox& box) const { return EnteredInto(static_cast<QLineEdit&>(*WidgetOf(box))); }
 
-void QtForm::ShowCarried(const Carried& carried) { toolkit_.Seen().Show(*this, carried); }
-
-void QtForm::HideCarried() { toolkit_.Seen().Hide(); }
-
-void QtForm::Destroy(const Control& control) {
-  const auto timer = timers_.find(&control);
-  if (timer != timers_.end()) {
-    timer->second->stop();
-    timer->second->deleteLater();
-    timers_.erase(timer);
-  }
-  std::erase_if(controls_, [&control](const auto& entry) { return entry.second == &control; });
-  const auto found = widgets_.find(&control);
-  if (found == widgets_.end()) return;
-  if (QWidget* const widget = found->second) {
-    widget->hide();
-    Bury([gone = QPointer<QWidget>(widget)] { delete gone.data(); });
-  }
-  widgets_.erase(found);
+void QtForm::BuryWindow(void* window) {
+  auto* const widget = static_cast<QWidget*>(static_cast<QObject*>(window));
+  widget->hide();
+  Bury([gone = QPointer<QWidget>(widget)] { delete gone.data(); }, Tree());
 }
 
-void QtForm::DestroyAll() {
-  for (const auto& [control, timer] : timers_) timer->stop();
-  timers_.clear();
-  controls_.clear();
-  widgets_.clear();
-  window_->hide();
-}
+void QtForm::HideForm() { window_->hide(); }
+
+void QtForm::timerEvent(QTimerEvent* event) { TimeUp(event->timerId()); }
 
 }  // namespace Tarnwise

@@ -12,9 +12,11 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QShortcutEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace Tarnwise {
@@ -79,30 +81,6 @@ bool QtForm::Mouse(QObject& object, Control& control, QMouseEvent& event) {
   if (event.button() != Qt::LeftButton) return IgnoresOtherButtons(control);
   if (event.type() != QEvent::MouseButtonRelease) return Hand().Press(*this, control, at);
   return control.Type != Kind::Grid && Hand().Release(*this, at, [&] { object.event(&event); });
-}
-
-void QtForm::Clicked(QWidget& widget) {
-  if (Control* const control = ControlOf(&widget)) Hand().Clicked(*this, *control);
-}
-
-void QtForm::RowChosen(QWidget& widget, int row) {
-  if (Control* const list = ControlOf(&widget)) Hand().RowChosen(*this, *list, RowsOf(*list).First + row);
-}
-
-void QtForm::ToolPressed(QWidget& widget, std::size_t button) {
-  if (Control* const bar = ControlOf(&widget)) Hand().ToolPressed(*this, static_cast<Toolbar&>(*bar), button);
-}
-
-void QtForm::Scrolled(QWidget& widget, int value, bool dragging) {
-  if (Control* const bar = ControlOf(&widget)) Hand().Scrolled(*this, static_cast<VScrollBar&>(*bar), value, dragging);
-}
-
-void QtForm::CaretMoved(const QWidget& widget) {
-  if (Control* const box = ControlOf(&widget)) Gesture::StoreCaret(*this, static_cast<TextBox&>(*box));
-}
-
-void QtForm::TextCame(const QWidget& widget) {
-  if (Control* const box = ControlOf(&widget)) SyncControl(*box);
 }
 
 void QtForm::CloseWanted() {

@@ -38,7 +38,7 @@ QWidget* MakeListBox(QtForm& form, Control& control, QWidget& parent) {
   list->setCurrentIndex({});  // else the list would choose its first row as the keyboard comes
   form.Watch(*list->viewport(), control);
   QObject::connect(list, &QListWidget::currentRowChanged, &form,
-                   [&form, list](int row) { form.RowChosen(*list, row); });
+                   [&form, list](int row) { form.RowChosen(form.ControlOf(list), row); });
   return list;
 }
 
@@ -55,7 +55,8 @@ QWidget* MakeTabStrip(QtForm& form, Control& /*control*/, QWidget& parent) {
   bar->setDrawBase(true);
   bar->setExpanding(false);
   bar->setElideMode(Qt::ElideRight);
-  QObject::connect(bar, &QTabBar::currentChanged, &form, [&form, bar](int tab) { form.RowChosen(*bar, tab); });
+  QObject::connect(bar, &QTabBar::currentChanged, &form,
+                   [&form, bar](int tab) { form.RowChosen(form.ControlOf(bar), tab); });
   return bar;
 }
 
@@ -76,7 +77,8 @@ void SyncTabStrip(QtForm& /*form*/, Control& control, QWidget& widget) {
 QWidget* MakeCombo(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const combo = new QComboBox(&parent);
   combo->setMaxVisibleItems(16);
-  QObject::connect(combo, &QComboBox::activated, &form, [&form, combo](int row) { form.RowChosen(*combo, row); });
+  QObject::connect(combo, &QComboBox::activated, &form,
+                   [&form, combo](int row) { form.RowChosen(form.ControlOf(combo), row); });
   return combo;
 }
 
@@ -99,7 +101,7 @@ void SyncImageCombo(QtForm& form, Control& control, QWidget& widget) {
     const QString drawn = QString("%1 on %2").arg(Text(name)).arg(form.Colours().Base);
     if (combo.itemData(i).toString() == drawn) continue;
     combo.setItemData(i, drawn);
-    combo.setItemIcon(i, PictureIcon(name, form.Colours().Base));
+    combo.setItemIcon(i, PictureIcon(name, form.Colours().Base, combo.iconSize().height()));
   }
 }
 

@@ -9,14 +9,10 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QWidget>
-#include <algorithm>
-#include <cmath>
 
 namespace Tarnwise {
 
 namespace {
-
-constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
 
 Colour ColourOf(const QColor& colour) {
   return static_cast<Colour>(colour.red()) | (static_cast<Colour>(colour.green()) << 8U) |
@@ -91,33 +87,20 @@ QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground,
   return pixmap;
 }
 
-QIcon PictureIcon(const String& name, Colour ground) {
+QIcon PictureIcon(const String& name, Colour ground, int side) {
   QIcon icon;
   if (FindPicture(name) == nullptr) return icon;
-  for (const int size : {16, 20, 24, 32, 40, 48, 64}) {
-    icon.addPixmap(PicturePixmap(name, size, 1.0, ground));
-    icon.addPixmap(PicturePixmap(name, size, 1.0, ground, kDisabledOpacity), QIcon::Disabled);
-  }
+  const double ratio = qApp->devicePixelRatio();
+  icon.addPixmap(PicturePixmap(name, side, ratio, ground));
+  icon.addPixmap(PicturePixmap(name, side, ratio, ground, kDisabledOpacity), QIcon::Disabled);
   return icon;
 }
 
-QIcon WindowIcon() { return PictureIcon("window", kAsDrawn); }
-
 Qt::CursorShape CursorFor(int mousePointer) {
   switch (mousePointer) {
-    case 2: return Qt::CrossCursor;
-    case 3: return Qt::IBeamCursor;
-    case 5:
-    case 15: return Qt::SizeAllCursor;
-    case 6: return Qt::SizeBDiagCursor;
-    case 7: return Qt::SizeVerCursor;
-    case 8: return Qt::SizeFDiagCursor;
-    case 9: return Qt::SizeHorCursor;
-    case 10: return Qt::UpArrowCursor;
-    case 11: return Qt::WaitCursor;
-    case 12: return Qt::ForbiddenCursor;
-    case 13: return Qt::BusyCursor;
-    case 14: return Qt::WhatsThisCursor;
+    case kTextPointer: return Qt::IBeamCursor;
+    case kHourglass: return Qt::WaitCursor;
+    case kNoDrop: return Qt::ForbiddenCursor;
     case kGrabPointer: return Qt::OpenHandCursor;
     case kCarryPointer: return Qt::ClosedHandCursor;
     default: return Qt::ArrowCursor;

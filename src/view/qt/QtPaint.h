@@ -6,7 +6,6 @@
 #include "view/Pixels.h"
 
 #include <QColor>
-#include <QCursor>
 #include <QFont>
 #include <QIcon>
 #include <QPainter>
@@ -41,8 +40,7 @@ int TextWidthIn(const TypeFace& face, const String& text);  // without marks
 
 // Pictures in colours for the ground that they stand on.
 QPixmap PicturePixmap(const String& name, int size, double ratio, Colour ground, int opacity = 100);
-QIcon PictureIcon(const String& name, Colour ground);
-QIcon WindowIcon();  // has a ground of its own
+QIcon PictureIcon(const String& name, Colour ground, int side);
 
 Qt::CursorShape CursorFor(int mousePointer);
 

@@ -12,8 +12,9 @@ QWidget* MakeScrollBar(QtForm& form, Control& /*control*/, QWidget& parent) {
   auto* const bar = new QScrollBar(Qt::Vertical, &parent);
   bar->setContextMenuPolicy(Qt::NoContextMenu);
   QObject::connect(bar, &QScrollBar::valueChanged, &form,
-                   [&form, bar](int value) { form.Scrolled(*bar, value, bar->isSliderDown()); });
-  QObject::connect(bar, &QScrollBar::sliderReleased, &form, [&form, bar] { form.Scrolled(*bar, bar->value(), false); });
+                   [&form, bar](int value) { form.Scrolled(form.ControlOf(bar), value, bar->isSliderDown()); });
+  QObject::connect(bar, &QScrollBar::sliderReleased, &form,
+                   [&form, bar] { form.Scrolled(form.ControlOf(bar), bar->value(), false); });
   return bar;
 }
 

@@ -1,5 +1,7 @@
 #include "view/qt/QtTextBox.h"
 
+#include "runtime/Utf8.h"
+#include "view/Gesture.h"
 #include "view/qt/QtForm.h"
 #include "view/qt/QtKeys.h"
 #include "view/qt/QtKinds.h"
@@ -7,19 +9,10 @@
 
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <algorithm>
 
 namespace Tarnwise {
 
 namespace {
-
-// Carets are counted in characters by the tree, in UTF-16 units by Qt.
-int CharactersBefore(const QString& text, int units) { return static_cast<int>(text.left(units).toUcs4().size()); }
-
-int UnitsBefore(const QString& text, int characters) {
-  const auto codes = text.toUcs4().first(std::clamp(characters, 0, static_cast<int>(text.toUcs4().size())));
-  return static_cast<int>(QString::fromUcs4(reinterpret_cast<const char32_t*>(codes.constData()), codes.size()).size());
-}
 
 int SelectionStart(const QLineEdit& edit) {
   return edit.hasSelectedText() ? edit.selectionStart() : edit.cursorPosition();
@@ -31,9 +24,15 @@ QWidget* MakeTextBox(QtForm& form, Control& control, QWidget& parent) {
   edit->setDragEnabled(false);
   edit->setAcceptDrops(false);
   edit->setAttribute(Qt::WA_InputMethodEnabled, false);  // every character goes through the form's key events
-  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
-  QObject::connect(edit, &QLineEdit::selectionChanged, &form, [&form, edit] { form.CaretMoved(*edit); });
-  QObject::connect(edit, &QLineEdit::textChanged, &form, [&form, edit] { form.TextCame(*edit); });
+  const auto caretMoved = [&form, edit] {
+    if (Control* const box = form.ControlOf(edit)) Gesture::StoreCaret(form, static_cast<TextBox&>(*box));
+  };
+  QObject::connect(edit, &QLineEdit::cursorPositionChanged, &form, caretMoved);
+  QObject::connect(edit, &QLineEdit::selectionChanged, &form, caretMoved);
+  // A text that came by none of its keys is put back: the box shows what the tree has.
+  QObject::connect(edit, &QLineEdit::textChanged, &form, [&form, edit] {
+    if (Control* const box = form.ControlOf(edit)) form.SyncControl(*box);
+  });
   // The caret stands where the tree says until a person moves it.
   edit->setText(Text(static_cast<TextBox&>(control).Text));
   return edit;
@@ -45,8 +44,8 @@ void SyncTextBox(QtForm& /*form*/, Control& control, QWidget& widget) {
   const QSignalBlocker quiet(edit);
   const QString text = Text(box.Text);
   if (edit.text() != text) edit.setText(text);
-  const int start = UnitsBefore(text, box.SelStart);
-  const int length = UnitsBefore(text, box.SelStart() + box.SelLength()) - start;
+  const int start = Utf16UnitsBefore(box.Text(), box.SelStart);
+  const int length = Utf16UnitsBefore(box.Text(), box.SelStart() + box.SelLength()) - start;
   if (SelectionStart(edit) == start && edit.selectedText().size() == length) return;
   if (length > 0) {
     edit.setSelection(start, length);
@@ -59,10 +58,11 @@ void SyncTextBox(QtForm& /*form*/, Control& control, QWidget& widget) {
 }  // namespace
 
 Entered EnteredInto(const QLineEdit& edit) {
+  const String text = Text(edit.text());
   const int from = SelectionStart(edit);
-  const int start = CharactersBefore(edit.text(), from);
-  const int end = CharactersBefore(edit.text(), from + static_cast<int>(edit.selectedText().size()));
-  return {Text(edit.text()), start, end - start, CharactersBefore(edit.text(), edit.cursorPosition())};
+  const int start = CharactersBefore(text, from);
+  const int end = CharactersBefore(text, from + static_cast<int>(edit.selectedText().size()));
+  return {text, start, end - start, CharactersBefore(text, edit.cursorPosition())};
 }
 
 void TypeCharacter(QLineEdit& edit, int character) {

@@ -41,6 +41,12 @@ QtToolkit::~QtToolkit() { SetPointer(0); }
 
 QtForm* QtToolkit::FormOf(const Form& form) const { return static_cast<QtForm*>(MirrorOf(form)); }
 
+const QIcon& QtToolkit::WindowIcon() {
+  if (!icon_.isNull()) return icon_;
+  for (const int side : {16, 24, 32, 48}) icon_.addPixmap(PicturePixmap("window", side, 1.0, kAsDrawn));
+  return icon_;
+}
+
 std::shared_ptr<Mirror> QtToolkit::MakeMirror(Form& form) { return std::make_shared<QtForm>(form, *this); }
 
 void QtToolkit::Bring(Mirror& shown, Showing how, Mirror* front) {

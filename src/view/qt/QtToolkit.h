@@ -4,6 +4,7 @@
 #include "view/WindowedToolkit.h"
 #include "view/qt/QtCarried.h"
 
+#include <QIcon>
 #include <memory>
 #include <vector>
 
@@ -29,6 +30,7 @@ class QtToolkit : public WindowedToolkit {
 
   QtForm* FormOf(const Form& form) const;  // null while it has no window
   QtCarried& Seen() { return seen_; }
+  const QIcon& WindowIcon();  // has a ground of its own
 
  protected:
   std::shared_ptr<Mirror> MakeMirror(Form& form) override;
@@ -47,6 +49,7 @@ class QtToolkit : public WindowedToolkit {
 
   std::vector<ModalCall*> calls_;
   QtCarried seen_;
+  QIcon icon_;
   bool waiting_ = false;  // the pointer says so
 };
 

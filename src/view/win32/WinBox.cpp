@@ -69,26 +69,13 @@ void PaintGround(Canvas& canvas, const WinForm& form, const Control& container, 
   PaintContainer({surface, form.Colours(), form.Scale()}, container, ToPixelRect(client), ToPixelRect(area));
 }
 
-HWND MakeLabel(WinForm& form, Control& control, HWND parent) {
-  const DWORD notify = control.Click || control.DragAutomatic ? SS_NOTIFY : 0;
-  return NewChild(form, L"STATIC", SS_OWNERDRAW | notify, 0, parent);
+// Without it a press goes to what contains the label.
+void Notify(WinForm& /*form*/, Control& control, HWND window) {
+  if (!control.Click && !control.DragAutomatic) return;
+  SetWindowLongPtrW(window, GWL_STYLE, GetWindowLongPtrW(window, GWL_STYLE) | SS_NOTIFY);
 }
 
 void SyncLabel(WinForm& /*form*/, Control& /*control*/, HWND window) { InvalidateRect(window, nullptr, FALSE); }
-
-HWND MakeBox(WinForm& form, Control& control, HWND parent) {
-  static const bool registered = [] {
-    WNDCLASSEXW type{};
-    type.cbSize = sizeof type;
-    type.lpfnWndProc = DefWindowProcW;
-    type.hInstance = OwnModule();
-    type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    type.lpszClassName = L"TarnwiseBox";
-    return RegisterClassExW(&type) != 0;
-  }();
-  (void)registered;
-  return NewChild(form, L"TarnwiseBox", IsContainer(control) ? WS_CLIPCHILDREN : 0, 0, parent);
-}
 
 void SyncBox(WinForm& form, Control& control, HWND window) {
   const bool box = control.Type == Kind::PictureBox && IsOpaque(control);
@@ -118,7 +105,7 @@ void PaintBoxWindow(const WinForm& form, const Control& control, HWND window) {
   EndPaint(window, &paint);
 }
 
-const WinKind kWinLabel{MakeLabel, SyncLabel};
-const WinKind kWinBox{MakeBox, SyncBox};
+const WinKind kWinLabel{L"STATIC", SS_OWNERDRAW, 0, SyncLabel, Notify};
+const WinKind kWinBox{kBoxClass, WS_CLIPCHILDREN, 0, SyncBox};
 
 }  // namespace Tarnwise

@@ -21,10 +21,6 @@ void SetStyleBits(HWND window, LONG_PTR mask, LONG_PTR bits) {
   InvalidateRect(window, nullptr, TRUE);
 }
 
-HWND MakeButton(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"BUTTON", BS_PUSHBUTTON, 0, parent);
-}
-
 void SyncButton(WinForm& form, Control& control, HWND window) {
   auto& button = static_cast<CommandButton&>(control);
   const bool coloured = button.BackColor != kButtonFace || button.DragAutomatic;
@@ -41,17 +37,9 @@ void Check(HWND window, bool on) {
   }
 }
 
-HWND MakeOption(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"BUTTON", BS_RADIOBUTTON, 0, parent);
-}
-
 void SyncOption(WinForm& form, Control& control, HWND window) {
   SetCaption(form, control, window);
   Check(window, static_cast<OptionButton&>(control).Value);
-}
-
-HWND MakeCheck(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"BUTTON", BS_CHECKBOX, 0, parent);
 }
 
 void SyncCheck(WinForm& form, Control& control, HWND window) {
@@ -61,8 +49,8 @@ void SyncCheck(WinForm& form, Control& control, HWND window) {
 
 }  // namespace
 
-const WinKind kWinCommandButton{MakeButton, SyncButton};
-const WinKind kWinOptionButton{MakeOption, SyncOption};
-const WinKind kWinCheckBox{MakeCheck, SyncCheck};
+const WinKind kWinCommandButton{L"BUTTON", BS_PUSHBUTTON, 0, SyncButton};
+const WinKind kWinOptionButton{L"BUTTON", BS_RADIOBUTTON, 0, SyncOption};
+const WinKind kWinCheckBox{L"BUTTON", BS_CHECKBOX, 0, SyncCheck};
 
 }  // namespace Tarnwise

@@ -1,9 +1,10 @@
 #include "view/win32/WinCarried.h"
 
 #include "runtime/windows/OwnModule.h"
-#include "view/Gesture.h"
+#include "view/Look.h"
 #include "view/Pictures.h"
 #include "view/win32/WinForm.h"
+#include "view/win32/WinKinds.h"
 #include "view/win32/WinPaint.h"
 #include "view/win32/WinText.h"
 
@@ -15,19 +16,6 @@ namespace Tarnwise {
 namespace {
 
 constexpr BYTE kOpaque = 255 * kCarriedOpacity / 100;
-
-const wchar_t* GhostClass() {
-  static const wchar_t* const name = [] {
-    WNDCLASSEXW type{};
-    type.cbSize = sizeof type;
-    type.lpfnWndProc = DefWindowProcW;
-    type.hInstance = OwnModule();
-    type.lpszClassName = L"TarnwiseDrag";
-    RegisterClassExW(&type);
-    return L"TarnwiseDrag";
-  }();
-  return name;
-}
 
 // By its file, or where that is missing by the picture of the same name. The caller destroys it.
 HICON IconOf(const String& path, int side, Colour ground) {
@@ -47,55 +35,48 @@ void CopyWindow(HWND window, HDC to, SIZE size) {
 
 }  // namespace
 
-void WinCarried::MakeGhost(const WinForm& form, const Carried& carried) {
-  if (ghost_ != nullptr) DestroyWindow(std::exchange(ghost_, nullptr));
+PixelSize WinCarried::Make(const Mirror& mirror, const Carried& carried, int side) {
+  Destroy();
+  const auto& form = static_cast<const WinForm&>(mirror);
   const HWND window = form.WindowOf(carried.Source);
   const bool marked = !carried.Picture.empty();
-  if (window == nullptr || (!marked && !carried.Own)) return;
-  const int side = Scaled(kCarriedSide, form.Scale());
+  if (window == nullptr || (!marked && !carried.Own)) return {};
   RECT place{0, 0, side, side};
   if (!marked) GetClientRect(window, &place);
-  ghostSize_ = {WidthOf(place), HeightOf(place)};
-  Canvas canvas(ghostSize_.cx, ghostSize_.cy, 1);
+  SIZE size{WidthOf(place), HeightOf(place)};
+  Canvas canvas(size.cx, size.cy, 1);
   canvas.Fill(form.Colours().Base);
   if (marked) {
     const HICON icon = IconOf(carried.Picture, side, form.Colours().Base);
     DrawIconEx(canvas.Dc(), 0, 0, icon, side, side, 0, nullptr, DI_NORMAL);
     if (icon != nullptr) DestroyIcon(icon);
   } else {
-    CopyWindow(window, canvas.Dc(), ghostSize_);
+    CopyWindow(window, canvas.Dc(), size);
   }
   ghost_ = CreateWindowExW(WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_NOACTIVATE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST,
-                           GhostClass(), nullptr, WS_POPUP, 0, 0, ghostSize_.cx, ghostSize_.cy, form.Window(), nullptr,
+                           OwnClass(L"TarnwiseDrag"), nullptr, WS_POPUP, 0, 0, size.cx, size.cy, form.Window(), nullptr,
                            OwnModule(), nullptr);
   BLENDFUNCTION blend{AC_SRC_OVER, 0, kOpaque, 0};
   POINT origin{0, 0};
-  const COLORREF behind = marked ? form.Colours().Base : CLR_INVALID;
-  UpdateLayeredWindow(ghost_, nullptr, nullptr, &ghostSize_, canvas.Dc(), &origin, marked ? behind : 0, &blend,
+  UpdateLayeredWindow(ghost_, nullptr, nullptr, &size, canvas.Dc(), &origin, marked ? form.Colours().Base : 0, &blend,
                       marked ? ULW_COLORKEY | ULW_ALPHA : ULW_ALPHA);
+  return {size.cx, size.cy};
 }
 
-void WinCarried::Show(const WinForm& form, const Carried& carried) {
-  const String looks = carried.Source.FullName() + "|" + carried.Picture;
-  if (ghostOf_ != looks) {
-    MakeGhost(form, carried);
-    ghostOf_ = looks;
-  }
-  const LONG beside = Scaled(kIconBesidePointer, form.Scale());
-  const bool isIcon = carried.ByMouse && !carried.Picture.empty();
-  POINT at = form.InPixels(carried.At);
-  at.x += isIcon ? beside : -ghostSize_.cx / 2;
-  at.y += isIcon ? beside : -ghostSize_.cy / 2;
-  ClientToScreen(form.Window(), &at);
-  if (ghost_ != nullptr) {
-    SetWindowPos(ghost_, HWND_TOPMOST, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-  }
-  if (carried.ByMouse) SetCursor(CursorFor(ShownPointer(carried)));
+void WinCarried::MoveTo(const Mirror& mirror, int left, int top) {
+  if (ghost_ == nullptr) return;
+  POINT at{left, top};
+  ClientToScreen(static_cast<const WinForm&>(mirror).Window(), &at);
+  SetWindowPos(ghost_, HWND_TOPMOST, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
-void WinCarried::Hide() {
+void WinCarried::Destroy() {
   if (ghost_ != nullptr) DestroyWindow(std::exchange(ghost_, nullptr));
-  ghostOf_.clear();
+}
+
+// Windows gives it another one as soon as it moves.
+void WinCarried::Point(int pointer) {
+  if (pointer != kDefaultPointer) SetCursor(CursorFor(pointer));
 }
 
 }  // namespace Tarnwise

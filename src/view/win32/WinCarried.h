@@ -1,29 +1,29 @@
-// What a person sees of a drag: the picture that goes along, and the pointer's shape.
+// What a person sees of a drag.
 #pragma once
 
-#include "view/Mirror.h"
+#include "view/Carrying.h"
+
 #include "view/win32/WinApi.h"
 
 namespace Tarnwise {
 
-class WinForm;
-
-class WinCarried {
+class WinCarried : public Carrying {
  public:
   WinCarried() = default;
   WinCarried(const WinCarried&) = delete;
   WinCarried& operator=(const WinCarried&) = delete;
-  ~WinCarried() { Hide(); }
+  ~WinCarried() override {
+    if (ghost_ != nullptr) DestroyWindow(ghost_);
+  }
 
-  void Show(const WinForm& form, const Carried& carried);
-  void Hide();
+ protected:
+  PixelSize Make(const Mirror& mirror, const Carried& carried, int side) override;
+  void MoveTo(const Mirror& mirror, int left, int top) override;
+  void Destroy() override;
+  void Point(int pointer) override;
 
  private:
-  void MakeGhost(const WinForm& form, const Carried& carried);
-
-  HWND ghost_ = nullptr;
-  SIZE ghostSize_{};
-  String ghostOf_;
+  HWND ghost_ = nullptr;  // the layered window of the picture
 };
 
 }  // namespace Tarnwise

@@ -72,23 +72,9 @@ void SetName(HWND window, const Control& control) {
   }
 }
 
-const wchar_t* FormClass() {
-  static const wchar_t* const name = [] {
-    WNDCLASSEXW type{};
-    type.cbSize = sizeof type;
-    type.lpfnWndProc = DefWindowProcW;
-    type.hInstance = OwnModule();
-    type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    type.lpszClassName = L"TarnwiseForm";
-    RegisterClassExW(&type);
-    return L"TarnwiseForm";
-  }();
-  return name;
-}
-
 }  // namespace
 
-WinForm::WinForm(Form& form, WinToolkit& toolkit) : Mirror(form), toolkit_(toolkit) {}
+WinForm::WinForm(Form& form, WinToolkit& toolkit) : WindowedMirror(form, toolkit.Seen()), toolkit_(toolkit) {}
 
 WinForm::~WinForm() {
   Orphan();
@@ -98,9 +84,10 @@ WinForm::~WinForm() {
 void WinForm::MakeWindow() {
   if (window_ != nullptr) return;
   const OwnLook look;
-  window_ = CreateWindowExW(kFormExStyle, FormClass(), Wide(Tree()->Caption).c_str(), kFormStyle, 0, 0, 100, 100,
-                            nullptr, nullptr, OwnModule(), nullptr);
+  window_ = CreateWindowExW(kFormExStyle, OwnClass(L"TarnwiseForm"), Wide(Tree()->Caption).c_str(), kFormStyle, 0, 0,
+                            100, 100, nullptr, nullptr, OwnModule(), nullptr);
   if (window_ == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
+  OwnClass(kBoxClass);
   tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0,
                           window_, nullptr, OwnModule(), nullptr);
   SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, 400);
@@ -109,24 +96,18 @@ void WinForm::MakeWindow() {
   SendMessageW(window_, WM_SETICON, ICON_BIG,
                reinterpret_cast<LPARAM>(toolkit_.WindowIcon(GetSystemMetrics(SM_CXICON))));
   scale_ = FittingScale(*Tree(), DpiOf(window_) / 96.0, WorkAreaOf(window_));
+  Keep(*Tree(), window_);
   Watch(window_, *Tree());
   SyncAll();
   SendMessageW(window_, WM_UPDATEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS), 0);
 }
 
-HWND WinForm::WindowOf(const Control& control) const {
-  if (Tree() != nullptr && &control == Tree()) return window_;
-  const auto found = windows_.find(&control);
-  return found == windows_.end() ? nullptr : found->second;
-}
+HWND WinForm::WindowOf(const Control& control) const { return static_cast<HWND>(NativeOf(control)); }
 
-Control* WinForm::ControlOf(HWND window) const {
-  const auto found = controls_.find(window);
-  return found == controls_.end() ? nullptr : found->second;
-}
+Control* WinForm::ControlOf(HWND window) const { return OwnerOf(window); }
 
 void WinForm::Watch(HWND window, Control& control) {
-  controls_[window] = &control;
+  WindowedMirror::Watch(window, control);
   SetWindowSubclass(window, OnMessage, kSubclass, reinterpret_cast<DWORD_PTR>(this));
   CountWindow(1);
 }
@@ -173,10 +154,13 @@ void WinForm::Show(Showing how, HWND behind) {
 bool WinForm::Create(Control& control) {
   const WinKind* const kind = KindOf(control);
   if (kind == nullptr) return false;
-  const HWND window = kind->Make(*this, control, WindowOf(*control.Parent));
+  const HWND window = CreateWindowExW(kind->ExStyle, kind->Class, L"", WS_CHILD | WS_CLIPSIBLINGS | kind->Style, 0, 0,
+                                      10, 10, WindowOf(*control.Parent), nullptr, OwnModule(), nullptr);
   if (window == nullptr) throw RuntimeError(7, "Out of memory: Windows has no room for another window");
-  windows_[&control] = window;
+  UseBaseFont(*this, window);
+  Keep(control, window);
   Watch(window, control);
+  if (kind->Made != nullptr) kind->Made(*this, control, window);
   UseFittingStyle(window, colours_);
   return true;
 }
@@ -249,14 +233,12 @@ void WinForm::Repaint(const Control& container, const PixelRect& area) {
   RedrawWindow(WindowOf(container), &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-void WinForm::RunTimer(Timer& timer, int interval) {
-  UINT_PTR& id = timers_[&timer];
-  if (id == 0) id = nextTimer_++;
-  if (interval > 0)
-    SetTimer(window_, id, static_cast<UINT>(interval), nullptr);
-  else
-    KillTimer(window_, id);
+int WinForm::StartClock(int milliseconds) {
+  SetTimer(window_, static_cast<UINT_PTR>(++lastClock_), static_cast<UINT>(milliseconds), nullptr);
+  return lastClock_;
 }
+
+void WinForm::StopClock(int clock) { KillTimer(window_, static_cast<UINT_PTR>(clock)); }
 
 void WinForm::ToFront(const Control& control) {
   SetWindowPos(WindowOf(control), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -269,15 +251,9 @@ void WinForm::BorderToFront(const Control& container) {
 
 Entered WinForm::EnteredIn(const TextBox& box) const { return EnteredInto(WindowOf(box)); }
 
-void WinForm::ShowCarried(const Carried& carried) { toolkit_.Seen().Show(*this, carried); }
-
-void WinForm::HideCarried() { toolkit_.Seen().Hide(); }
-
 void WinForm::FocusTree() {
   if (Tree() == nullptr || window_ == nullptr || GetActiveWindow() != window_) return;
-  const Control* const active = Tree()->ActiveControl;
-  HWND wanted = active != nullptr && IsUsable(*active) ? WindowOf(*active) : nullptr;
-  if (wanted == nullptr) wanted = window_;
+  const auto wanted = static_cast<HWND>(KeyboardWindow());
   const HWND now = GetFocus();
   if (now == wanted || (wanted != window_ && IsChild(wanted, now) != 0)) return;
   focusing_ = true;
@@ -298,7 +274,9 @@ void WinForm::Rescale(double scale) {
 void WinForm::Recolour() {
   if (Tree() == nullptr) return;
   colours_ = SystemColours();
-  for (const auto& [control, window] : windows_) {
+  for (const Control* control : Tree()->Controls()) {
+    const HWND window = WindowOf(*control);
+    if (window == nullptr) continue;
     UseFittingStyle(window, colours_);
     SendMessageW(window, WM_SYSCOLORCHANGE, 0, 0);
   }
@@ -306,25 +284,15 @@ void WinForm::Recolour() {
   RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
-void WinForm::Destroy(const Control& control) {
-  std::erase_if(timers_,
-                [&](const auto& timer) { return timer.first == &control && KillTimer(window_, timer.second); });
-  std::erase_if(controls_, [&control](const auto& entry) { return entry.second == &control; });
-  const auto found = windows_.find(&control);
-  if (found == windows_.end()) return;
-  const HWND window = found->second;
-  windows_.erase(found);
+void WinForm::BuryWindow(void* native) {
+  const auto window = static_cast<HWND>(native);
   SetTip(window, {});
   tipTexts_.erase(window);
   ShowWindow(window, SW_HIDE);
-  Bury([window] { DestroyWindow(window); });
+  Bury([window] { DestroyWindow(window); }, Tree());
 }
 
-void WinForm::DestroyAll() {
-  for (const auto& [timer, id] : timers_) KillTimer(window_, id);
-  timers_.clear();
-  controls_.clear();
-  windows_.clear();
+void WinForm::HideForm() {
   if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
 }
 
@@ -333,10 +301,9 @@ void WinForm::Lost(HWND window) {
   RemoveWindowSubclass(window, OnMessage, kSubclass);
   ForgetName(window);
   CountWindow(-1);
-  controls_.erase(window);
+  Lose(window);
   tipTexts_.erase(window);
   images_.erase(window);
-  std::erase_if(windows_, [window](const auto& entry) { return entry.second == window; });
   if (window != window_) return;
   window_ = nullptr;
   if (Tree() == nullptr) return;

@@ -2,7 +2,7 @@
 // them. All windows share one message procedure, which puts what a person does to the tree.
 #pragma once
 
-#include "view/Mirror.h"
+#include "view/WindowedMirror.h"
 #include "view/win32/WinPaint.h"
 
 #include "view/win32/WinApi.h"
@@ -29,7 +29,7 @@ constexpr UINT kChoose = WM_APP + 1;     // a drop list has closed over a choice
 constexpr UINT kFocusCame = WM_APP + 2;  // by a way of the platform's own
 constexpr UINT kGivenUp = WM_APP + 3;    // a drop list has closed over none, though it may show where the person was
 
-class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
+class WinForm : public WindowedMirror, public std::enable_shared_from_this<WinForm> {
  public:
   WinForm(Form& form, WinToolkit& toolkit);
   WinForm(const WinForm&) = delete;
@@ -55,7 +55,6 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   std::optional<LRESULT> Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
   double Scale() const override { return scale_; }  // device pixels in a pixel of 96 to the inch
-  bool HasWindow(const Control& control) const override { return WindowOf(control) != nullptr; }
   void FocusTree() override;
   Touch TouchOf(const Control& control, FormPoint at) const override;
   bool IsFar(FormPoint from, FormPoint to) const override;
@@ -63,8 +62,6 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   void HoldMouse() override { SetCapture(window_); }
   void LetMouseGo() override;
   void Announce(const Label& label, bool renamed) override;
-  void ShowCarried(const Carried& carried) override;
-  void HideCarried() override;
 
  protected:
   bool Create(Control& control) override;
@@ -73,12 +70,13 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   void ShowTip(const Control& control, const String& tip) override;
   int TextWidth(const String& text, const TypeFace& face) const override;
   void ApplyForm() override;
-  void Destroy(const Control& control) override;
-  void DestroyAll() override;
+  void BuryWindow(void* window) override;
+  void HideForm() override;
   void Repaint(const Control& container, const PixelRect& area) override;
   void ToFront(const Control& control) override;
   void BorderToFront(const Control& container) override;
-  void RunTimer(Timer& timer, int interval) override;
+  int StartClock(int milliseconds) override;
+  void StopClock(int clock) override;
 
  private:
   void MakeWindow();
@@ -96,7 +94,6 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   std::optional<LRESULT> Command(WPARAM wParam, HWND from);
 
   std::optional<LRESULT> Wheel(HWND window, Control& control, WPARAM wParam, LPARAM lParam);
-  void Scrolled(VScrollBar& record, HWND bar, int code);
   bool KeyDown(HWND window, Control& control, UINT message, WPARAM wParam, LPARAM lParam);
   bool Character(HWND window, WPARAM unit);
   FormPoint PointIn(HWND window, LPARAM at) const;
@@ -106,9 +103,6 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   HWND tips_ = nullptr;
   double scale_ = 1.0;
   Palette colours_ = SystemColours();
-  std::map<const Control*, HWND> windows_;
-  std::map<HWND, Control*> controls_;
-  std::map<Timer*, UINT_PTR> timers_;
   std::map<COLORREF, Brush> brushes_;
   std::map<HWND, std::wstring> tipTexts_;
   std::map<HWND, std::pair<Images, Images>> images_;
@@ -117,7 +111,7 @@ class WinForm : public Mirror, public std::enable_shared_from_this<WinForm> {
   bool typingNow_ = false;      // a text box changes by its keys
   bool dropCharacter_ = false;  // what the key that went down would type
   wchar_t highSurrogate_ = 0;
-  UINT_PTR nextTimer_ = 1;
+  int lastClock_ = 0;
   bool focusing_ = false;  // the keyboard moves by the tree's will
 };
 

@@ -15,12 +15,9 @@ namespace {
 
 constexpr int kGridRowHeight = 24;  // pixels of the design
 
-HWND MakeGrid(WinForm& form, Control& control, HWND parent) {
-  const HWND window = NewChild(
-      form, WC_LISTVIEWW, LVS_REPORT | LVS_SHAREIMAGELISTS | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0, parent);
+void LayOutGrid(WinForm& form, Control& control, HWND window) {
   ListView_SetExtendedListViewStyle(window, LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
   form.Watch(ListView_GetHeader(window), control);
-  return window;
 }
 
 std::wstring CellText(HWND window, int row, int col) {
@@ -146,6 +143,7 @@ std::optional<LRESULT> AnswerGrid(const WinForm& form, const NMHDR& notice) {
   return (change.uChanged & LVIF_STATE) != 0 && (change.uNewState & LVIS_SELECTED) != 0 ? TRUE : FALSE;
 }
 
-const WinKind kWinGrid{MakeGrid, SyncGrid};
+const WinKind kWinGrid{WC_LISTVIEWW, LVS_REPORT | LVS_SHAREIMAGELISTS | LVS_NOSORTHEADER | LVS_SINGLESEL | WS_BORDER, 0,
+                       SyncGrid, LayOutGrid};
 
 }  // namespace Tarnwise

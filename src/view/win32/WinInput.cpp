@@ -156,11 +156,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
       return std::nullopt;
     case WM_TIMER:
       if (window != window_) return std::nullopt;
-      for (const auto& [timer, id] : timers_) {
-        if (id != wParam) continue;
-        Hand().Ticked(*this, *timer);
-        break;
-      }
+      TimeUp(static_cast<int>(wParam));
       return 0;
     case WM_CLOSE:
       if (window != window_) return std::nullopt;
@@ -182,7 +178,7 @@ std::optional<LRESULT> WinForm::Window(Control& control, HWND window, UINT messa
       return 0;
     case kChoose:
       if (Control* const list = ControlOf(reinterpret_cast<HWND>(lParam))) {
-        Hand().RowChosen(*this, *list, ChosenRow(*list, WindowOf(*list)));
+        RowChosen(list, ChosenRow(*list, WindowOf(*list)));
       }
       return 0;
     case kGivenUp: Settle(ControlOf(reinterpret_cast<HWND>(lParam))); return 0;

@@ -48,7 +48,7 @@ std::optional<LRESULT> WinForm::Keyboard(HWND window, Control& control, UINT mes
   // A list box finds its rows by letters and pages; the tree hears of the row it has gone to.
   const LRESULT answer = DefSubclassProc(window, message, wParam, lParam);
   const int row = ChosenRow(control, window);
-  if (row != static_cast<ListBox&>(control).ListIndex) Hand().RowChosen(*this, control, row);
+  if (row != static_cast<ListBox&>(control).ListIndex) RowChosen(&control, row);
   return answer;
 }
 

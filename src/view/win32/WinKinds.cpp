@@ -37,11 +37,16 @@ bool IsContainer(const Control& control) {
   return control.Type == Kind::Form || control.Type == Kind::PictureBox || control.Type == Kind::Frame;
 }
 
-HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyle, HWND parent) {
-  const HWND window = CreateWindowExW(exStyle, className, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 10, 10, parent,
-                                      nullptr, OwnModule(), nullptr);
-  UseBaseFont(form, window);
-  return window;
+const wchar_t* OwnClass(const wchar_t* name) {
+  WNDCLASSEXW type{};
+  type.cbSize = sizeof type;
+  if (GetClassInfoExW(OwnModule(), name, &type) != 0) return name;
+  type.lpfnWndProc = DefWindowProcW;
+  type.hInstance = OwnModule();
+  type.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  type.lpszClassName = name;
+  RegisterClassExW(&type);
+  return name;
 }
 
 void UseBaseFont(const WinForm& form, HWND window) { UseFont(window, BaseFont(form.Scale())); }

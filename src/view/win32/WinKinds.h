@@ -19,8 +19,11 @@ inline LRESULT Tell(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam 
 class WinForm;
 
 struct WinKind {
-  HWND (*Make)(WinForm& form, Control& control, HWND parent);
+  const wchar_t* Class;
+  DWORD Style;
+  DWORD ExStyle;
   void (*Sync)(WinForm& form, Control& control, HWND window);
+  void (*Made)(WinForm& form, Control& control, HWND window) = nullptr;  // what else it needs once
 };
 
 // Null for kinds without a window of their own: timers, lines, and shapes that only stand there.
@@ -43,15 +46,15 @@ extern const WinKind kWinImageCombo;
 extern const WinKind kWinGrid;
 extern const WinKind kWinScrollBar;
 
-// A child window of the class; it gets the form's font.
-HWND NewChild(WinForm& form, const wchar_t* className, DWORD style, DWORD exStyle, HWND parent);
+// A window class of this module without a procedure of its own, registered where it is not yet; its name.
+const wchar_t* OwnClass(const wchar_t* name);
 
 // The form's font, in the size of the present scale.
 void UseBaseFont(const WinForm& form, HWND window);
 void UseFont(HWND window, HFONT font);
 
-// The number of the row chosen in a native list, in the control's own numbers.
-int ChosenRow(const Control& control, HWND window);
+// Rows of native lists, in the control's own numbers but for the chosen one.
+int ChosenRow(const Control& control, HWND window);        // from 0
 int RowAt(const Control& control, HWND window, POINT at);  // of a list box or a tab strip; -1 where there is none
 
 // Text boxes.
@@ -72,6 +75,7 @@ void SpreadColumns(const Grid& grid, HWND list, double scale);
 
 // --- what is drawn by the tree ---
 
+constexpr const wchar_t* kBoxClass = L"TarnwiseBox";
 constexpr int kBorderId = 1;  // the child window that is a bordered box's frame
 
 // The area of the control's window, with what is behind it.

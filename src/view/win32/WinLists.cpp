@@ -59,20 +59,11 @@ void SyncRows(HWND window, const ListMessages& list, const Control& control) {
   if (Tell(window, list.Current) != chosen) Tell(window, list.SetCurrent, static_cast<WPARAM>(chosen));
 }
 
-HWND MakeListBox(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"LISTBOX", WS_VSCROLL | WS_BORDER | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
-                  0, parent);
-}
-
 void SyncListBox(WinForm& form, Control& control, HWND window) {
   UseBaseFont(form, window);
   const int height = Scaled(kRowHeight, form.Scale());
   if (Tell(window, LB_GETITEMHEIGHT) != height) Tell(window, LB_SETITEMHEIGHT, 0, height);
   SyncRows(window, kOfListBox, control);
-}
-
-HWND MakeTabStrip(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, WC_TABCONTROLW, TCS_TABS | TCS_SINGLELINE, 0, parent);
 }
 
 void SyncTabStrip(WinForm& form, Control& control, HWND window) {
@@ -91,12 +82,6 @@ void SyncTabStrip(WinForm& form, Control& control, HWND window) {
   if (TabCtrl_GetCurSel(window) != ChosenOf(control)) TabCtrl_SetCurSel(window, ChosenOf(control));
 }
 
-constexpr DWORD kDropList = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_HASSTRINGS;
-
-HWND MakeComboBox(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"COMBOBOX", kDropList, 0, parent);
-}
-
 // The closed part is as high as the record says.
 void SetClosedHeight(HWND combo, const Control& control, double scale) {
   const int height = std::max(PixelPlace(control, scale).Height() - Scaled(6, scale), 8);
@@ -111,11 +96,9 @@ void SyncComboBox(WinForm& form, Control& control, HWND window) {
   SyncRows(window, kOfCombo, control);
 }
 
-HWND MakeImageCombo(WinForm& form, Control& control, HWND parent) {
-  const HWND window = NewChild(form, WC_COMBOBOXEXW, CBS_DROPDOWNLIST | WS_VSCROLL, 0, parent);
+void WatchCombo(WinForm& form, Control& control, HWND window) {
   const auto combo = reinterpret_cast<HWND>(Tell(window, CBEM_GETCOMBOCONTROL));
   if (combo != nullptr) form.Watch(combo, control);
-  return window;
 }
 
 // Every picture that the rows name, once each.
@@ -201,7 +184,7 @@ int ChosenRow(const Control& control, HWND window) {
   const UINT asked = control.Type == Kind::ListBox    ? LB_GETCURSEL
                      : control.Type == Kind::TabStrip ? TCM_GETCURSEL
                                                       : CB_GETCURSEL;
-  return RowsOf(control).First + static_cast<int>(Tell(window, asked));
+  return static_cast<int>(Tell(window, asked));
 }
 
 int RowAt(const Control& control, HWND window, POINT at) {
@@ -215,9 +198,10 @@ int RowAt(const Control& control, HWND window, POINT at) {
   return tab < 0 ? -1 : tab + 1;
 }
 
-const WinKind kWinListBox{MakeListBox, SyncListBox};
-const WinKind kWinTabStrip{MakeTabStrip, SyncTabStrip};
-const WinKind kWinComboBox{MakeComboBox, SyncComboBox};
-const WinKind kWinImageCombo{MakeImageCombo, SyncImageCombo};
+const WinKind kWinListBox{
+    L"LISTBOX", WS_VSCROLL | WS_BORDER | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, SyncListBox};
+const WinKind kWinTabStrip{WC_TABCONTROLW, TCS_TABS | TCS_SINGLELINE, 0, SyncTabStrip};
+const WinKind kWinComboBox{L"COMBOBOX", CBS_DROPDOWNLIST | WS_VSCROLL | CBS_HASSTRINGS, 0, SyncComboBox};
+const WinKind kWinImageCombo{WC_COMBOBOXEXW, CBS_DROPDOWNLIST | WS_VSCROLL, 0, SyncImageCombo, WatchCombo};
 
 }  // namespace Tarnwise

@@ -5,13 +5,6 @@
 
 namespace Tarnwise {
 
-void WinForm::Scrolled(VScrollBar& record, HWND bar, int code) {
-  if (code == SB_ENDSCROLL)
-    Settle(&record);
-  else
-    Hand().Scrolled(*this, record, ScrolledValue(record, bar, code), code == SB_THUMBTRACK);
-}
-
 // Messages that children send to what contains them.
 std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
@@ -19,7 +12,12 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
     case WM_VSCROLL: {
       Control* const bar = ControlOf(reinterpret_cast<HWND>(lParam));
       if (bar == nullptr || bar->Type != Kind::VScrollBar) return std::nullopt;
-      Scrolled(static_cast<VScrollBar&>(*bar), reinterpret_cast<HWND>(lParam), LOWORD(wParam));
+      const int code = LOWORD(wParam);
+      if (code == SB_ENDSCROLL)
+        Settle(bar);
+      else
+        Scrolled(bar, ScrolledValue(static_cast<VScrollBar&>(*bar), reinterpret_cast<HWND>(lParam), code),
+                 code == SB_THUMBTRACK);
       return 0;
     }
     case WM_NOTIFY: {
@@ -27,7 +25,7 @@ std::optional<LRESULT> WinForm::Parent(UINT message, WPARAM wParam, LPARAM lPara
       Control* const from = ControlOf(notice.hwndFrom);
       if (from == nullptr || notice.hwndFrom != WindowOf(*from)) return std::nullopt;
       if (from->Type == Kind::TabStrip && notice.code == TCN_SELCHANGE) {
-        Hand().RowChosen(*this, *from, ChosenRow(*from, notice.hwndFrom));
+        RowChosen(from, ChosenRow(*from, notice.hwndFrom));
         return 0;
       }
       if (from->Type == Kind::Grid) return AnswerGrid(*this, notice);
@@ -68,11 +66,10 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
     case Kind::CommandButton:
     case Kind::OptionButton:
     case Kind::CheckBox:
-      if (code == BN_CLICKED && !focusing_)
-        Hand().Clicked(*this, *control);  // an option button tells its focus so, too
+      if (code == BN_CLICKED && !focusing_) Clicked(control);  // an option button tells its focus so, too
       return 0;
     case Kind::ListBox:
-      if (code == LBN_SELCHANGE) Hand().RowChosen(*this, *control, ChosenRow(*control, from));
+      if (code == LBN_SELCHANGE) RowChosen(control, ChosenRow(*control, from));
       return 0;
     case Kind::ComboBox:
     case Kind::ImageCombo:
@@ -84,7 +81,7 @@ std::optional<LRESULT> WinForm::Command(WPARAM wParam, HWND from) {
       if (code == EN_CHANGE && !typingNow_) SyncControl(*control);
       return 0;
     case Kind::Toolbar:
-      if (LOWORD(wParam) != 0) Hand().ToolPressed(*this, static_cast<Toolbar&>(*control), LOWORD(wParam) - 1U);
+      if (LOWORD(wParam) != 0) ToolPressed(control, LOWORD(wParam) - 1);
       return 0;
     default: return std::nullopt;
   }

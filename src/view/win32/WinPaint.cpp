@@ -204,21 +204,11 @@ HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity) 
 HCURSOR CursorFor(int mousePointer) {
   LPCWSTR name = IDC_ARROW;
   switch (mousePointer) {
+    case kTextPointer: name = IDC_IBEAM; break;
+    case kHourglass: name = IDC_WAIT; break;
+    case kNoDrop: name = IDC_NO; break;
     case kGrabPointer:
     case kCarryPointer: name = IDC_HAND; break;
-    case 2: name = IDC_CROSS; break;
-    case 3: name = IDC_IBEAM; break;
-    case 5:
-    case 15: name = IDC_SIZEALL; break;
-    case 6: name = IDC_SIZENESW; break;
-    case 7: name = IDC_SIZENS; break;
-    case 8: name = IDC_SIZENWSE; break;
-    case 9: name = IDC_SIZEWE; break;
-    case 10: name = IDC_UPARROW; break;
-    case 11: name = IDC_WAIT; break;
-    case 12: name = IDC_NO; break;
-    case 13: name = IDC_APPSTARTING; break;
-    case 14: name = IDC_HELP; break;
     default: break;
   }
   return LoadCursorW(nullptr, name);

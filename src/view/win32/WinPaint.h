@@ -80,8 +80,6 @@ class Canvas {
   std::uint32_t* pixels_ = nullptr;
 };
 
-constexpr Colour kAsDrawn = 0xFFFFFF;  // a ground that leaves a picture's colours as they are
-
 // A picture in colours for the ground. Null when there is none; the caller destroys it.
 HICON MakePictureIcon(const String& name, int side, Colour ground, int opacity = 100);
 

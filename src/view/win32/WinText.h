@@ -8,7 +8,15 @@
 
 namespace Tarnwise {
 
-std::wstring TextOf(HWND window);
-void SetText(HWND window, const std::wstring& text);  // only where it differs
+inline std::wstring TextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return text;
+}
+
+// Only where it differs.
+inline void SetText(HWND window, const std::wstring& text) {
+  if (TextOf(window) != text) SetWindowTextW(window, text.c_str());
+}
 
 }  // namespace Tarnwise

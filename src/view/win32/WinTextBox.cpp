@@ -1,4 +1,5 @@
 // Text boxes and scroll bars.
+#include "runtime/Utf8.h"
 #include "view/Keys.h"
 #include "view/win32/WinForm.h"
 #include "view/win32/WinKinds.h"
@@ -37,10 +38,6 @@ int PaddingOf(HWND edit, int height) {
   return std::max((height - static_cast<int>(metrics.tmHeight)) / 2, 0);
 }
 
-HWND MakeTextBox(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"EDIT", ES_AUTOHSCROLL | ES_LEFT, WS_EX_CLIENTEDGE, parent);
-}
-
 void SyncTextBox(WinForm& form, Control& control, HWND window) {
   auto& box = static_cast<TextBox&>(control);
   UseBaseFont(form, window);
@@ -50,10 +47,9 @@ void SyncTextBox(WinForm& form, Control& control, HWND window) {
     SetWindowPos(window, nullptr, 0, 0, 0, 0,
                  SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
-  const std::wstring text = Wide(box.Text);
-  SetText(window, text);
-  const int start = UnitsBefore(text, box.SelStart);
-  const int end = UnitsBefore(text, box.SelStart() + box.SelLength());
+  SetText(window, Wide(box.Text));
+  const int start = Utf16UnitsBefore(box.Text(), box.SelStart);
+  const int end = Utf16UnitsBefore(box.Text(), box.SelStart() + box.SelLength());
   const Selection now = SelectionOf(window);
   if (now.From != start || now.To != end) {
     SendMessageW(window, EM_SETSEL, static_cast<WPARAM>(start), static_cast<LPARAM>(end));
@@ -61,10 +57,6 @@ void SyncTextBox(WinForm& form, Control& control, HWND window) {
 }
 
 constexpr int kPageOf = 1;
-
-HWND MakeScrollBar(WinForm& form, Control& /*control*/, HWND parent) {
-  return NewChild(form, L"SCROLLBAR", SBS_VERT, 0, parent);
-}
 
 void SyncScrollBar(WinForm& /*form*/, Control& control, HWND window) {
   const auto& bar = static_cast<const VScrollBar&>(control);
@@ -113,11 +105,11 @@ LRESULT PaintEditBorder(HWND edit, WPARAM wParam, LPARAM lParam) {
 }
 
 Entered EnteredInto(HWND edit) {
-  const std::wstring text = TextOf(edit);
+  const String text = Utf8(TextOf(edit));
   const Selection selection = SelectionOf(edit);
   const int start = CharactersBefore(text, selection.From);
   const int end = CharactersBefore(text, selection.To);
-  return {Utf8(text), start, end - start, end};
+  return {text, start, end - start, end};
 }
 
 void TypeCharacter(HWND edit, int character) {
@@ -149,7 +141,7 @@ int ScrolledValue(const VScrollBar& bar, HWND window, int code) {
   }
 }
 
-const WinKind kWinTextBox{MakeTextBox, SyncTextBox};
-const WinKind kWinScrollBar{MakeScrollBar, SyncScrollBar};
+const WinKind kWinTextBox{L"EDIT", ES_AUTOHSCROLL | ES_LEFT, WS_EX_CLIENTEDGE, SyncTextBox};
+const WinKind kWinScrollBar{L"SCROLLBAR", SBS_VERT, 0, SyncScrollBar};
 
 }  // namespace Tarnwise

@@ -22,11 +22,9 @@ constexpr const wchar_t* kGround = L"TarnwiseGround";  // that its pictures are 
 
 constexpr LRESULT kNoBackground = 0x00400000;  // TBCDRF_NOBACKGROUND, of Windows 6
 
-HWND MakeToolbar(WinForm& form, Control& /*control*/, HWND parent) {
-  const HWND window = NewChild(form, TOOLBARCLASSNAMEW, kStyle, 0, parent);
+void LayOutToolbar(WinForm& /*form*/, Control& /*control*/, HWND window) {
   Tell(window, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
   Tell(window, TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS);  // the text of a button is its tool tip and its name
-  return window;
 }
 
 Images PicturesOf(const Toolbar& bar, int side, Colour ground, int opacity) {
@@ -63,11 +61,7 @@ void AddButtons(const Toolbar& bar, HWND window) {
 
 void SyncToolbar(WinForm& form, Control& control, HWND window) {
   const auto& bar = static_cast<const Toolbar&>(control);
-  const PixelRect place = PixelPlace(control, form.Scale());
-  const bool upright = place.Height() > place.Width();
-  const int count = std::max(static_cast<int>(bar.Buttons.size()), 1);
-  const int side =
-      std::min(upright ? place.Width() : place.Height(), (upright ? place.Height() : place.Width()) / count);
+  const auto [side, upright] = ToolsOf(bar, form.Scale());
   const bool fresh = Tell(window, TB_BUTTONCOUNT) == 0;
   const auto ground = reinterpret_cast<HANDLE>(static_cast<UINT_PTR>(GroundOf(control, form.Colours()) + 1));
   if (fresh || LOWORD(Tell(window, TB_GETBUTTONSIZE)) != side || GetPropW(window, kGround) != ground) {
@@ -115,6 +109,6 @@ LRESULT PaintTool(WinForm& form, const Control& bar, const NMTBCUSTOMDRAW& drawn
   return kNoBackground | TBCDRF_NOEDGES | TBCDRF_NOMARK;
 }
 
-const WinKind kWinToolbar{MakeToolbar, SyncToolbar};
+const WinKind kWinToolbar{TOOLBARCLASSNAMEW, kStyle, 0, SyncToolbar, LayOutToolbar};
 
 }  // namespace Tarnwise

@@ -17,7 +17,6 @@ namespace Tarnwise {
 namespace {
 
 constexpr int kDesignDpi = 96;
-constexpr Single kTwips = 15.0F;  // in a pixel of the design
 
 template <class Function>
 Function FromUser32(const char* name) {
@@ -30,6 +29,10 @@ UINT ScreenDpi() {
   const auto dpi = static_cast<UINT>(GetDeviceCaps(screen, LOGPIXELSX));
   ReleaseDC(nullptr, screen);
   return dpi;
+}
+
+Single TwipsOf(int pixels) {
+  return static_cast<Single>(MulDiv(pixels, kDesignDpi, static_cast<int>(ScreenDpi()))) * kTwipsPerPixel;
 }
 
 void UseCommonControls() {
@@ -172,18 +175,12 @@ WindowHandle WinToolkit::WindowOf(const Form& form) {
 void WinToolkit::Beep() { MessageBeep(MB_OK); }
 
 Single WinToolkit::TextWidth(const String& text) {
-  return static_cast<Single>(TextWidthIn(BaseFont(1.0), Wide(text))) * kTwips;
+  return static_cast<Single>(TextWidthIn(BaseFont(1.0), Wide(text))) * kTwipsPerPixel;
 }
 
-Single WinToolkit::ScreenWidth() {
-  const UINT dpi = ScreenDpi();
-  return static_cast<Single>(MulDiv(GetSystemMetrics(SM_CXSCREEN), kDesignDpi, static_cast<int>(dpi))) * kTwips;
-}
+Single WinToolkit::ScreenWidth() { return TwipsOf(GetSystemMetrics(SM_CXSCREEN)); }
 
-Single WinToolkit::ScreenHeight() {
-  const UINT dpi = ScreenDpi();
-  return static_cast<Single>(MulDiv(GetSystemMetrics(SM_CYSCREEN), kDesignDpi, static_cast<int>(dpi))) * kTwips;
-}
+Single WinToolkit::ScreenHeight() { return TwipsOf(GetSystemMetrics(SM_CYSCREEN)); }
 
 std::shared_ptr<Platform> MakeWin32Platform() { return std::make_shared<Platform>(std::make_shared<WinToolkit>()); }
 

@@ -210,9 +210,8 @@ Picture Face(bool benefit, FaceState state) {
 // An arrow pointing right, turned by quarters clockwise. A way back comes from a bar.
 Picture Arrow(int quarters, bool back) {
   const Colour ink = back ? kAmber : kInk;
-  std::vector<Single> head{88.0F, 50.0F, 54.0F, 20.0F, 54.0F, 80.0F};
-  std::vector<Single> shaft{back ? 30.0F : 14.0F, 50.0F, 58.0F, 50.0F};
-  std::vector<Single> bar{16.0F, 22.0F, 16.0F, 78.0F};
+  const std::vector<Single> head{88.0F, 50.0F, 54.0F, 20.0F, 54.0F, 80.0F};
+  const std::vector<Single> shaft{back ? 30.0F : 14.0F, 50.0F, 58.0F, 50.0F};
   const auto turned = [quarters](std::vector<Single> points) {
     for (int i = 0; i < quarters; ++i) {
       for (std::size_t k = 0; k < points.size(); k += 2) {
@@ -224,7 +223,7 @@ Picture Arrow(int quarters, bool back) {
     return points;
   };
   Picture picture;
-  if (back) picture.Shapes.push_back(Stroke(turned(bar), kInk, 12.0F));
+  if (back) picture.Shapes.push_back(Stroke(turned({16.0F, 22.0F, 16.0F, 78.0F}), kInk, 12.0F));
   picture.Shapes.push_back(Stroke(turned(shaft), ink, 20.0F));
   picture.Shapes.push_back(Polygon(turned(head), Filled(ink)));
   return picture;

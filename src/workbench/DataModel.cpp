@@ -1,6 +1,7 @@
 #include "workbench/DataModel.h"
 
 #include "modelfiles/WholeFile.h"
+#include "runtime/At.h"
 #include "workbench/Edits.h"
 #include "workbench/Texts.h"
 
@@ -33,8 +34,6 @@ QVariant GroundOf(CellKind kind) {
 }
 
 constexpr qsizetype kLongestHead = 30;  // of a column; the tooltip has all of it
-
-std::size_t At(int place) { return static_cast<std::size_t>(place); }
 
 }  // namespace
 
